@@ -1,0 +1,11 @@
+# A floor of the house is a static library of the sources in one folder. What it links to is what it may know:
+# an include that runs upwards fails the check in tests/house. MOC: the folder has Qt meta-objects or resources.
+function(qm6_floor name)
+  cmake_parse_arguments(FLOOR "MOC" "" "KNOWS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h"
+       "${CMAKE_CURRENT_SOURCE_DIR}/*.qrc")
+  add_library(qm6_${name} STATIC ${sources})
+  set_target_properties(qm6_${name} PROPERTIES AUTOMOC ${FLOOR_MOC} AUTORCC ${FLOOR_MOC})
+  target_include_directories(qm6_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
+  target_link_libraries(qm6_${name} PUBLIC qm6_flags ${FLOOR_KNOWS})
+endfunction()

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "chartcontrol/layout/Layout.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace QmChart6 {
+
+enum class PictureFormat { Bmp, Png, Svg, Pdf, Emf };
+
+/// What a picture is made of: the chart at a size in logical pixels.
+struct Picture {
+    Chart chart;
+    int width = 0;
+    int height = 0;
+};
+
+/// The format that a file name stands for by its extension, case apart; a name with another one, or none, is
+/// a metafile (Emf).
+PictureFormat FormatOfFileName(const QString& fileName);
+/// Device pixels to a logical pixel: 2 for "name@2x.png", up to @9x, otherwise 1. Bitmaps only.
+int ScaleOfFileName(const QString& fileName);
+
+/// The picture's bytes. `scale` is for Bmp (24 bits) and Png; the vector forms keep text as text, but for
+/// Emf, where the reader draws it. Raises error 5 for a size below 1 by 1 or a bitmap too large to hold.
+QByteArray EncodePicture(const Picture& picture, PictureFormat format, int scale = 1);
+
+/// Writes a picture in the format and scale of the file's name, whole or not at all: into a temporary file
+/// beside it, which then takes its place. Raises 76 (folder missing), 75 (a folder, not a file, or another
+/// failure, with the system's own words), 70 (no rights), 61 (disk full).
+void SavePicture(const Picture& picture, const QString& fileName);
+
+} // namespace QmChart6
