@@ -17,7 +17,7 @@ void ExpectTicks(const Ticks& ticks, double first, double step, int count) {
 
 TEST(Ticks, TheDataOfThePublishedExampleIsEnclosed) {
     ExpectTicks(ChooseTicks(8.1, 14.1, {.count = 4}), 7.5, 2.5, 4);
-    ExpectTicks(ChooseTicks(8.1, 14.1, {.count = 5}), 8, 2, 5);
+    ExpectTicks(ChooseTicks(8.1, 14.1, {.count = 7}), 8, 1, 8);
 }
 
 TEST(Ticks, HundredInSteps) {
