@@ -76,6 +76,24 @@ Chart Pies(int categories, int slices, LabelLocation location) {
     return chart;
 }
 
+/// A pie with some broad and many thin slices, whose labels tell the series' name and percent.
+Chart ThinSlices(LabelLineStyle style) {
+    Chart chart =
+        ChartOf(1, 12, [](int, int column) { return column <= 3 ? 40.0 / column : 1.0 + 0.3 * column; });
+    for (int column = 1; column <= 12; ++column) chart.DataGrid.SetColumnLabel(column, Months[column - 1]);
+    chart.SetChartType(ChartType::Pie2D);
+    chart.Title.Text = QStringLiteral("Thin Slices");
+    chart.ShowLegend = false;
+    for (int series = 1; series <= 12; ++series) {
+        DataPointLabel& label = LookOf(chart, series).DataPointLabel;
+        label.Component = LabelShowsPercent | LabelShowsSeriesName;
+        label.LocationType = LabelLocation::Outside;
+        label.LineStyle = style;
+        label.PercentFormat = QStringLiteral("0.0%");
+    }
+    return chart;
+}
+
 Chart Scatter(int columns) {
     Chart chart = ChartOf(60, columns, [](int row, int column) {
         return column % 2 == 1 ? 20 + 3.1 * row + 9 * std::sin(row * column)
@@ -300,6 +318,9 @@ const std::vector<Sample>& All() {
         {"combination-3d", 640, 420, [] { return Space(T::Combination3D); }},
         {"pie-one", 480, 360, [] { return Pies(1, 6, L::Outside); }},
         {"pie-grid", 640, 420, [] { return Pies(7, 4, L::Inside); }},
+        {"pie-straight-lines", 480, 360, [] { return ThinSlices(LabelLineStyle::Straight); }},
+        {"pie-bent-lines", 480, 360, [] { return ThinSlices(LabelLineStyle::Bent); }},
+        {"pie-thin-slices", 480, 360, [] { return ThinSlices(LabelLineStyle::None); }},
         {"pie-plain", 480, 360, [] { return Pies(3, 5, L::None); }},
         {"xy-pairs", 640, 420, [] { return Scatter(4); }},
         {"xy-unpaired", 640, 420, [] { return Scatter(3); }},
