@@ -1,0 +1,31 @@
+#include "desktop/Desktop.h"
+
+#include "desktop/Application.h"
+#include "desktop/HeadlessDesktop.h"
+#include "desktop/QtDesktop.h"
+
+#include <utility>
+
+namespace QmChart6 {
+
+namespace {
+
+Desktop* installedDesktop = nullptr;
+
+} // namespace
+
+Desktop& CurrentDesktop() {
+    if (installedDesktop != nullptr) return *installedDesktop;
+    static QtDesktop peopled;
+    static HeadlessDesktop unattended;
+    if (HasDisplay()) return peopled;
+    return unattended;
+}
+
+ScopedDesktop::ScopedDesktop(Desktop& desktop) : before_(std::exchange(installedDesktop, &desktop)) {}
+
+ScopedDesktop::~ScopedDesktop() {
+    installedDesktop = before_;
+}
+
+} // namespace QmChart6
