@@ -46,7 +46,6 @@ struct AxisScale {
     bool Hide = false;
     ScaleType Type = ScaleType::Linear;
     QmChart6::PercentBasis PercentBasis = QmChart6::PercentBasis::MaximumOfChart;
-    double LogBase = 10;
 
     friend bool operator==(const AxisScale&, const AxisScale&) = default;
 };

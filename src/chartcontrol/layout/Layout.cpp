@@ -1,0 +1,58 @@
+#include "chartcontrol/layout/Layout.h"
+
+#include "chartcontrol/layout/BackdropLayout.h"
+#include "chartcontrol/layout/CartesianLayout.h"
+#include "chartcontrol/layout/LayoutContext.h"
+#include "chartcontrol/layout/LegendLayout.h"
+#include "chartcontrol/layout/Marks.h"
+#include "chartcontrol/layout/TitleLayout.h"
+
+#include <algorithm>
+
+namespace QmChart6 {
+
+namespace {
+
+/// The margin round everything, in points; less in charts that are small.
+constexpr double Margin = 12;
+constexpr double MarginShare = 0.03;
+
+Box PlotBox(const Chart& chart, const Box& free, const Box& whole) {
+    if (chart.Plot.AutoLayout) return free;
+    const CoordinateRect& rect = chart.Plot.LocationRect;
+    const Box asked{std::min(rect.Min.X, rect.Max.X), std::min(rect.Min.Y, rect.Max.Y),
+                    std::max(rect.Min.X, rect.Max.X), std::max(rect.Min.Y, rect.Max.Y)};
+    return {std::clamp(asked.left, whole.left, whole.right), std::clamp(asked.top, whole.top, whole.bottom),
+            std::clamp(asked.right, whole.left, whole.right),
+            std::clamp(asked.bottom, whole.top, whole.bottom)};
+}
+
+} // namespace
+
+Scene LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+    Scene scene;
+    scene.size = request.size;
+    if (!(request.size.width >= 1 && request.size.height >= 1)) return scene;
+    SceneBuilder builder(scene);
+    const LayoutContext context{chart, request, measurer, builder};
+    const Box whole{0, 0, request.size.width, request.size.height};
+    LayOutBackdrop(builder, {PartCode::Chart}, chart.Backdrop, whole);
+    if (Is3D(chart.chartType())) builder.Warn(QStringLiteral("a 3D chart is drawn flat"));
+    const double margin = std::min(Margin, MarginShare * std::min(request.size.width, request.size.height));
+    Box free = whole.Grown(-(FrameDepth(chart.Backdrop.Frame) + margin));
+    LayOutTitle(context, chart.Title, PartCode::Title, free);
+    LayOutTitle(context, chart.Footnote, PartCode::Footnote, free);
+    LayOutLegend(context, free);
+    const Box box = PlotBox(chart, free, whole);
+    if (box.Width() < 1 || box.Height() < 1) {
+        builder.Warn(QStringLiteral("the chart is too small for its plot"));
+        return scene;
+    }
+    if (chart.chartType() == ChartType::Pie2D)
+        LayOutPies(context, box);
+    else
+        LayOutCartesian(context, box);
+    return scene;
+}
+
+} // namespace QmChart6

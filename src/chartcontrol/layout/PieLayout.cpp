@@ -1,0 +1,224 @@
+#include "chartcontrol/layout/LabelText.h"
+#include "chartcontrol/layout/Marks.h"
+#include "chartcontrol/layout/Occupancy.h"
+#include "chartcontrol/layout/TextBlock.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace QmChart6 {
+
+namespace {
+
+/// Points: from pie to pie, from label to pie, and the smallest pie that can still be read.
+constexpr double PieGap = 12;
+constexpr double LabelGap = 4;
+constexpr double SmallestPie = 14;
+/// The part of a pie's radius that labels outside take on each side, and where labels inside stand.
+constexpr double OutsideShare = 0.26;
+constexpr double InsideShare = 0.64;
+constexpr double LongestLabelShare = 0.9;
+constexpr double TurnStart = 90;
+
+struct PieGrid {
+    int columns = 1;
+    int rows = 1;
+    int shown = 0;
+    Size cell;
+    double labelHeight = 0;
+    double diameter = 0;
+};
+
+class PiesLayout {
+public:
+    PiesLayout(const LayoutContext& context, const Box& box)
+        : context_(context), chart_(context.chart), box_(box), texts_(context.chart), taken_(box),
+          nameFont_(chart_.Plot.Axis(AxisId::X).Labels.Item(1).VtFont) {}
+
+    void Run() {
+        grid_ = ChooseGrid();
+        if (grid_.shown < chart_.CategoryCount())
+            Warn(QStringLiteral("%1 of %2 pies have no room")
+                     .arg(chart_.CategoryCount() - grid_.shown)
+                     .arg(chart_.CategoryCount()));
+        for (int category = 0; category < grid_.shown; ++category) Pie(category);
+        if (negatives_ > 0) Warn(QStringLiteral("%1 negative values have no slice").arg(negatives_));
+        if (omittedLabels_ > 0) Warn(QStringLiteral("%1 data labels have no room").arg(omittedLabels_));
+    }
+
+private:
+    void Warn(const QString& sentence) { context_.builder.Warn(sentence); }
+
+    [[nodiscard]] SubPlotLabelPosition NamePosition() const { return chart_.Plot.SubPlotLabelPosition; }
+
+    [[nodiscard]] bool LabelsOutside() const {
+        for (const Series& series : chart_.Plot.SeriesCollection) {
+            const DataPointLabel& label = series.DataPoints.Item(DataPoints::All).DataPointLabel;
+            if (ShowsLabel(label) && label.LocationType != LabelLocation::Inside &&
+                label.LocationType != LabelLocation::Center)
+                return true;
+        }
+        return false;
+    }
+
+    [[nodiscard]] bool HasNames() const {
+        if (NamePosition() == SubPlotLabelPosition::None) return false;
+        for (int category = 1; category <= chart_.CategoryCount(); ++category)
+            if (!chart_.CategoryName(category).isEmpty()) return true;
+        return false;
+    }
+
+    [[nodiscard]] PieGrid GridOf(int pies, int columns, double labelHeight) const {
+        PieGrid grid;
+        grid.columns = columns;
+        grid.rows = (pies + columns - 1) / columns;
+        grid.shown = pies;
+        grid.cell = {(box_.Width() + PieGap) / grid.columns - PieGap,
+                     (box_.Height() + PieGap) / grid.rows - PieGap};
+        grid.labelHeight = labelHeight;
+        grid.diameter = std::min(grid.cell.width, grid.cell.height - labelHeight);
+        if (LabelsOutside()) grid.diameter *= 1 - OutsideShare;
+        return grid;
+    }
+
+    /// The number of columns that gives the largest pies; as many pies as can be read.
+    [[nodiscard]] PieGrid ChooseGrid() const {
+        const double nameHeight = context_.measurer.Measure(QStringLiteral("x"), nameFont_).Height();
+        const bool besides = HasNames() && NamePosition() != SubPlotLabelPosition::Center;
+        const double labelHeight = besides ? nameHeight + LabelGap : 0;
+        const int most =
+            std::max(1, static_cast<int>((box_.Width() + PieGap) / (SmallestPie + PieGap))) *
+            std::max(1, static_cast<int>((box_.Height() + PieGap) / (SmallestPie + labelHeight + PieGap)));
+        const int pies = std::min(chart_.CategoryCount(), most);
+        PieGrid best = GridOf(pies, 1, labelHeight);
+        for (int columns = 2; columns <= pies; ++columns) {
+            const PieGrid grid = GridOf(pies, columns, labelHeight);
+            if (grid.diameter > best.diameter + 1e-6) best = grid;
+        }
+        return best;
+    }
+
+    void Pie(int category) {
+        const int row = category / grid_.columns;
+        const int inRow = std::min(grid_.columns, grid_.shown - row * grid_.columns);
+        // A last row that is not full stands in the middle.
+        const double indent = (grid_.columns - inRow) * (grid_.cell.width + PieGap) / 2;
+        const double left = box_.left + indent + (category % grid_.columns) * (grid_.cell.width + PieGap);
+        const double top = box_.top + row * (grid_.cell.height + PieGap);
+        const bool above = NamePosition() == SubPlotLabelPosition::Above;
+        const double pieTop = top + (above ? grid_.labelHeight : 0);
+        const Point center{left + grid_.cell.width / 2, pieTop + (grid_.cell.height - grid_.labelHeight) / 2};
+        Slices(category, center);
+        Name(category, center);
+    }
+
+    [[nodiscard]] double SumOf(int category) {
+        double sum = 0;
+        for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
+            const double value = chart_.SeriesValues(series)[category];
+            if (value > 0) sum += value;
+            if (value < 0) ++negatives_;
+        }
+        return sum;
+    }
+
+    void Slices(int category, Point center) {
+        const double radius = std::max(1.0, grid_.diameter / 2);
+        const Box round{center.x - radius, center.y - radius, center.x + radius, center.y + radius};
+        const double sum = SumOf(category);
+        if (!(sum > 0)) {
+            // Nothing to divide: an empty ring keeps the pie's place.
+            context_.builder.AddSlice({PartCode::Plot}, {round, 0, 360}, {},
+                                      {PenStyle::Dashed, 0.75, chart_.Plot.Axis(AxisId::X).Pen.VtColor});
+            return;
+        }
+        const Stroke edge{PenStyle::Solid, radius > 20 ? 1.0 : 0.5, chart_.Backdrop.Fill.Brush.FillColor};
+        double before = 0;
+        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number) {
+            const double value = chart_.SeriesValues(number)[category];
+            if (!(value > 0)) continue;
+            const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
+            const double share = value / sum;
+            const double end = before + share;
+            context_.builder.AddSlice({PartCode::Series, number, category + 1},
+                                      {round, TurnStart - 360 * end, 360 * share}, FillOf(look.Brush),
+                                      share < 1 ? edge : Stroke{});
+            before = end;
+        }
+        before = 0;
+        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number) {
+            const double value = chart_.SeriesValues(number)[category];
+            if (!(value > 0)) continue;
+            Label(number, category, value, center, before + value / sum / 2);
+            before += value / sum;
+        }
+    }
+
+    void Label(int number, int category, double value, Point center, double turn) {
+        const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
+        const DataPointLabel& label = look.DataPointLabel;
+        if (!ShowsLabel(label)) return;
+        const double radius = grid_.diameter / 2;
+        const double angle = 2 * std::numbers::pi * turn;
+        const Point direction{std::sin(angle), -std::cos(angle)};
+        const bool inside =
+            label.LocationType == LabelLocation::Inside || label.LocationType == LabelLocation::Center;
+        TextBlock block =
+            BreakText(texts_.Of(label, number, category, value), label.VtFont, label.TextLayout.Orientation,
+                      {LongestLabelShare * grid_.diameter, 2}, context_.measurer);
+        const Size size = block.Extent();
+        Point middle{center.x + direction.x * radius * InsideShare,
+                     center.y + direction.y * radius * InsideShare};
+        if (!inside) {
+            const double reach = radius + LabelGap + 2;
+            middle = {center.x + direction.x * (reach + size.width / 2),
+                      center.y + direction.y * (reach + size.height / 2)};
+        }
+        const Box place{middle.x - size.width / 2, middle.y - size.height / 2, middle.x + size.width / 2,
+                        middle.y + size.height / 2};
+        if (!taken_.Take(place)) {
+            ++omittedLabels_;
+            return;
+        }
+        if (inside) block.font = ReadableFont(block.font, look.Brush.FillColor);
+        PlaceText(context_.builder, {PartCode::PointLabel, number, category + 1}, block, place,
+                  HorizontalAlignment::Center, VerticalAlignment::Center);
+    }
+
+    void Name(int category, Point center) {
+        if (NamePosition() == SubPlotLabelPosition::None) return;
+        const TextBlock block = BreakText(chart_.CategoryName(category + 1), nameFont_,
+                                          Orientation::Horizontal, {grid_.cell.width, 1}, context_.measurer);
+        const double radius = grid_.diameter / 2 * (LabelsOutside() ? 1 / (1 - OutsideShare) : 1);
+        const double depth = block.Depth() + LabelGap;
+        Box place{center.x, center.y - radius - depth, center.x, center.y - radius - LabelGap};
+        if (NamePosition() == SubPlotLabelPosition::Below)
+            place = {center.x, center.y + radius + LabelGap, center.x, center.y + radius + depth};
+        if (NamePosition() == SubPlotLabelPosition::Center) place = {center.x, center.y, center.x, center.y};
+        PlaceText(context_.builder, {PartCode::AxisLabel, static_cast<int>(AxisId::X), category + 1}, block,
+                  place, HorizontalAlignment::Center, VerticalAlignment::Center);
+    }
+
+    const LayoutContext& context_;
+    const Chart& chart_;
+    Box box_;
+    LabelTexts texts_;
+    Occupancy taken_;
+    Font nameFont_;
+    PieGrid grid_;
+    int negatives_ = 0;
+    int omittedLabels_ = 0;
+};
+
+} // namespace
+
+void LayOutPies(const LayoutContext& context, const Box& box) {
+    if (context.chart.CategoryCount() == 0 || context.chart.Plot.SeriesCollection.Count() == 0) {
+        context.builder.Warn(QStringLiteral("there is no value to show"));
+        return;
+    }
+    PiesLayout(context, box).Run();
+}
+
+} // namespace QmChart6

@@ -1,0 +1,63 @@
+#include "chartcontrol/layout/AxesPlan.h"
+#include "chartcontrol/layout/SeriesLook.h"
+#include "chartcontrol/layout/XYPairs.h"
+
+namespace QmChart6 {
+
+namespace {
+
+void IncludeAll(ValueRange& range, const Values& values) {
+    for (int i = 0; i < values.count; ++i) range.Include(values[i]);
+}
+
+void AddXY(PlotDemand& demand, const Chart& chart, int number) {
+    ValueRange& upright =
+        chart.Plot.SeriesCollection(number).SecondaryAxis ? demand.secondary : demand.primary;
+    const XYPairs pairs(chart, number);
+    for (int i = 0; i < pairs.Count(); ++i) {
+        if (!pairs.Has(i)) continue;
+        demand.across.Include(pairs.X(i));
+        upright.Include(pairs.Y(i));
+    }
+    demand.others.push_back(number);
+}
+
+void AddSeries(PlotDemand& demand, const Chart& chart, int number) {
+    const Series& series = chart.Plot.SeriesCollection(number);
+    IncludeAll(series.SecondaryAxis ? demand.secondary : demand.primary, chart.SeriesValues(number));
+    switch (MarkKindOf(chart, number)) {
+    case MarkKind::Bar:
+        demand.bars.push_back(number);
+        break;
+    case MarkKind::Area:
+        demand.areas.push_back(number);
+        break;
+    case MarkKind::Line:
+    case MarkKind::Step:
+    case MarkKind::XY:
+    case MarkKind::Pie:
+        demand.others.push_back(number);
+        break;
+    }
+}
+
+} // namespace
+
+PlotDemand DemandOf(const Chart& chart) {
+    PlotDemand demand;
+    demand.isXY = chart.chartType() == ChartType::XY2D;
+    for (int number = 1; number <= chart.Plot.SeriesCollection.Count(); ++number) {
+        if (!IsDrawn(chart, number)) continue;
+        demand.usesSecondary = demand.usesSecondary || chart.Plot.SeriesCollection(number).SecondaryAxis;
+        if (demand.isXY)
+            AddXY(demand, chart, number);
+        else
+            AddSeries(demand, chart, number);
+    }
+    demand.keepZero = !demand.bars.empty() || !demand.areas.empty();
+    demand.onEnds =
+        !demand.areas.empty() && demand.bars.empty() && demand.others.empty() && chart.CategoryCount() > 1;
+    return demand;
+}
+
+} // namespace QmChart6

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "chartcontrol/model/Chart.h"
+#include "chartcontrol/scene/SceneBuilder.h"
+
+namespace QmChart6 {
+
+// How a series is drawn, decided once for the plot and for the legend.
+
+/// What a series is drawn as. The 3D types are drawn flat.
+enum class MarkKind { Bar, Line, Area, Step, XY, Pie };
+MarkKind MarkKindOf(const Chart& chart, int series);
+
+/// The style of a series' markers; an automatic one goes by the series' number.
+MarkerStyle MarkerStyleOf(const Series& series, int number);
+
+/// Whether line and markers are drawn; a series that would show neither shows its markers.
+struct LineLook {
+    bool line = true;
+    bool markers = false;
+};
+LineLook LineLookOf(const Series& series);
+
+/// The stroke of the series' line, in the fill colour of all its points.
+Stroke LineStrokeOf(const Series& series);
+
+/// The series that are drawn: in an XY chart those that take the next column as their y, otherwise all.
+bool IsDrawn(const Chart& chart, int series);
+
+/// The name that the legend shows: the series' own; for a pair of columns "x / y".
+QString LegendName(const Chart& chart, int series);
+
+} // namespace QmChart6

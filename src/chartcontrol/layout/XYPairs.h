@@ -1,0 +1,29 @@
+#pragma once
+
+#include "chartcontrol/model/Chart.h"
+
+#include <cmath>
+
+namespace QmChart6 {
+
+/// The points of a drawn series of an XY chart: x from the series' own values, y from the next series'. An
+/// unpaired last series is y over the numbers 1, 2, 3 and so on.
+class XYPairs {
+public:
+    XYPairs(const Chart& chart, int series)
+        : own_(chart.SeriesValues(series)), paired_(series < chart.Plot.SeriesCollection.Count()),
+          next_(paired_ ? chart.SeriesValues(series + 1) : own_) {}
+
+    [[nodiscard]] int Count() const { return own_.count; }
+    [[nodiscard]] double X(int index) const { return paired_ ? own_[index] : index + 1; }
+    [[nodiscard]] double Y(int index) const { return next_[index]; }
+    /// Neither of the two is missing.
+    [[nodiscard]] bool Has(int index) const { return !std::isnan(X(index)) && !std::isnan(Y(index)); }
+
+private:
+    Values own_;
+    bool paired_;
+    Values next_;
+};
+
+} // namespace QmChart6

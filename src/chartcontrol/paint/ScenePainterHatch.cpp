@@ -1,0 +1,54 @@
+#include "chartcontrol/paint/QtColour.h"
+#include "chartcontrol/paint/ScenePainter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace QmChart6 {
+
+void ScenePainter::DrawPieces(const HatchPieces& pieces, const QRectF& within) {
+    for (const Box& box : pieces.boxes) {
+        painter_.fillRect(snaps_ ? SnappedDot(box, within) : RectOf(box), QtColourOf(pieces.ink));
+    }
+    if (!pieces.polygons.empty()) {
+        SetNoPen();
+        SetSolid(pieces.ink);
+    }
+    for (const PointRun run : pieces.polygons) {
+        TakePoints(pieces.PointsOf(run));
+        painter_.drawPolygon(buffer_.data(), static_cast<int>(buffer_.size()), Qt::OddEvenFill);
+    }
+    DrawPieceLines(pieces, within);
+}
+
+/// Whole pixels, as many for every dot of a size, so that a pattern is even at any scale.
+QRectF ScenePainter::SnappedDot(const Box& box, const QRectF& within) const {
+    const double left = grid_.x.Edge(box.left * scale_);
+    const double top = grid_.y.Edge(box.top * scale_);
+    const double width = grid_.x.Length(grid_.x.Pixels(box.Width() * scale_));
+    const double height = grid_.y.Length(grid_.y.Pixels(box.Height() * scale_));
+    return {QPointF(left, top), QPointF(std::min(left + width, std::max(left, within.right())),
+                                        std::min(top + height, std::max(top, within.bottom())))};
+}
+
+void ScenePainter::DrawPieceLines(const HatchPieces& pieces, const QRectF& within) {
+    if (pieces.lines.empty()) return;
+    const QColor ink = QtColourOf(pieces.ink);
+    const double half = pieces.lineWidth / 2;
+    SetPen(QPen(ink, pieces.lineWidth * scale_, Qt::SolidLine, Qt::FlatCap));
+    for (const HatchLine& line : pieces.lines) {
+        const bool upright = line.from.x == line.to.x;
+        if (!snaps_ || (!upright && line.from.y != line.to.y)) {
+            painter_.drawLine(At(line.from), At(line.to));
+            continue;
+        }
+        const double x = upright ? half : 0;
+        const double y = upright ? 0 : half;
+        const Box box{std::min(line.from.x, line.to.x) - x, std::min(line.from.y, line.to.y) - y,
+                      std::max(line.from.x, line.to.x) + x, std::max(line.from.y, line.to.y) + y};
+        painter_.fillRect(SnappedDot(box, within), ink);
+    }
+}
+
+} // namespace QmChart6

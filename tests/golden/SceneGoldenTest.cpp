@@ -1,0 +1,58 @@
+#include "chartcontrol/layout/Layout.h"
+#include "chartcontrol/scene/SceneJson.h"
+#include "support/SampleCharts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QString>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+// Scenes laid out with the stub font, kept as text and compared exactly. QMCHART6_REWRITE_GOLDENS=1 writes
+// them anew; read the difference before committing it.
+
+namespace QmChart6 {
+namespace {
+
+/// Scenes of large data would be large files; the tests of decimation look after those.
+bool IsKept(const Samples::Sample& sample) {
+    return sample.name.find("dense") == std::string::npos &&
+           sample.name.find("32-series") == std::string::npos;
+}
+
+std::vector<Samples::Sample> KeptSamples() {
+    std::vector<Samples::Sample> kept;
+    for (const Samples::Sample& sample : Samples::All())
+        if (IsKept(sample)) kept.push_back(sample);
+    return kept;
+}
+
+class SceneGolden : public testing::TestWithParam<Samples::Sample> {};
+
+TEST_P(SceneGolden, IsLaidOutAsBefore) {
+    const Samples::Sample& sample = GetParam();
+    const Scene scene =
+        LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer());
+    const QByteArray dump = DumpScene(scene);
+    QFile golden(QStringLiteral(QMCHART6_SOURCE_DIR "/tests/golden/scenes/%1.json")
+                     .arg(QString::fromStdString(sample.name)));
+    if (std::getenv("QMCHART6_REWRITE_GOLDENS") != nullptr) {
+        ASSERT_TRUE(golden.open(QIODevice::WriteOnly));
+        golden.write(dump);
+        GTEST_SKIP() << "written anew";
+    }
+    ASSERT_TRUE(golden.open(QIODevice::ReadOnly)) << "there is no golden of that name yet";
+    EXPECT_EQ(golden.readAll().toStdString(), dump.toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, SceneGolden, testing::ValuesIn(KeptSamples()), [](const auto& info) {
+    std::string name = info.param.name;
+    for (char& character : name)
+        if (character == '-') character = '_';
+    return name;
+});
+
+} // namespace
+} // namespace QmChart6

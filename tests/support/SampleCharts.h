@@ -1,0 +1,35 @@
+#pragma once
+
+#include "chartcontrol/model/Chart.h"
+
+#include <functional>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace QmChart6::Samples {
+
+/// A chart that goldens, the gallery and property tests share: its name, its size in logical pixels, and how
+/// to make it.
+struct Sample {
+    std::string name;
+    int width = 640;
+    int height = 420;
+    std::function<Chart()> make;
+};
+
+/// Every sample, in the order of the gallery.
+const std::vector<Sample>& All();
+
+/// The sample of a name; a name that is not there is a test's own mistake and ends it.
+const Sample& Named(const std::string& name);
+
+/// A grid of `rows` by `columns` filled by `value`(row, column), both from 1, with labels "Row 1", "Series
+/// 1".
+Chart ChartOf(int rows, int columns, const std::function<double(int, int)>& value);
+
+inline double Missing() {
+    return std::numeric_limits<double>::quiet_NaN();
+}
+
+} // namespace QmChart6::Samples
