@@ -1,7 +1,7 @@
 #include "config/ConfigurationStore.h"
 
-#include "config/Viewer.h"
 #include "chartcontrol/widget/ChartControl.h"
+#include "config/Viewer.h"
 #include "desktop/Desktop.h"
 #include "qmchart6/RuntimeError.h"
 
@@ -14,7 +14,8 @@ ConfigurationStore* installedStore = nullptr;
 void TellThatThereIsNoStore(Viewer& viewer) {
     const RuntimeError error(ErrorNumber::ActionNotSupported,
                              QStringLiteral("this build keeps no stored looks"));
-    CurrentDesktop().ShowMessage(viewer.ChartImage().window(), error.Message(), QString(), MessageButtons::Ok);
+    CurrentDesktop().ShowMessage(viewer.ChartImage().window(), error.Message(), QString(),
+                                 MessageButtons::Ok);
 }
 
 } // namespace

@@ -60,7 +60,7 @@ void EnsureApplication() {
                            QStringLiteral("the host's application object must be a QApplication"));
 }
 
-bool HasDisplay() {
+bool RunsOnADisplay() {
     EnsureApplication();
     const QString platform = QGuiApplication::platformName();
     return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");

@@ -8,7 +8,7 @@ namespace QmChart6 {
 void EnsureApplication();
 
 /// Whether windows can be seen. Makes the application where there is none.
-bool HasDisplay();
+bool RunsOnADisplay();
 
 /// The first thread that calls this is the one that may; any other gets error 5, and so does one that the
 /// host's application does not live on.

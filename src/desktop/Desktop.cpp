@@ -18,7 +18,7 @@ Desktop& CurrentDesktop() {
     if (installedDesktop != nullptr) return *installedDesktop;
     static QtDesktop peopled;
     static HeadlessDesktop unattended;
-    if (HasDisplay()) return peopled;
+    if (RunsOnADisplay()) return peopled;
     return unattended;
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 /// Ends the process with 1 where windows are seen, 2 where the platform's name is another, else 0.
 [[noreturn]] void ExitByPlatform(const char* expected) {
-    const bool seen = HasDisplay();
+    const bool seen = RunsOnADisplay();
     const bool same = QGuiApplication::platformName() == QLatin1String(expected);
     std::_Exit(seen ? 1 : (same ? 0 : 2));
 }
