@@ -4,6 +4,8 @@
 #include "desktop/HeadlessDesktop.h"
 #include "desktop/QtDesktop.h"
 
+#include <QPrinter>
+
 #include <utility>
 
 namespace QmChart6 {

@@ -6,6 +6,7 @@
 #include <optional>
 
 class QMimeData;
+class QPrinter;
 class QWidget;
 
 namespace QmChart6 {
@@ -41,6 +42,8 @@ public:
 
     /// The name of the printer that prints where none is chosen; nothing where there is no printer.
     [[nodiscard]] virtual std::optional<QString> DefaultPrinter() const = 0;
+    /// The printer of that name at its full resolution; null where there is none.
+    [[nodiscard]] virtual std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const = 0;
 };
 
 /// The process' desktop: a person's where there is a display, otherwise one that answers by itself.

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPrinter>
 #include <QPrinterInfo>
 
 namespace QmChart6 {
@@ -53,6 +54,13 @@ void QtDesktop::ClearClipboard() {
 std::optional<QString> QtDesktop::DefaultPrinter() const {
     const QString name = QPrinterInfo::defaultPrinterName();
     return name.isEmpty() ? std::nullopt : std::optional(name);
+}
+
+std::unique_ptr<QPrinter> QtDesktop::OpenPrinter(const QString& name) const {
+    const QPrinterInfo found = QPrinterInfo::printerInfo(name);
+    if (found.isNull()) return nullptr;
+    auto printer = std::make_unique<QPrinter>(found, QPrinter::HighResolution);
+    return printer->isValid() ? std::move(printer) : nullptr;
 }
 
 } // namespace QmChart6

@@ -14,6 +14,7 @@ public:
     [[nodiscard]] const QMimeData* Clipboard() const override;
     void ClearClipboard() override;
     [[nodiscard]] std::optional<QString> DefaultPrinter() const override;
+    [[nodiscard]] std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const override;
 };
 
 } // namespace QmChart6

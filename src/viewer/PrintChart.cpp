@@ -13,6 +13,7 @@
 #include <QPrinter>
 
 #include <algorithm>
+#include <memory>
 
 namespace QmChart6 {
 
@@ -49,11 +50,10 @@ void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
 void PrintChart(Viewer& viewer) {
     const std::optional<QString> name = CurrentDesktop().DefaultPrinter();
     if (!name) RaisePrinterError(QStringLiteral("there is no printer"));
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setPrinterName(*name);
-    if (!printer.isValid()) RaisePrinterError(QStringLiteral("there is no printer named \"%1\"").arg(*name));
+    const std::unique_ptr<QPrinter> printer = CurrentDesktop().OpenPrinter(*name);
+    if (!printer) RaisePrinterError(QStringLiteral("there is no printer named \"%1\"").arg(*name));
     const ChartControl& chart = viewer.ChartImage();
-    PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, printer);
+    PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, *printer);
 }
 
 } // namespace QmChart6

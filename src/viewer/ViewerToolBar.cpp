@@ -5,6 +5,7 @@
 #include "viewer/ChartTypeList.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -53,7 +54,8 @@ void ViewerToolBar::AddButton(const QString& key, int textKey, bool check) {
     const QString text = LocalText(textKey);
     QString file = key;
     file.remove(u'%');
-    QAction* action = addAction(QIcon(QStringLiteral(":/qmchart6/icons/%1.svg").arg(file)), text);
+    file = QStringLiteral(":/qmchart6/icons/%1.svg").arg(file);
+    QAction* action = addAction(QFile::exists(file) ? QIcon(file) : QIcon(), text);
     action->setObjectName(key);
     action->setToolTip(text);
     action->setCheckable(check);

@@ -2,6 +2,7 @@
 
 #include "desktop/QtDesktop.h"
 
+#include <QPrinter>
 #include <QStringList>
 
 #include <deque>
@@ -19,7 +20,9 @@ public:
     std::deque<QmChart6::Answer> answers;
     /// What the picker gives in turn; nothing when there are none left.
     std::deque<QString> files;
+    /// The default printer's name, and the PDF file that it prints into.
     std::optional<QString> printer;
+    QString printerFile;
 
     QList<Message> messages;
     QList<QmChart6::SaveFileRequest> pickers;
@@ -45,4 +48,11 @@ public:
     }
 
     [[nodiscard]] std::optional<QString> DefaultPrinter() const override { return printer; }
+    [[nodiscard]] std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const override {
+        if (printerFile.isEmpty()) return QtDesktop::OpenPrinter(name);
+        auto page = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        page->setOutputFormat(QPrinter::PdfFormat);
+        page->setOutputFileName(printerFile);
+        return page;
+    }
 };
