@@ -47,12 +47,7 @@ TEST_P(SceneGolden, IsLaidOutAsBefore) {
     EXPECT_EQ(golden.readAll().toStdString(), dump.toStdString());
 }
 
-INSTANTIATE_TEST_SUITE_P(Samples, SceneGolden, testing::ValuesIn(KeptSamples()), [](const auto& info) {
-    std::string name = info.param.name;
-    for (char& character : name)
-        if (character == '-') character = '_';
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(Samples, SceneGolden, testing::ValuesIn(KeptSamples()), Samples::TestName());
 
 } // namespace
 } // namespace QmChart6

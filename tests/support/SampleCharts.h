@@ -24,6 +24,17 @@ const std::vector<Sample>& All();
 /// The sample of a name; a name that is not there is a test's own mistake and ends it.
 const Sample& Named(const std::string& name);
 
+/// The sample's name as one of a parameterized test: letters, digits and underscores.
+struct TestName {
+    template<class Info>
+    std::string operator()(const Info& info) const {
+        std::string name = info.param.name;
+        for (char& character : name)
+            if (character == '-') character = '_';
+        return name;
+    }
+};
+
 /// A grid of `rows` by `columns` filled by `value`(row, column), both from 1, with labels "Row 1", "Series
 /// 1".
 Chart ChartOf(int rows, int columns, const std::function<double(int, int)>& value);

@@ -13,8 +13,9 @@ constexpr double TitleGapShare = 0.55;
 constexpr double DeepestLabelShare = 0.33;
 constexpr double WidestOverhangShare = 0.25;
 constexpr int MostTitleLines = 2;
-/// Each pass fits the labels to the box that the pass before left.
-constexpr int Passes = 3;
+/// Each pass fits the labels to the box that the pass before left. Margins only grow, so that it comes to
+/// rest.
+constexpr int MostPasses = 8;
 
 class Planner {
 public:
@@ -31,18 +32,21 @@ public:
         const double titlesRight = TitleRoom(AxisId::SecondaryY, plan_.secondaryTitle.Extent().width);
         const double titlesBelow = TitleRoom(AxisId::X, plan_.xTitle.Extent().height);
         margins_ = {titlesLeft, HalfLabel(), titlesRight, titlesBelow + HalfLabel()};
-        for (int pass = 0; pass < Passes; ++pass) {
+        for (int pass = 0; pass < MostPasses; ++pass) {
+            const Box before = margins_;
             FitBox();
             PlanUpright();
-            margins_.left = titlesLeft + LabelRoom(AxisId::Y, plan_.primary.LabelWidth());
-            margins_.right = titlesRight + LabelRoom(AxisId::SecondaryY, plan_.secondary.LabelWidth());
+            Grow(margins_.left, titlesLeft + LabelRoom(AxisId::Y, plan_.primary.LabelWidth()));
+            Grow(margins_.right, titlesRight + LabelRoom(AxisId::SecondaryY, plan_.secondary.LabelWidth()));
             FitBox();
             PlanAcross();
-            margins_.bottom = titlesBelow + std::max(HalfLabel(), LabelRoom(AxisId::X, AcrossDepth()));
+            Grow(margins_.bottom, titlesBelow + std::max(HalfLabel(), LabelRoom(AxisId::X, AcrossDepth())));
             LeaveRoomForOverhang(titlesLeft, titlesRight);
+            if (margins_ == before) break;
         }
         FitBox();
         PlanUpright();
+        PlanAcross();
         FitMaps();
         return plan_;
     }
@@ -70,6 +74,8 @@ private:
         plan_.yTitle = Title(AxisId::Y);
         plan_.secondaryTitle = Title(AxisId::SecondaryY);
     }
+
+    static void Grow(double& margin, double needed) { margin = std::max(margin, needed); }
 
     [[nodiscard]] double TitleRoom(AxisId id, double depth) const {
         return depth > 0 ? depth + AxesPlan::TitleGap(AxisOf(id)) : 0;
@@ -139,8 +145,8 @@ private:
             right = std::max(right, plan_.categories.ReachRight(label) - (plan_.area.box.right - x));
         }
         const double most = WidestOverhangShare * box_.Width();
-        margins_.left = std::max(margins_.left, titlesLeft + std::min(left, most));
-        margins_.right = std::max(margins_.right, titlesRight + std::min(right, most));
+        Grow(margins_.left, titlesLeft + std::min(left, most));
+        Grow(margins_.right, titlesRight + std::min(right, most));
     }
 
     void FitMaps() {

@@ -10,8 +10,16 @@ namespace QmChart6 {
 
 namespace {
 
+/// In bars narrower than this many device pixels a pattern would not be seen as one.
+constexpr double NarrowestPatterned = 5;
+
+SceneFill BarFill(const Brush& brush, bool plain) {
+    return plain && brush.Style != BrushStyle::None ? SolidFill(brush.FillColor) : FillOf(brush);
+}
+
 void LayOutSingleBars(const LayoutContext& context, const PlotArea& area, int number, double left,
                       double width) {
+    const bool plain = width * area.pixelsPerPoint < NarrowestPatterned;
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const LinearMap& map = area.MapOf(series);
     const double base = PlotArea::BaseOf(map);
@@ -22,17 +30,18 @@ void LayOutSingleBars(const LayoutContext& context, const PlotArea& area, int nu
         const double x = area.CategoryX(category) + left;
         const double y = map.At(values[category]);
         context.builder.AddRectangle({PartCode::Series, number, category + 1},
-                                     {x, std::min(y, base), x + width, std::max(y, base)}, FillOf(look.Brush),
-                                     StrokeOf(look.EdgePen));
+                                     {x, std::min(y, base), x + width, std::max(y, base)},
+                                     BarFill(look.Brush, plain), StrokeOf(look.EdgePen));
     }
 }
 
-/// Bars thinner than a device pixel: one outline along the tops of each pixel column and back along the base.
+/// Where categories are thinner than a device pixel: one bar for each pixel column, from its least to its
+/// greatest.
 void LayOutDenseBars(const LayoutContext& context, const PlotArea& area, int number, Runs& runs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const LinearMap& map = area.MapOf(series);
     const double base = PlotArea::BaseOf(map);
-    const SceneFill fill = FillOf(series.DataPoints.Item(DataPoints::All).Brush);
+    const SceneFill fill = BarFill(series.DataPoints.Item(DataPoints::All).Brush, true);
     CollectRuns(context.chart.SeriesValues(number), area, runs);
     const double column = 1 / area.pixelsPerPoint;
     const auto columnOf = [&](const Sample& sample) {

@@ -23,12 +23,18 @@ constexpr double Sine45 = std::numbers::sqrt2 / 2;
 
 constexpr std::array Strides{1, 2, 3, 4, 5, 6, 8, 10, 12, 15, 20, 24, 25, 30, 40, 50, 60, 75, 80, 100};
 
-/// The least stride of the series 1 2 3 4 5 6 8 10 12 ... 100 (times 1, 100, 10,000) that is not below
-/// `least`.
-int NiceStride(double least) {
+/// A stride that keeps the last category's label beside the first's may be this much longer than it need be.
+constexpr double LongerForTheEnd = 1.5;
+
+/// A stride of at least `least`: one that meets the last category, or the next of 1 2 3 4 5 6 8 10 12 ... 100
+/// (times 1, 100, 10,000).
+int NiceStride(double least, int count) {
+    const int start = std::max(1, static_cast<int>(std::ceil(least - 1e-9)));
+    for (int stride = start; stride <= LongerForTheEnd * start && stride < count; ++stride)
+        if ((count - 1) % stride == 0) return stride;
     for (int scale = 1;; scale *= 100)
         for (const int stride : Strides)
-            if (stride * scale >= least - 1e-9) return stride * scale;
+            if (stride * scale >= start) return stride * scale;
 }
 
 class Planner {
@@ -44,22 +50,21 @@ public:
         if (Fits(TurnedPitchShare)) return Set(CategoryLabelPlan::Way::Turned, 1);
         if (Fits(UprightPitchShare)) return Set(CategoryLabelPlan::Way::Upright, 1);
         // Levels with some left out; what a stride must at least be is known from the narrowest label.
-        for (int stride = NiceStride(font_.Size / wish_.slot); wish_.count / stride >= FewestLevel;
-             stride = NiceStride(stride + 1))
+        for (int stride = Stride(font_.Size / wish_.slot); wish_.count / stride >= FewestLevel;
+             stride = Stride(stride + 1))
             if (TryLevel(stride)) return plan_;
         return Set(CategoryLabelPlan::Way::Turned,
-                   NiceStride(TurnedPitchShare * plan_.line.Height() / wish_.slot));
+                   Stride(TurnedPitchShare * plan_.line.Height() / wish_.slot));
     }
 
 private:
+    [[nodiscard]] int Stride(double least) const { return NiceStride(least, wish_.count); }
     [[nodiscard]] bool Fits(double pitchShare) const {
         return wish_.slot >= pitchShare * plan_.line.Height();
     }
 
-    [[nodiscard]] QString Text(int category) const { return Printable(wish_.text(category)).simplified(); }
-
     [[nodiscard]] TextBlock OneLine(int category, double length) const {
-        return BreakText(Text(category), font_, Orientation::Horizontal, {length, 1}, measurer_);
+        return ElidedLine(wish_.text(category), font_, length, measurer_);
     }
 
     bool TryLevel(int stride) {
@@ -88,7 +93,7 @@ private:
         const double room = wish_.slot - GapShare * font_.Size;
         plan_.labels.clear();
         for (int category = 0; category < wish_.count; ++category) {
-            const QString text = Text(category);
+            const QString text = Printable(wish_.text(category)).simplified();
             for (const QString& word : text.split(QLatin1Char(' ')))
                 if (measurer_.Measure(word, font_).width > room) return false;
             TextBlock block =

@@ -9,7 +9,7 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr double LeastContrast = 3;
+constexpr double LeastContrast = 4.5;
 
 /// Relative luminance of a colour, WCAG 2.1.
 double Luminance(Colour colour) {

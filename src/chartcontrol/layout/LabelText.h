@@ -26,7 +26,7 @@ private:
 };
 
 /// The label's font, its colour exchanged for black or white where it would not be read on a
-/// background: below 3 : 1 in contrast (WCAG 2.1, 1.4.3, large text).
+/// background: below 4.5 : 1 in contrast (WCAG 2.1, 1.4.3).
 Font ReadableFont(const Font& font, Colour background);
 
 } // namespace QmChart6

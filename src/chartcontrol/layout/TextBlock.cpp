@@ -34,6 +34,32 @@ qsizetype FittingCharacters(const QString& text, const Font& font, double length
     return characters.isAtBoundary() ? fits : std::max<qsizetype>(0, characters.toPreviousBoundary());
 }
 
+/// Head and tail of the text round an ellipsis, the head the longer.
+QString ElideMiddle(const QString& text, const Font& font, double length, const TextMeasurer& measurer) {
+    const auto shortened = [&](qsizetype kept) {
+        const qsizetype head = (3 * kept + 4) / 5;
+        return text.left(head).trimmed() + Ellipsis + text.right(kept - head).trimmed();
+    };
+    qsizetype fits = 0;
+    qsizetype tooLong = std::min(text.size(), MostCharacters(font, length));
+    while (tooLong - fits > 1) {
+        const qsizetype middle = (fits + tooLong) / 2;
+        (measurer.Measure(shortened(middle), font).width <= length ? fits : tooLong) = middle;
+    }
+    return fits == 0 ? QString() : shortened(fits);
+}
+
+TextBlock EmptyBlock(const Font& font, Orientation orientation, const TextMeasurer& measurer) {
+    TextBlock block;
+    block.font = font;
+    block.orientation = orientation;
+    const TextExtent line = measurer.Measure(QStringLiteral("x"), font);
+    block.ascent = line.ascent;
+    block.descent = line.descent;
+    block.leading = Leading * line.Height();
+    return block;
+}
+
 class Breaker {
 public:
     Breaker(TextBlock& block, const TextRoom& room, const TextMeasurer& measurer)
@@ -188,15 +214,23 @@ QString Elide(const QString& text, const Font& font, double length, const TextMe
     return fits == 0 ? QString() : text.left(fits).trimmed() + Ellipsis;
 }
 
+TextBlock ElidedLine(const QString& text, const Font& font, double length, const TextMeasurer& measurer) {
+    TextBlock block = EmptyBlock(font, Orientation::Horizontal, measurer);
+    QString line = Printable(text).simplified();
+    double width =
+        line.size() > 2 * MostCharacters(font, length) ? length + 1 : measurer.Measure(line, font).width;
+    if (width > length) {
+        line = ElideMiddle(line, font, length, measurer);
+        width = measurer.Measure(line, font).width;
+        block.elided = true;
+    }
+    if (!line.isEmpty()) block.lines.push_back({line, width});
+    return block;
+}
+
 TextBlock BreakText(const QString& text, const Font& font, Orientation orientation, const TextRoom& room,
                     const TextMeasurer& measurer) {
-    TextBlock block;
-    block.font = font;
-    block.orientation = orientation;
-    const TextExtent line = measurer.Measure(QStringLiteral("x"), font);
-    block.ascent = line.ascent;
-    block.descent = line.descent;
-    block.leading = Leading * line.Height();
+    TextBlock block = EmptyBlock(font, orientation, measurer);
     const QString printable = Printable(text).trimmed();
     if (printable.isEmpty() || room.lines < 1) return block;
     if (orientation == Orientation::Vertical) {

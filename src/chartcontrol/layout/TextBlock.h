@@ -44,6 +44,9 @@ QString Printable(const QString& text);
 /// The text, or its beginning and "…" where it is longer than `length`; "" where not even that fits.
 QString Elide(const QString& text, const Font& font, double length, const TextMeasurer& measurer);
 
+/// One line, elided in its middle: names that begin alike stay apart by their ends.
+TextBlock ElidedLine(const QString& text, const Font& font, double length, const TextMeasurer& measurer);
+
 /// Breaks at line feeds and blanks, and within a word that is longer than a line; what does not fit the lines
 /// is elided.
 TextBlock BreakText(const QString& text, const Font& font, Orientation orientation, const TextRoom& room,

@@ -10,7 +10,7 @@ namespace QmChart6 {
 namespace {
 
 /// The room that a tick looks best with, as parts of the label font's height or width.
-constexpr double TickRoomUpright = 3.4;
+constexpr double TickRoomUpright = 4;
 constexpr double TickRoomAcross = 7;
 constexpr int MostTicks = 12;
 /// Labels side by side stay this many font sizes apart.

@@ -36,7 +36,7 @@ private:
 };
 
 struct AxisGrid {
-    Pen MajorPen{.Style = PenStyle::None, .Width = 0.75, .VtColor = {226, 230, 235}};
+    Pen MajorPen{.Style = PenStyle::None, .Width = 0.75, .VtColor = {217, 222, 229}};
 
     friend bool operator==(const AxisGrid&, const AxisGrid&) = default;
 };

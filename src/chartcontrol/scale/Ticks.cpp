@@ -24,6 +24,8 @@ constexpr int MaximumCountFactor = 3;
 
 /// Ranges smaller than this part of their values cannot be divided into steps that doubles tell apart.
 constexpr double SmallestRelativeRange = 1e-12;
+/// Below this values count as zero: their range could not be mapped onto points.
+constexpr double SmallestValue = 1e-300;
 /// Beyond this a range of two values would overflow.
 constexpr double LargestValue = 4e307;
 
@@ -109,8 +111,8 @@ struct Search {
 
 void GiveExtent(double& low, double& high, double unit) {
     const double largest = std::max(std::abs(low), std::abs(high));
-    if (high - low > largest * SmallestRelativeRange) return;
-    const double half = largest == 0 ? 0.5 : largest * 0.1;
+    if (largest >= SmallestValue && high - low > largest * SmallestRelativeRange) return;
+    const double half = largest < SmallestValue ? 0.5 : largest * 0.1;
     low -= std::max(half, unit);
     high += std::max(half, unit);
 }

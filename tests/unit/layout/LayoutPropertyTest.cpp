@@ -1,0 +1,101 @@
+#include "LayoutSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+// What holds for every sample chart at every size.
+
+namespace QmChart6 {
+namespace {
+
+constexpr double Slack = 0.01;
+
+/// Whether two turned lines of text cover common ground: no side of either separates them.
+bool Overlap(const TextLine& one, const TextLine& other) {
+    const std::array<Point, 4> a = CornersOf(one);
+    const std::array<Point, 4> b = CornersOf(other);
+    for (const auto& corners : {a, b}) {
+        for (std::size_t i = 0; i < 2; ++i) {
+            const Point axis{corners[i + 1].x - corners[i].x, corners[i + 1].y - corners[i].y};
+            const double length = std::hypot(axis.x, axis.y);
+            const auto reach = [&](const std::array<Point, 4>& box, bool least) {
+                double end = least ? 1e300 : -1e300;
+                for (const Point corner : box) {
+                    const double at = (corner.x * axis.x + corner.y * axis.y) / length;
+                    end = least ? std::min(end, at) : std::max(end, at);
+                }
+                return end;
+            };
+            if (reach(a, false) <= reach(b, true) + Slack || reach(b, false) <= reach(a, true) + Slack)
+                return false;
+        }
+    }
+    return true;
+}
+
+class EverySample : public testing::TestWithParam<Samples::Sample> {
+protected:
+    static std::vector<Size> Sizes(const Samples::Sample& sample) {
+        const Size own{sample.width * 0.75, sample.height * 0.75};
+        if (own.width < 150) return {own};
+        return {own, {own.width * 2, own.height * 2}, {own.width, own.height * 0.7}, {300, 225}};
+    }
+};
+
+TEST_P(EverySample, NoTextCoversAnother) {
+    for (const Size& size : Sizes(GetParam())) {
+        const Scene scene = LaidOut(GetParam().make(), size);
+        std::vector<TextLine> texts;
+        for (const Shape& shape : scene.shapes)
+            if (const auto* text = std::get_if<TextLine>(&shape.geometry)) texts.push_back(*text);
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            for (std::size_t j = i + 1; j < texts.size(); ++j)
+                EXPECT_FALSE(Overlap(texts[i], texts[j]))
+                    << texts[i].text.toStdString() << " and " << texts[j].text.toStdString() << " at "
+                    << size.width;
+    }
+}
+
+TEST_P(EverySample, NothingLeavesTheChart) {
+    for (const Size& size : Sizes(GetParam())) {
+        const Scene scene = LaidOut(GetParam().make(), size);
+        for (const Shape& shape : scene.shapes) {
+            const Box allowed = Box{0, 0, size.width, size.height}.Grown(Slack);
+            const auto* text = std::get_if<TextLine>(&shape.geometry);
+            EXPECT_TRUE(shape.bounds.left >= allowed.left && shape.bounds.top >= allowed.top &&
+                        shape.bounds.right <= allowed.right && shape.bounds.bottom <= allowed.bottom)
+                << "part " << static_cast<int>(shape.part.code) << ' '
+                << (text != nullptr ? text->text.toStdString() : std::string()) << " at " << size.width;
+        }
+    }
+}
+
+TEST_P(EverySample, EveryNumberIsFinite) {
+    const Scene scene = LaidOut(GetParam().make());
+    for (const Point point : scene.points) EXPECT_TRUE(std::isfinite(point.x) && std::isfinite(point.y));
+    for (const Shape& shape : scene.shapes)
+        EXPECT_TRUE(std::isfinite(shape.bounds.left) && std::isfinite(shape.bounds.bottom));
+}
+
+TEST_P(EverySample, SurvivesEverySizeFromNothingOn) {
+    const Chart chart = GetParam().make();
+    for (const double width : {0.0, 0.5, 1.0, 3.0, 10.0, 40.0, 80.0, 2000.0})
+        for (const double height : {0.0, 1.0, 10.0, 40.0, 1500.0}) {
+            const Scene scene = LaidOut(chart, {width, height});
+            for (const Shape& shape : scene.shapes)
+                ASSERT_TRUE(std::isfinite(shape.bounds.left) && std::isfinite(shape.bounds.right))
+                    << width << " by " << height;
+        }
+}
+
+TEST_P(EverySample, GivesTheSameSceneTwice) {
+    const Chart chart = GetParam().make();
+    EXPECT_EQ(LaidOut(chart).points, LaidOut(chart).points);
+    EXPECT_EQ(LaidOut(chart).shapes.size(), LaidOut(chart).shapes.size());
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, EverySample, testing::ValuesIn(Samples::All()), Samples::TestName());
+
+} // namespace
+} // namespace QmChart6
