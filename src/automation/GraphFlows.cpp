@@ -29,12 +29,12 @@ private:
     ChartControl& chart_;
 };
 
-GraphForm& ViewerFor(const QString& graphId) {
+ViewerPointer ViewerFor(const QString& graphId) {
     QString id = graphId;
-    GraphForm* viewer = FindViewer(id);
+    ViewerPointer viewer = FindViewer(id);
     if (IsViewerMissing(viewer)) return CreateViewer(id);
     if (viewer->WindowState() == 1) viewer->BringUp();
-    return *viewer;
+    return viewer;
 }
 
 void SetTitles(Chart& chart, const ChartRequest& request) {
@@ -46,10 +46,10 @@ void SetTitles(Chart& chart, const ChartRequest& request) {
 }
 
 /// The viewer of the request's id with its data and titles, made where there is none.
-GraphForm& LoadedViewer(const ChartRequest& request) {
-    GraphForm& viewer = ViewerFor(request.graphId);
-    const RepaintingOff quiet(viewer.ChartImage());
-    Chart& chart = viewer.ChartImage().Model();
+ViewerPointer LoadedViewer(const ChartRequest& request) {
+    ViewerPointer viewer = ViewerFor(request.graphId);
+    const RepaintingOff quiet(viewer->ChartImage());
+    Chart& chart = viewer->ChartImage().Model();
     FillChartData(chart, request.rows, request.columns, request.data, request.rowLabels,
                   request.columnLabels);
     SetTitles(chart, request);
@@ -61,12 +61,12 @@ void LoadLook(GraphForm& viewer, UseConfig useConfig) {
     viewer.ChartImage().Refresh();
 }
 
-GraphForm& ViewerForOutput(const ChartRequest& request) {
+ViewerPointer ViewerForOutput(const ChartRequest& request) {
     RequireFirstThread();
     EnsureApplication();
-    GraphForm& viewer = LoadedViewer(request);
-    viewer.setWindowTitle(viewer.GraphId() + QStringLiteral(" - Graph Viewer"));
-    if (request.useConfig != UseConfig::No) LoadLook(viewer, request.useConfig);
+    ViewerPointer viewer = LoadedViewer(request);
+    viewer->setWindowTitle(viewer->GraphId() + QStringLiteral(" - Graph Viewer"));
+    if (request.useConfig != UseConfig::No) LoadLook(*viewer, request.useConfig);
     return viewer;
 }
 
@@ -76,30 +76,30 @@ void MakeGraph(const ChartRequest& request, const Variant& language) {
     RequireFirstThread();
     SetLanguageCode(language.ToInt16());
     EnsureApplication();
-    GraphForm& viewer = LoadedViewer(request);
-    viewer.setWindowTitle(LocalText(CaptionKey));
+    const ViewerPointer viewer = LoadedViewer(request);
+    viewer->setWindowTitle(LocalText(CaptionKey));
     ComputeValueLabelFormat(request.data, request.rows, request.columns);
     if (request.useConfig != UseConfig::No) {
-        LoadLook(viewer, request.useConfig);
-        viewer.ShowViewer();
+        LoadLook(*viewer, request.useConfig);
+        viewer->ShowViewer();
     } else {
-        ApplyDefaultLook(viewer);
+        ApplyDefaultLook(*viewer);
     }
-    viewer.RefreshControlBar();
+    viewer->SyncControlBar();
 }
 
 void PrintGraph(const ChartRequest& request) {
-    GraphForm& viewer = ViewerForOutput(request);
-    viewer.update();
-    PrintChart(viewer);
-    viewer.update();
-    CloseViewer(viewer.GraphId());
+    const ViewerPointer viewer = ViewerForOutput(request);
+    viewer->update();
+    PrintChart(*viewer);
+    viewer->update();
+    CloseViewer(viewer->GraphId());
 }
 
 void SaveGraph(const ChartRequest& request, QString& fileName) {
-    GraphForm& viewer = ViewerForOutput(request);
-    SaveChartSnapshot(viewer, fileName);
-    CloseViewer(viewer.GraphId());
+    const ViewerPointer viewer = ViewerForOutput(request);
+    SaveChartSnapshot(*viewer, fileName);
+    CloseViewer(viewer->GraphId());
 }
 
 void KillGraph(const QString& graphId) {

@@ -14,23 +14,25 @@ QString Normalized(const QString& graphId) {
     return graphId.trimmed().toUpper();
 }
 
-} // namespace
-
-void ViewerDisposal::operator()(GraphForm* viewer) const {
-    if (QThread::currentThread()->loopLevel() == 0 && !viewer->IsClosing())
+/// Takes a closed viewer away: at once where no event is being handled that could be the viewer's own, since
+/// a host without an event loop would collect them otherwise; later where one may be.
+void Dispose(GraphForm* viewer) {
+    if (QThread::currentThread()->loopLevel() == 0 && !viewer->HandlesOwnEvent())
         delete viewer; // NOLINT(cppcoreguidelines-owning-memory): this is the owner's deleter
     else
         viewer->deleteLater();
 }
 
-GraphForm* ViewerList::At(int place) const {
+} // namespace
+
+const ViewerPointer& ViewerList::At(int place) const {
     if (place < LowerBound() || place > UpperBound())
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("a viewer's place is from %1 to %2, not %3")
                                .arg(LowerBound())
                                .arg(UpperBound())
                                .arg(place));
-    return slots_[static_cast<std::size_t>(place - LowerBound())].get();
+    return slots_[static_cast<std::size_t>(place - LowerBound())];
 }
 
 void ViewerList::Append(ViewerPointer viewer) {
@@ -55,7 +57,7 @@ int PlaceOf(const QString& normalizedId) {
     const ViewerList& viewers = Viewers();
     int place = viewers.LowerBound();
     for (; place <= viewers.UpperBound(); ++place) {
-        const GraphForm* viewer = viewers.At(place);
+        const ViewerPointer& viewer = viewers.At(place);
         if (viewer != nullptr && viewer->GraphId().toUpper() == normalizedId) break;
     }
     return place;
@@ -63,19 +65,19 @@ int PlaceOf(const QString& normalizedId) {
 
 } // namespace
 
-GraphForm* FindViewer(QString& graphId) {
+ViewerPointer FindViewer(QString& graphId) {
     graphId = Normalized(graphId);
     const int place = PlaceOf(graphId);
     return place <= Viewers().UpperBound() ? Viewers().At(place) : nullptr;
 }
 
-GraphForm& CreateViewer(const QString& graphId) {
-    ViewerPointer viewer(new GraphForm);
+ViewerPointer CreateViewer(const QString& graphId) {
+    ViewerPointer viewer(new GraphForm, Dispose);
+    Viewers().Append(viewer);
+    viewer->SetGraphId(Normalized(graphId));
     GraphForm& form = *viewer;
-    Viewers().Append(std::move(viewer));
-    form.SetGraphId(Normalized(graphId));
     QObject::connect(&form, &GraphForm::Closed, &form, [&form] { CloseViewer(form.GraphId()); });
-    return form;
+    return viewer;
 }
 
 void CloseViewer(const QString& graphId) {
@@ -86,7 +88,7 @@ void CloseViewer(const QString& graphId) {
     viewer->close();
 }
 
-GraphForm& RequireViewer(GraphForm* viewer) {
+GraphForm& RequireViewer(const ViewerPointer& viewer) {
     if (viewer == nullptr)
         throw RuntimeError(ErrorNumber::ObjectNotSet, QStringLiteral("there is no viewer"));
     return *viewer;
@@ -102,13 +104,13 @@ bool IsViewerMissing(const std::function<void()>& useReference) {
     return false;
 }
 
-bool IsViewerMissing(GraphForm* viewer) {
-    return IsViewerMissing([viewer] { RequireViewer(viewer); });
+bool IsViewerMissing(const ViewerPointer& viewer) {
+    return IsViewerMissing([&viewer] { RequireViewer(viewer); });
 }
 
 bool AnyViewerShown() {
     for (int place = Viewers().LowerBound(); place <= Viewers().UpperBound(); ++place) {
-        const GraphForm* viewer = Viewers().At(place);
+        const ViewerPointer& viewer = Viewers().At(place);
         if (viewer != nullptr && viewer->isVisible()) return true;
     }
     return false;

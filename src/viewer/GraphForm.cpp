@@ -43,6 +43,24 @@ QRect PixelsOfPlace(const ChartPlace& place, const QRect& before) {
 
 } // namespace
 
+/// Keeps the form alive until the event is over, also when a message box waits in the middle of it.
+class GraphForm::OwnEvent {
+public:
+    explicit OwnEvent(GraphForm& form) : form_(form), self_(form.weak_from_this().lock()) {
+        ++form_.ownEvents_;
+    }
+    ~OwnEvent() {
+        self_.reset(); // the last owner's deleter must still see the event
+        --form_.ownEvents_;
+    }
+    OwnEvent(const OwnEvent&) = delete;
+    OwnEvent& operator=(const OwnEvent&) = delete;
+
+private:
+    GraphForm& form_;
+    std::shared_ptr<GraphForm> self_;
+};
+
 GraphForm::GraphForm(QWidget* parent)
     : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)),
       tbControlBar_(new ViewerToolBar(this)), sbGraph_(new ViewerStatusBar(this)),
@@ -86,17 +104,22 @@ void GraphForm::ConnectCommands() {
 
     connect(timGraph_, &QTimer::timeout, this, [this] { sbGraph_->Panel(4).SetText({}); });
     connect(mProperties_->optControlBar, &QAction::triggered, this, [this] { SetControlBar(!ControlBar()); });
-    const auto print = [this] { ShowErrors(this, [this] { PrintChart(*this); }); };
+    const auto print = [this] { Do([](GraphForm& form) { PrintChart(form); }); };
     connect(mProperties_->optPrint, &QAction::triggered, this, print);
     connect(tbControlBar_->Button(BarButton::Print), &QAction::triggered, this, print);
     connect(mProperties_->optSaveBMP, &QAction::triggered, this, [this] {
-        ShowErrors(this, [this] {
+        Do([](GraphForm& form) {
             QString askForName;
-            SaveChartSnapshot(*this, askForName);
+            SaveChartSnapshot(form, askForName);
         });
     });
     connect(mProperties_->optCopy, &QAction::triggered, this,
-            [this] { ShowErrors(this, [this] { chartImage_->CopyToClipboard(); }); });
+            [this] { Do([](GraphForm& form) { form.ChartImage().CopyToClipboard(); }); });
+}
+
+void GraphForm::Do(void (*command)(GraphForm& form)) {
+    const OwnEvent event(*this);
+    ShowErrors(this, [&] { command(*this); });
 }
 
 QString GraphForm::GraphId() const {
@@ -169,7 +192,7 @@ void GraphForm::SetControlBar(bool shown) {
 }
 
 void GraphForm::ShowViewer() {
-    if (!isVisible()) show();
+    if (!closed_ && !isVisible()) show();
 }
 
 void GraphForm::BringUp() {
@@ -179,12 +202,17 @@ void GraphForm::BringUp() {
     activateWindow();
 }
 
-void GraphForm::RefreshControlBar() {
+void GraphForm::SyncControlBar() {
     if (!ControlBar()) return;
     busy_ = true;
     tbControlBar_->Show(chartImage_->Model(), stacked_ != 0, fullStacked_ != 0);
-    chartImage_->Refresh();
     busy_ = false;
+}
+
+void GraphForm::RefreshControlBar() {
+    if (!ControlBar()) return;
+    SyncControlBar();
+    chartImage_->Refresh();
 }
 
 void GraphForm::PlaceParts() {
@@ -207,7 +235,7 @@ void GraphForm::PlaceParts() {
 void GraphForm::paintEvent(QPaintEvent* event) {
     if (firstPaintPending_) {
         firstPaintPending_ = false;
-        RefreshControlBar();
+        SyncControlBar();
     }
     QWidget::paintEvent(event);
 }
@@ -227,14 +255,13 @@ void GraphForm::changeEvent(QEvent* event) {
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) PlaceParts();
 }
 
-void GraphForm::closeEvent(QCloseEvent* event) {
-    event->accept();
+void GraphForm::closeEvent(QCloseEvent* close) {
+    close->accept();
     if (closed_) return;
     closed_ = true;
-    closing_ = true;
+    const OwnEvent event(*this);
     if (modified_) ShowErrors(this, [this] { AskToSave(); });
     Q_EMIT Closed();
-    closing_ = false;
 }
 
 void GraphForm::AskToSave() {

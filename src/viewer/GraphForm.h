@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class QTimer;
 
 namespace QmChart6 {
@@ -14,7 +16,10 @@ class ViewerToolBar;
 
 /// The window that shows one chart: control bar, chart, status bar, context menu. Its texts are those of the
 /// language at the time it is made; raises 326 where that language has none.
-class GraphForm : public QWidget, public Viewer {
+///
+/// A form that a shared pointer owns stays alive while it handles an event of its own, whoever lets go of it
+/// meanwhile.
+class GraphForm : public QWidget, public Viewer, public std::enable_shared_from_this<GraphForm> {
     Q_OBJECT
 
 public:
@@ -60,10 +65,12 @@ public:
     /// Nothing was painted yet, so the control bar has not been brought in step with the chart.
     [[nodiscard]] bool FirstPaintPending() const { return firstPaintPending_; }
 
-    /// It is being closed this moment, so its own events are still on the way.
-    [[nodiscard]] bool IsClosing() const { return closing_; }
+    /// An event of its own is on the way, so it may not be deleted at once.
+    [[nodiscard]] bool HandlesOwnEvent() const { return ownEvents_ > 0; }
 
     /// Brings the control bar in step with the chart; does nothing while the bar is hidden.
+    void SyncControlBar();
+    /// The same, and lays the chart out anew.
     void RefreshControlBar();
 
 Q_SIGNALS:
@@ -75,15 +82,19 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
+    void closeEvent(QCloseEvent* close) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    class OwnEvent;
+
     void PlaceParts();
     void ConnectCommands();
     void ShowMenu(const QPoint& globalPlace);
     void AskToSave();
+    /// Does what a command of the window's own asks for.
+    void Do(void (*command)(GraphForm& form));
 
     ChartControl* chartImage_;
     ViewerToolBar* tbControlBar_;
@@ -97,7 +108,7 @@ private:
     bool modified_ = false;
     bool busy_ = false;
     bool firstPaintPending_ = true;
-    bool closing_ = false;
+    int ownEvents_ = 0;
     bool closed_ = false;
 };
 

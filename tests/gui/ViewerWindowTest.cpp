@@ -40,7 +40,7 @@ protected:
                                    QStringLiteral("Title"), QStringLiteral("Rows"), QStringLiteral("Columns"),
                                    QStringLiteral("Values"));
         QString id = QStringLiteral("sales");
-        viewer = FindViewer(id);
+        viewer = FindViewer(id).get();
     }
     ~ViewerWindowTest() override {
         InstallConfigurationStore(nullptr);
@@ -272,7 +272,10 @@ TEST_F(ViewerWindowTest, AnswerNoClosesWithoutSaving) {
 TEST_F(ViewerWindowTest, AViewerMayBeKilledWhileItsOwnQuestionIsOpen) {
     viewer->SetModified(true);
     Person<QMessageBox> person([](QMessageBox& box) {
+        const QPointer<QMessageBox> open(&box);
         QMChartArray().QmKillGraph(QStringLiteral("sales"));
+        QTest::qWait(0); // lets the question's own loop turn over
+        ASSERT_FALSE(open.isNull());
         QTest::mouseClick(static_cast<QWidget*>(box.button(QMessageBox::No)), Qt::LeftButton);
     });
     viewer->close();

@@ -29,7 +29,7 @@ protected:
                            language, useConfig);
     }
 
-    static QmChart6::GraphForm* Viewer(QString id) { return QmChart6::FindViewer(id); }
+    static QmChart6::GraphForm* Viewer(QString id) { return QmChart6::FindViewer(id).get(); }
     static const QmChart6::Chart& ChartOf(const QString& id) { return Viewer(id)->ChartImage().Model(); }
 
     QmChart6::QMChartArray charts;

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPointer>
+#include <QTimer>
 
 using namespace QmChart6;
 
@@ -16,21 +17,21 @@ TEST_F(ViewerListTest, FindViewerTrimsAndCapitalizesTheCallersText) {
 
 TEST_F(ViewerListTest, CreateViewerAppendsAndTakesTheNormalizedId) {
     const int before = Viewers().UpperBound();
-    GraphForm& viewer = CreateViewer(QStringLiteral(" sales "));
+    const ViewerPointer viewer = CreateViewer(QStringLiteral(" sales "));
     EXPECT_EQ(Viewers().UpperBound(), before + 1);
-    EXPECT_EQ(Viewers().At(before + 1), &viewer);
-    EXPECT_EQ(viewer.GraphId(), "SALES");
-    EXPECT_FALSE(viewer.isVisible());
-    EXPECT_FALSE(viewer.ChartImage().isHidden());
+    EXPECT_EQ(Viewers().At(before + 1), viewer);
+    EXPECT_EQ(viewer->GraphId(), "SALES");
+    EXPECT_FALSE(viewer->isVisible());
+    EXPECT_FALSE(viewer->ChartImage().isHidden());
 }
 
 TEST_F(ViewerListTest, AClosedViewersSlotIsReleasedAndNotRemoved) {
     CreateViewer(QStringLiteral("a"));
     const int place = Viewers().UpperBound();
-    GraphForm& second = CreateViewer(QStringLiteral("b"));
+    const ViewerPointer second = CreateViewer(QStringLiteral("b"));
     CloseViewer(QStringLiteral(" A "));
     EXPECT_EQ(Viewers().At(place), nullptr);
-    EXPECT_EQ(Viewers().At(place + 1), &second);
+    EXPECT_EQ(Viewers().At(place + 1), second);
     EXPECT_EQ(Viewers().UpperBound(), place + 1);
 }
 
@@ -62,10 +63,21 @@ TEST_F(ViewerListTest, KillingAnUnknownIdDoesNothing) {
 }
 
 TEST_F(ViewerListTest, IsViewerMissingIsTrueForError91Only) {
-    EXPECT_TRUE(IsViewerMissing(nullptr));
-    EXPECT_FALSE(IsViewerMissing(&CreateViewer(QStringLiteral("a"))));
+    EXPECT_TRUE(IsViewerMissing(ViewerPointer()));
+    EXPECT_FALSE(IsViewerMissing(CreateViewer(QStringLiteral("a"))));
     EXPECT_TRUE(IsViewerMissing([] { throw RuntimeError(ErrorNumber::ObjectNotSet); }));
     EXPECT_RAISES(13, IsViewerMissing([] { throw RuntimeError(ErrorNumber::TypeMismatch); }));
+}
+
+TEST_F(ViewerListTest, AViewerThatAHostKillsWhileItIsMadeStaysClosed) {
+    Make(QStringLiteral("a"));
+    const QPointer<GraphForm> viewer = Viewer(QStringLiteral("a"));
+    QTimer hosts;
+    QObject::connect(&hosts, &QTimer::timeout, [this] { charts.QmKillGraph(QStringLiteral("a")); });
+    hosts.start(0);
+    Make(QStringLiteral("a"));
+    EXPECT_TRUE(viewer.isNull());
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
 }
 
 TEST_F(ViewerListTest, KillingAModifiedViewerAsksAndCloses) {
