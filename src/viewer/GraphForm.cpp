@@ -77,15 +77,11 @@ GraphForm::GraphForm(QWidget* parent)
     ConnectCommands();
 
     chartImage_->resize(ChartWidth, ChartHeight);
-    // What the rule takes from the window for everything but the chart, with both bars at their own height.
     tbControlBar_->ensurePolished();
     sbGraph_->ensurePolished();
-    const ChartPlace wide = PlaceChart({.width = 2 * NominalFrameWidth, .height = 0});
-    const int besideWidth = 2 * NominalFrameWidth - wide.width.value_or(0) - NominalFrameWidth;
-    const int besideHeight = 480 - NominalFrameHeight;
-    resize(ChartWidth + PixelsOfTwips(besideWidth), ChartHeight + PixelsOfTwips(besideHeight) +
-                                                        tbControlBar_->sizeHint().height() +
-                                                        sbGraph_->sizeHint().height());
+    resize(ChartWidth + PixelsOfTwips(ReservedWidth - NominalFrameWidth),
+           ChartHeight + PixelsOfTwips(ReservedHeight - NominalFrameHeight) +
+               tbControlBar_->sizeHint().height() + sbGraph_->sizeHint().height());
     PlaceParts();
 }
 

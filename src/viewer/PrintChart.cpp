@@ -23,16 +23,15 @@ namespace {
     throw RuntimeError(ErrorNumber::PrinterError, detail);
 }
 
-/// The chart as paper wants it.
-Chart OnPaper(Chart chart) {
+} // namespace
+
+Chart ChartOnPaper(Chart chart) {
     chart.Backdrop.Fill.Style = FillStyle::Brush;
     chart.Backdrop.Fill.Brush.Style = BrushStyle::Solid;
     chart.Backdrop.Fill.Brush.FillColor = {255, 255, 255};
     chart.Backdrop.Frame.Style = FrameStyle::None;
     return chart;
 }
-
-} // namespace
 
 void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
     QPainter painter;
@@ -41,7 +40,7 @@ void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
     const QRectF page = printer.pageRect(QPrinter::DevicePixel);
     const double scale = std::min(page.width() / windowSize.width, page.height() / windowSize.height);
     const LayoutRequest request{.size = windowSize, .pixelsPerPoint = scale};
-    PaintScene(LayOut(OnPaper(chart), request, QtTextMeasurer()), painter, scale, PaintTarget::Vector);
+    PaintScene(LayOut(ChartOnPaper(chart), request, QtTextMeasurer()), painter, scale, PaintTarget::Vector);
     if (!painter.end() || printer.printerState() == QPrinter::Error ||
         printer.printerState() == QPrinter::Aborted)
         RaisePrinterError(QStringLiteral("\"%1\" did not finish its page").arg(printer.printerName()));

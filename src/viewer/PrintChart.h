@@ -13,9 +13,12 @@ class Viewer;
 /// where it fails.
 void PrintChart(Viewer& viewer);
 
-/// Paints a chart that a window shows at `windowSize` (points) on the printer's page: white ground, no frame,
-/// as large as the printable area allows in the window's proportions, fonts grown with it. Raises 482 where
-/// the printer cannot print.
+/// The chart as paper wants it: white ground, no frame.
+Chart ChartOnPaper(Chart chart);
+
+/// Paints a chart that a window shows at `windowSize` (points) on the printer's page, as ChartOnPaper gives
+/// it, as large as the printable area allows in the window's proportions, fonts grown with it. Raises 482
+/// where the printer cannot print.
 void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer);
 
 } // namespace QmChart6

@@ -6,10 +6,6 @@ namespace {
 
 constexpr int ChartLeft = 30;
 constexpr int ChartTop = 40; // below the window's upper edge, or below the control bar
-// The frame, and the margins on both sides.
-constexpr int ReservedWidth = 180;
-// The frame, and the margins above and below, beside what the bars take.
-constexpr int ReservedHeight = 480;
 
 } // namespace
 

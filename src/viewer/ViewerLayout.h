@@ -9,6 +9,10 @@ namespace QmChart6 {
 inline constexpr int NominalFrameWidth = 120;
 inline constexpr int NominalFrameHeight = 405;
 
+// What a window's width and height hold beside the chart and the bars: that frame, and the chart's margins.
+inline constexpr int ReservedWidth = 180;
+inline constexpr int ReservedHeight = 480;
+
 /// What the chart's place depends on. The control bar's place counts only while it is visible.
 struct ViewerMeasures {
     int width = 0;

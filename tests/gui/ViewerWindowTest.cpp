@@ -221,15 +221,6 @@ TEST_F(ViewerWindowTest, AWindowTooSmallKeepsTheChartsSize) {
     EXPECT_EQ(viewer->ChartImage().size(), before);
 }
 
-TEST_F(ViewerWindowTest, TheWholeSceneIsLaidOutOnceForManyChanges) {
-    const Scene* before = &viewer->ChartImage().CurrentScene();
-    const std::size_t shapes = before->shapes.size();
-    viewer->ChartImage().Model().Title.Text.clear();
-    viewer->ChartImage().Refresh();
-    viewer->ChartImage().Refresh();
-    EXPECT_NE(viewer->ChartImage().CurrentScene().shapes.size(), shapes);
-}
-
 TEST_F(ViewerWindowTest, ClosingAnUnchangedWindowAsksNothing) {
     viewer->close();
     EXPECT_TRUE(QTest::qWaitFor([this] { return viewer.isNull(); }));

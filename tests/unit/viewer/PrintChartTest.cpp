@@ -35,6 +35,18 @@ TEST(PrintChart, Raises482ForAPrinterThatIsNotThere) {
     EXPECT_RAISES(482, (PrintChart(form), 0));
 }
 
+TEST(ChartOnPaper, HasAWhiteGroundAndNoFrameAndIsTheSameOtherwise) {
+    Chart chart;
+    chart.SetGridSize(2, 2);
+    Chart expected = chart;
+    chart.Backdrop.Frame.Style = FrameStyle::ThickOuter;
+    chart.Backdrop.Fill.Brush.FillColor = {200, 220, 255};
+    chart.Backdrop.Fill.Brush.Style = BrushStyle::Hatch;
+    expected.Backdrop.Frame.Style = FrameStyle::None;
+    expected.Backdrop.Fill.Brush.FillColor = {255, 255, 255};
+    EXPECT_EQ(ChartOnPaper(chart), expected);
+}
+
 TEST(PrintPage, WritesOnePageAndLeavesTheChartAsItWas) {
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("page.pdf"));
