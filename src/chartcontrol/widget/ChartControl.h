@@ -38,8 +38,12 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Device pixels to a point where the widget is shown now.
+    [[nodiscard]] double PixelsPerPoint() const;
+
     Chart chart_;
     std::optional<Scene> scene_;
+    double scenePixelsPerPoint_ = 0;
     bool repaint_ = true;
 };
 

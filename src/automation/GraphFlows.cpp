@@ -1,0 +1,110 @@
+#include "automation/GraphFlows.h"
+
+#include "automation/FillChartData.h"
+#include "automation/ViewerList.h"
+#include "chart/ValueLabelFormat.h"
+#include "chartcontrol/widget/ChartControl.h"
+#include "config/ConfigurationStore.h"
+#include "desktop/Application.h"
+#include "text/LocalText.h"
+#include "viewer/GraphForm.h"
+#include "viewer/PrintChart.h"
+#include "viewer/Snapshot.h"
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr int CaptionKey = 0;
+
+/// Holds a chart's painting back while it is changed, also when the change fails half way.
+class RepaintingOff {
+public:
+    explicit RepaintingOff(ChartControl& chart) : chart_(chart) { chart_.SetRepaint(false); }
+    ~RepaintingOff() { chart_.SetRepaint(true); }
+    RepaintingOff(const RepaintingOff&) = delete;
+    RepaintingOff& operator=(const RepaintingOff&) = delete;
+
+private:
+    ChartControl& chart_;
+};
+
+ViewerPointer ViewerFor(const QString& graphId) {
+    QString id = graphId;
+    ViewerPointer viewer = FindViewer(id);
+    if (IsViewerMissing(viewer)) return CreateViewer(id);
+    if (viewer->WindowState() == 1) viewer->BringUp();
+    return viewer;
+}
+
+void SetTitles(Chart& chart, const ChartRequest& request) {
+    chart.Title.Text = request.chartTitle;
+    chart.Plot.Axis(AxisId::X).AxisTitle.Text = request.rowTitle;
+    chart.Plot.Axis(AxisId::Y).AxisTitle.Text = request.valueTitle;
+    chart.Plot.Axis(AxisId::SecondaryY).AxisTitle.Text = request.valueTitle;
+    chart.Plot.Axis(AxisId::Z).AxisTitle.Text = request.columnTitle;
+}
+
+/// The viewer of the request's id with its data and titles, made where there is none.
+ViewerPointer LoadedViewer(const ChartRequest& request) {
+    ViewerPointer viewer = ViewerFor(request.graphId);
+    const RepaintingOff quiet(viewer->ChartImage());
+    Chart& chart = viewer->ChartImage().Model();
+    FillChartData(chart, request.rows, request.columns, request.data, request.rowLabels,
+                  request.columnLabels);
+    SetTitles(chart, request);
+    return viewer;
+}
+
+void LoadLook(GraphForm& viewer, UseConfig useConfig) {
+    LoadChartConfiguration(viewer, useConfig == UseConfig::Yes);
+    viewer.ChartImage().Refresh();
+}
+
+ViewerPointer ViewerForOutput(const ChartRequest& request) {
+    RequireFirstThread();
+    EnsureApplication();
+    ViewerPointer viewer = LoadedViewer(request);
+    viewer->setWindowTitle(viewer->GraphId() + QStringLiteral(" - Graph Viewer"));
+    if (request.useConfig != UseConfig::No) LoadLook(*viewer, request.useConfig);
+    return viewer;
+}
+
+} // namespace
+
+void MakeGraph(const ChartRequest& request, const Variant& language) {
+    RequireFirstThread();
+    SetLanguageCode(language.ToInt16());
+    EnsureApplication();
+    const ViewerPointer viewer = LoadedViewer(request);
+    viewer->setWindowTitle(LocalText(CaptionKey));
+    ComputeValueLabelFormat(request.data, request.rows, request.columns);
+    if (request.useConfig != UseConfig::No) {
+        LoadLook(*viewer, request.useConfig);
+        viewer->ShowViewer();
+    } else {
+        ApplyDefaultLook(*viewer);
+    }
+    viewer->SyncControlBar();
+}
+
+void PrintGraph(const ChartRequest& request) {
+    const ViewerPointer viewer = ViewerForOutput(request);
+    viewer->update();
+    PrintChart(*viewer);
+    viewer->update();
+    CloseViewer(viewer->GraphId());
+}
+
+void SaveGraph(const ChartRequest& request, QString& fileName) {
+    const ViewerPointer viewer = ViewerForOutput(request);
+    SaveChartSnapshot(*viewer, fileName);
+    CloseViewer(viewer->GraphId());
+}
+
+void KillGraph(const QString& graphId) {
+    RequireFirstThread();
+    CloseViewer(graphId);
+}
+
+} // namespace QmChart6

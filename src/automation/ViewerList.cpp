@@ -1,0 +1,119 @@
+#include "automation/ViewerList.h"
+
+#include "chartcontrol/widget/ChartControl.h"
+#include "qmchart6/RuntimeError.h"
+#include "viewer/GraphForm.h"
+
+#include <QThread>
+
+namespace QmChart6 {
+
+namespace {
+
+QString Normalized(const QString& graphId) {
+    return graphId.trimmed().toUpper();
+}
+
+/// Takes a closed viewer away: at once where no event is being handled that could be the viewer's own, since
+/// a host without an event loop would collect them otherwise; later where one may be.
+void Dispose(GraphForm* viewer) {
+    if (QThread::currentThread()->loopLevel() == 0 && !viewer->HandlesOwnEvent())
+        delete viewer; // NOLINT(cppcoreguidelines-owning-memory): this is the owner's deleter
+    else
+        viewer->deleteLater();
+}
+
+} // namespace
+
+const ViewerPointer& ViewerList::At(int place) const {
+    if (place < LowerBound() || place > UpperBound())
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("a viewer's place is from %1 to %2, not %3")
+                               .arg(LowerBound())
+                               .arg(UpperBound())
+                               .arg(place));
+    return slots_[static_cast<std::size_t>(place - LowerBound())];
+}
+
+void ViewerList::Append(ViewerPointer viewer) {
+    slots_.push_back(std::move(viewer));
+}
+
+ViewerPointer ViewerList::Release(int place) {
+    static_cast<void>(At(place));
+    return std::move(slots_[static_cast<std::size_t>(place - LowerBound())]);
+}
+
+ViewerList& Viewers() {
+    // Never destroyed: Qt may be gone before the process' own objects are.
+    static auto* viewers = new ViewerList; // NOLINT(cppcoreguidelines-owning-memory)
+    return *viewers;
+}
+
+namespace {
+
+/// The place of the first viewer of that id, or one past the last.
+int PlaceOf(const QString& normalizedId) {
+    const ViewerList& viewers = Viewers();
+    int place = viewers.LowerBound();
+    for (; place <= viewers.UpperBound(); ++place) {
+        const ViewerPointer& viewer = viewers.At(place);
+        if (viewer != nullptr && viewer->GraphId().toUpper() == normalizedId) break;
+    }
+    return place;
+}
+
+} // namespace
+
+ViewerPointer FindViewer(QString& graphId) {
+    graphId = Normalized(graphId);
+    const int place = PlaceOf(graphId);
+    return place <= Viewers().UpperBound() ? Viewers().At(place) : nullptr;
+}
+
+ViewerPointer CreateViewer(const QString& graphId) {
+    ViewerPointer viewer(new GraphForm, Dispose);
+    Viewers().Append(viewer);
+    viewer->SetGraphId(Normalized(graphId));
+    GraphForm& form = *viewer;
+    QObject::connect(&form, &GraphForm::Closed, &form, [&form] { CloseViewer(form.GraphId()); });
+    return viewer;
+}
+
+void CloseViewer(const QString& graphId) {
+    const int place = PlaceOf(Normalized(graphId));
+    if (place > Viewers().UpperBound()) return;
+    // Out of the list first: closing tells the list, which must not find the viewer again.
+    const ViewerPointer viewer = Viewers().Release(place);
+    viewer->close();
+}
+
+GraphForm& RequireViewer(const ViewerPointer& viewer) {
+    if (viewer == nullptr)
+        throw RuntimeError(ErrorNumber::ObjectNotSet, QStringLiteral("there is no viewer"));
+    return *viewer;
+}
+
+bool IsViewerMissing(const std::function<void()>& useReference) {
+    try {
+        useReference();
+    } catch (const RuntimeError& error) {
+        if (error.Number() == static_cast<int>(ErrorNumber::ObjectNotSet)) return true;
+        throw;
+    }
+    return false;
+}
+
+bool IsViewerMissing(const ViewerPointer& viewer) {
+    return IsViewerMissing([&viewer] { RequireViewer(viewer); });
+}
+
+bool AnyViewerShown() {
+    for (int place = Viewers().LowerBound(); place <= Viewers().UpperBound(); ++place) {
+        const ViewerPointer& viewer = Viewers().At(place);
+        if (viewer != nullptr && viewer->isVisible()) return true;
+    }
+    return false;
+}
+
+} // namespace QmChart6

@@ -1,0 +1,17 @@
+#pragma once
+
+namespace QmChart6 {
+
+/// Makes the process' QApplication where the host has none; it is kept until the process ends. Where no
+/// display is set, or the one that is set cannot be reached, it runs unseen. Raises error 5 where the host
+/// has an application object without widgets.
+void EnsureApplication();
+
+/// Whether windows can be seen. Makes the application where there is none.
+bool RunsOnADisplay();
+
+/// The first thread that calls this is the one that may; any other gets error 5, and so does one that the
+/// host's application does not live on.
+void RequireFirstThread();
+
+} // namespace QmChart6

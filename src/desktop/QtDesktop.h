@@ -1,0 +1,20 @@
+#pragma once
+
+#include "desktop/Desktop.h"
+
+namespace QmChart6 {
+
+/// A desktop with a person at it. Needs a QApplication.
+class QtDesktop : public Desktop {
+public:
+    Answer ShowMessage(QWidget* owner, const QString& text, const QString& title,
+                       MessageButtons buttons) override;
+    std::optional<QString> PickSaveFile(QWidget* owner, const SaveFileRequest& request) override;
+    void SetClipboard(std::unique_ptr<QMimeData> content) override;
+    [[nodiscard]] const QMimeData* Clipboard() const override;
+    void ClearClipboard() override;
+    [[nodiscard]] std::optional<QString> DefaultPrinter() const override;
+    [[nodiscard]] std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const override;
+};
+
+} // namespace QmChart6

@@ -1,0 +1,285 @@
+#include "viewer/GraphForm.h"
+
+#include "base/Twips.h"
+#include "chartcontrol/widget/ChartControl.h"
+#include "config/ConfigurationStore.h"
+#include "desktop/Desktop.h"
+#include "qmchart6/RuntimeError.h"
+#include "text/LocalText.h"
+#include "viewer/PrintChart.h"
+#include "viewer/ShowErrors.h"
+#include "viewer/Snapshot.h"
+#include "viewer/ViewerLayout.h"
+#include "viewer/ViewerMenu.h"
+#include "viewer/ViewerStatusBar.h"
+#include "viewer/ViewerToolBar.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QTimer>
+
+namespace QmChart6 {
+
+namespace {
+
+// The chart's size in a new window, in logical pixels.
+constexpr int ChartWidth = 760;
+constexpr int ChartHeight = 480;
+constexpr int StatusTime = 2000; // milliseconds
+
+constexpr int SaveQuestionKey = 98;
+constexpr int SaveTitleKey = 14;
+
+/// The chart's edge in whole logical pixels; both edges are rounded, so that no rounding adds up.
+QRect PixelsOfPlace(const ChartPlace& place, const QRect& before) {
+    const int left = PixelsOfTwips(place.left);
+    const int top = PixelsOfTwips(place.top);
+    const int width = place.width ? PixelsOfTwips(place.left + *place.width) - left : before.width();
+    const int height = place.height ? PixelsOfTwips(place.top + *place.height) - top : before.height();
+    return {left, top, width, height};
+}
+
+} // namespace
+
+/// Keeps the form alive until the event is over, also when a message box waits in the middle of it.
+class GraphForm::OwnEvent {
+public:
+    explicit OwnEvent(GraphForm& form) : form_(form), self_(form.weak_from_this().lock()) {
+        ++form_.ownEvents_;
+    }
+    ~OwnEvent() {
+        self_.reset(); // the last owner's deleter must still see the event
+        --form_.ownEvents_;
+    }
+    OwnEvent(const OwnEvent&) = delete;
+    OwnEvent& operator=(const OwnEvent&) = delete;
+
+private:
+    GraphForm& form_;
+    std::shared_ptr<GraphForm> self_;
+};
+
+GraphForm::GraphForm(QWidget* parent)
+    : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)),
+      tbControlBar_(new ViewerToolBar(this)), sbGraph_(new ViewerStatusBar(this)),
+      mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)) {
+    setObjectName(QStringLiteral("GraphForm"));
+    // Closing the last chart must not end a host's event loop.
+    setAttribute(Qt::WA_QuitOnClose, false);
+    chartImage_->setObjectName(QStringLiteral("ChartImage"));
+    sbGraph_->setObjectName(QStringLiteral("sbGraph"));
+    timGraph_->setObjectName(QStringLiteral("timGraph"));
+    timGraph_->setSingleShot(true);
+    timGraph_->setInterval(StatusTime);
+    mProperties_->optControlBar->setChecked(true);
+    ConnectCommands();
+
+    chartImage_->resize(ChartWidth, ChartHeight);
+    tbControlBar_->ensurePolished();
+    sbGraph_->ensurePolished();
+    resize(ChartWidth + PixelsOfTwips(ReservedWidth - NominalFrameWidth),
+           ChartHeight + PixelsOfTwips(ReservedHeight - NominalFrameHeight) +
+               tbControlBar_->sizeHint().height() + sbGraph_->sizeHint().height());
+    PlaceParts();
+}
+
+GraphForm::~GraphForm() = default;
+
+void GraphForm::ConnectCommands() {
+    // What comes with the control bar's and the dialogs' own work is there to be seen, not to be used.
+    for (const BarButton button : {BarButton::ThreeD, BarButton::Stack, BarButton::FullStack, BarButton::Flip,
+                                   BarButton::Legend, BarButton::Load, BarButton::Save})
+        tbControlBar_->Button(button)->setEnabled(false);
+    tbControlBar_->TypeSelector()->setEnabled(false);
+    for (QAction* entry :
+         {mProperties_->optGenericProperties, mProperties_->optChart, mProperties_->optLoadConfig,
+          mProperties_->optSaveConfig, mProperties_->optSaveConfigAs})
+        entry->setEnabled(false);
+
+    connect(timGraph_, &QTimer::timeout, this, [this] { sbGraph_->Panel(4).SetText({}); });
+    connect(mProperties_->optControlBar, &QAction::triggered, this, [this] { SetControlBar(!ControlBar()); });
+    const auto print = [this] { Do([](GraphForm& form) { PrintChart(form); }); };
+    connect(mProperties_->optPrint, &QAction::triggered, this, print);
+    connect(tbControlBar_->Button(BarButton::Print), &QAction::triggered, this, print);
+    connect(mProperties_->optSaveBMP, &QAction::triggered, this, [this] {
+        Do([](GraphForm& form) {
+            QString askForName;
+            SaveChartSnapshot(form, askForName);
+        });
+    });
+    connect(mProperties_->optCopy, &QAction::triggered, this,
+            [this] { Do([](GraphForm& form) { form.ChartImage().CopyToClipboard(); }); });
+}
+
+void GraphForm::Do(void (*command)(GraphForm& form)) {
+    const OwnEvent event(*this);
+    ShowErrors(this, [&] { command(*this); });
+}
+
+QString GraphForm::GraphId() const {
+    return sbGraph_->Panel(1).Text();
+}
+
+void GraphForm::SetGraphId(const QString& id) {
+    sbGraph_->Panel(1).SetText(id);
+}
+
+QString GraphForm::QmConfig() const {
+    return sbGraph_->Panel(2).Text();
+}
+
+void GraphForm::SetQmConfig(const QString& name) {
+    sbGraph_->Panel(2).SetText(name);
+}
+
+void GraphForm::SetStatus(const QString& message) {
+    sbGraph_->Panel(4).SetText(message);
+    // A timer that runs is left to run: a message is shown until it fires.
+    if (!timGraph_->isActive()) timGraph_->start();
+}
+
+int GraphForm::WindowState() const {
+    if (isMinimized()) return 1;
+    return isMaximized() ? 2 : 0;
+}
+
+void GraphForm::SetWindowState(int state) {
+    if (state < 0 || state > 2)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("a window state is from 0 to 2, not %1").arg(state));
+    const bool restores = state == 0 && isMaximized();
+    const QSize normalSize = normalGeometry().size();
+    const Qt::WindowStates others =
+        windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);
+    setWindowState(others | (state == 1   ? Qt::WindowMinimized
+                             : state == 2 ? Qt::WindowMaximized
+                                          : Qt::WindowNoState));
+    // The desktop takes its time to restore a window; whoever asks for its size next must get the normal one.
+    if (restores && normalSize.isValid()) resize(normalSize);
+}
+
+int GraphForm::Height() const {
+    return TwipsOfPixels(height()) + NominalFrameHeight;
+}
+
+void GraphForm::SetHeight(int twips) {
+    resize(width(), PixelsOfTwips(qMax(0, twips - NominalFrameHeight)));
+}
+
+int GraphForm::Width() const {
+    return TwipsOfPixels(width()) + NominalFrameWidth;
+}
+
+void GraphForm::SetWidth(int twips) {
+    resize(PixelsOfTwips(qMax(0, twips - NominalFrameWidth)), height());
+}
+
+bool GraphForm::ControlBar() const {
+    return !tbControlBar_->isHidden();
+}
+
+void GraphForm::SetControlBar(bool shown) {
+    tbControlBar_->setVisible(shown);
+    mProperties_->optControlBar->setChecked(shown);
+    PlaceParts();
+    RefreshControlBar();
+}
+
+void GraphForm::ShowViewer() {
+    if (!closed_ && !isVisible()) show();
+}
+
+void GraphForm::BringUp() {
+    if (WindowState() == 1) SetWindowState(0);
+    show();
+    raise();
+    activateWindow();
+}
+
+void GraphForm::SyncControlBar() {
+    if (!ControlBar()) return;
+    busy_ = true;
+    tbControlBar_->Show(chartImage_->Model(), stacked_ != 0, fullStacked_ != 0);
+    busy_ = false;
+}
+
+void GraphForm::RefreshControlBar() {
+    if (!ControlBar()) return;
+    SyncControlBar();
+    chartImage_->Refresh();
+}
+
+void GraphForm::PlaceParts() {
+    const int barHeight = tbControlBar_->sizeHint().height();
+    const int statusHeight = sbGraph_->sizeHint().height();
+    tbControlBar_->setGeometry(0, 0, width(), barHeight);
+    sbGraph_->setGeometry(0, height() - statusHeight, width(), statusHeight);
+
+    chartImage_->SetRepaint(false);
+    const ChartPlace place = PlaceChart({.width = Width(),
+                                         .height = Height(),
+                                         .statusBarHeight = TwipsOfPixels(statusHeight),
+                                         .controlBarTop = TwipsOfPixels(tbControlBar_->y()),
+                                         .controlBarHeight = TwipsOfPixels(barHeight),
+                                         .controlBarVisible = ControlBar()});
+    chartImage_->setGeometry(PixelsOfPlace(place, chartImage_->geometry()));
+    chartImage_->SetRepaint(true);
+}
+
+void GraphForm::paintEvent(QPaintEvent* event) {
+    if (firstPaintPending_) {
+        firstPaintPending_ = false;
+        SyncControlBar();
+    }
+    QWidget::paintEvent(event);
+}
+
+void GraphForm::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    PlaceParts();
+}
+
+void GraphForm::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    PlaceParts();
+}
+
+void GraphForm::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) PlaceParts();
+}
+
+void GraphForm::closeEvent(QCloseEvent* close) {
+    close->accept();
+    if (closed_) return;
+    closed_ = true;
+    const OwnEvent event(*this);
+    if (modified_) ShowErrors(this, [this] { AskToSave(); });
+    Q_EMIT Closed();
+}
+
+void GraphForm::AskToSave() {
+    const Answer answer = CurrentDesktop().ShowMessage(this, LocalText(SaveQuestionKey),
+                                                       LocalText(SaveTitleKey), MessageButtons::YesNo);
+    if (answer == Answer::Yes) SaveConfiguration(*this);
+}
+
+void GraphForm::mouseReleaseEvent(QMouseEvent* event) {
+    QWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton) ShowMenu(event->globalPosition().toPoint());
+}
+
+void GraphForm::contextMenuEvent(QContextMenuEvent* event) {
+    // The mouse's own is shown on release, so that a press can still be taken elsewhere.
+    if (event->reason() == QContextMenuEvent::Mouse) return;
+    ShowMenu(event->globalPos());
+}
+
+void GraphForm::ShowMenu(const QPoint& globalPlace) {
+    mProperties_->optGenericProperties->setVisible(false);
+    mProperties_->popup(globalPlace);
+}
+
+} // namespace QmChart6

@@ -1,0 +1,55 @@
+#include "viewer/Snapshot.h"
+
+#include "chartcontrol/paint/PictureFormat.h"
+#include "chartcontrol/widget/ChartControl.h"
+#include "config/Viewer.h"
+#include "desktop/Desktop.h"
+#include "text/LocalText.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr int SnapshotSavedKey = 121;
+
+/// Puts the process' current directory back to where it was, whatever way a snapshot ends.
+class KeptDirectory {
+public:
+    KeptDirectory() : path_(QDir::currentPath()) {}
+    ~KeptDirectory() { Restore(); }
+    KeptDirectory(const KeptDirectory&) = delete;
+    KeptDirectory& operator=(const KeptDirectory&) = delete;
+
+    void Restore() const { QDir::setCurrent(path_); }
+
+private:
+    QString path_;
+};
+
+} // namespace
+
+void SaveChartSnapshot(Viewer& viewer, QString& FileName) {
+    const KeptDirectory directory;
+    ChartControl& chart = viewer.ChartImage();
+    chart.CopyToClipboard();
+    if (FileName.isEmpty()) {
+        const std::optional<QString> chosen =
+            CurrentDesktop().PickSaveFile(chart.window(), {.title = QStringLiteral("Save as .bmp"),
+                                                           .filter = QStringLiteral("*.bmp"),
+                                                           .suffix = QStringLiteral("bmp")});
+        if (!chosen) return;
+        FileName = *chosen;
+        directory.Restore();
+    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    SavePicture({chart.Model(), chart.width(), chart.height()}, FileName);
+    directory.Restore();
+    CurrentDesktop().ClearClipboard();
+    viewer.SetStatus(LocalText(SnapshotSavedKey));
+}
+
+} // namespace QmChart6

@@ -1,0 +1,79 @@
+#include "viewer/ViewerToolBar.h"
+
+#include "base/Twips.h"
+#include "text/LocalText.h"
+#include "viewer/ChartTypeList.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr int SelectorWidth = 2500; // twips
+constexpr int IconSize = 20;        // logical pixels
+
+constexpr int TypeKey = 33;
+
+} // namespace
+
+ViewerToolBar::ViewerToolBar(QWidget* parent) : QToolBar(parent) {
+    setObjectName(QStringLiteral("tbControlBar"));
+    setMovable(false);
+    setFloatable(false);
+    setIconSize({IconSize, IconSize});
+    AddTypeSelector();
+    AddButton(QStringLiteral("3D"), 15, true);
+    AddButton(QStringLiteral("Stack"), 16, true);
+    AddButton(QStringLiteral("100%"), 17, true);
+    AddButton(QStringLiteral("Flip"), 19, true);
+    AddButton(QStringLiteral("Legend"), 18, true);
+    addSeparator();
+    AddButton(QStringLiteral("Load"), 100, false);
+    AddButton(QStringLiteral("Save"), 14, false);
+    AddButton(QStringLiteral("Print"), 102, false);
+}
+
+void ViewerToolBar::AddTypeSelector() {
+    auto* place = new QWidget(this);
+    place->setFixedWidth(PixelsOfTwips(SelectorWidth));
+    auto* row = new QHBoxLayout(place);
+    row->setContentsMargins(2, 2, 6, 2);
+    cbType_ = new QComboBox(place);
+    cbType_->setObjectName(QStringLiteral("cbType"));
+    cbType_->setToolTip(LocalText(TypeKey));
+    cbType_->setAccessibleName(LocalText(TypeKey));
+    row->addWidget(cbType_);
+    addWidget(place);
+}
+
+void ViewerToolBar::AddButton(const QString& key, int textKey, bool check) {
+    const QString text = LocalText(textKey);
+    QString file = key;
+    file.remove(u'%');
+    file = QStringLiteral(":/qmchart6/icons/%1.svg").arg(file);
+    QAction* action = addAction(QFile::exists(file) ? QIcon(file) : QIcon(), text);
+    action->setObjectName(key);
+    action->setToolTip(text);
+    action->setCheckable(check);
+    QWidget* button = widgetForAction(action);
+    button->setObjectName(key);
+    button->setAccessibleName(text);
+}
+
+void ViewerToolBar::Show(const Chart& chart, bool stacked, bool fullStacked) {
+    const bool threeD = Is3D(chart.chartType());
+    cbType_->clear();
+    cbType_->addItems(ChartTypeTexts(chart.ColumnCount(), threeD));
+    cbType_->setCurrentIndex(IndexOfChartType(chart.chartType(), chart.ColumnCount()));
+    Button(BarButton::ThreeD)->setChecked(threeD);
+    Button(BarButton::Stack)->setChecked(stacked);
+    Button(BarButton::FullStack)->setChecked(fullStacked);
+    Button(BarButton::Legend)->setChecked(chart.ShowLegend);
+    Button(BarButton::Flip)->setChecked(chart.Plot.DataSeriesInRow);
+}
+
+} // namespace QmChart6

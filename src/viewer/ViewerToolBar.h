@@ -1,0 +1,47 @@
+#pragma once
+
+#include "chartcontrol/model/Chart.h"
+
+#include <QToolBar>
+
+class QComboBox;
+
+namespace QmChart6 {
+
+/// The places on a viewer's control bar, from 1.
+enum class BarButton {
+    TypeSelector = 1,
+    ThreeD = 2,
+    Stack = 3,
+    FullStack = 4,
+    Flip = 5,
+    Legend = 6,
+    Separator = 7,
+    Load = 8,
+    Save = 9,
+    Print = 10
+};
+
+/// A viewer's control bar: the chart-type selector, five check buttons, and load, save and print.
+class ViewerToolBar : public QToolBar {
+    Q_OBJECT
+
+public:
+    explicit ViewerToolBar(QWidget* parent = nullptr);
+
+    [[nodiscard]] QAction* Button(BarButton button) const {
+        return actions().at(static_cast<int>(button) - 1);
+    }
+    [[nodiscard]] QComboBox* TypeSelector() const { return cbType_; }
+
+    /// Brings the selector and the check buttons in step with a chart and a viewer's stacking states.
+    void Show(const Chart& chart, bool stacked, bool fullStacked);
+
+private:
+    void AddTypeSelector();
+    void AddButton(const QString& key, int textKey, bool check);
+
+    QComboBox* cbType_ = nullptr;
+};
+
+} // namespace QmChart6

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "desktop/QtDesktop.h"
+
+#include <QPrinter>
+#include <QStringList>
+
+#include <deque>
+
+/// The real desktop, but for what a person would answer: that is scripted, and what was asked is kept.
+class ScriptedDesktop : public QmChart6::QtDesktop {
+public:
+    struct Message {
+        QString text;
+        QString title;
+        QmChart6::MessageButtons buttons;
+    };
+
+    /// The answers to messages in turn; OK or No when there are none left.
+    std::deque<QmChart6::Answer> answers;
+    /// What the picker gives in turn; nothing when there are none left.
+    std::deque<QString> files;
+    /// The default printer's name, and the PDF file that it prints into.
+    std::optional<QString> printer;
+    QString printerFile;
+
+    QList<Message> messages;
+    QList<QmChart6::SaveFileRequest> pickers;
+
+    QmChart6::Answer ShowMessage(QWidget* /*owner*/, const QString& text, const QString& title,
+                                 QmChart6::MessageButtons buttons) override {
+        messages.append({text, title, buttons});
+        if (!answers.empty()) {
+            const auto answer = answers.front();
+            answers.pop_front();
+            return answer;
+        }
+        return buttons == QmChart6::MessageButtons::YesNo ? QmChart6::Answer::No : QmChart6::Answer::Ok;
+    }
+
+    std::optional<QString> PickSaveFile(QWidget* /*owner*/,
+                                        const QmChart6::SaveFileRequest& request) override {
+        pickers.append(request);
+        if (files.empty()) return std::nullopt;
+        const QString file = files.front();
+        files.pop_front();
+        return file;
+    }
+
+    [[nodiscard]] std::optional<QString> DefaultPrinter() const override { return printer; }
+    [[nodiscard]] std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const override {
+        if (printerFile.isEmpty()) return QtDesktop::OpenPrinter(name);
+        auto page = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        page->setOutputFormat(QPrinter::PdfFormat);
+        page->setOutputFileName(printerFile);
+        return page;
+    }
+};

@@ -1,0 +1,234 @@
+#include "AutomationTest.h"
+
+#include "chart/ValueLabelFormat.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QTemporaryDir>
+
+using namespace QmChart6;
+
+namespace {
+
+class GraphFlowsTest : public AutomationTest {
+protected:
+    void Print(const QString& id, std::uint8_t useConfig = 0) {
+        charts.QmPrintGraph(id, 3, 2, data, rowLabels, columnLabels, title, rowTitle, columnTitle, valueTitle,
+                            useConfig);
+    }
+    void Save(const QString& id, QString& name, std::uint8_t useConfig = 0) {
+        charts.QmSaveGraph(id, 3, 2, data, rowLabels, columnLabels, title, rowTitle, columnTitle, valueTitle,
+                           useConfig, name);
+    }
+    [[nodiscard]] QString InFolder(const char* name) const { return folder.filePath(QLatin1String(name)); }
+
+    QTemporaryDir folder;
+};
+
+/// Tells what the viewer is like when its look is asked for, and leaves it hidden.
+class WatchingStore : public ConfigurationStore {
+public:
+    void SaveConfiguration(QmChart6::Viewer& /*viewer*/) override {}
+    void LoadChartConfiguration(QmChart6::Viewer& viewer, bool loadTitles) override {
+        titles.append(loadTitles);
+        rows = viewer.ChartImage().Model().RowCount();
+        caption = viewer.ChartImage().window()->windowTitle();
+        format = ValueLabelFormat();
+    }
+    QList<bool> titles;
+    int rows = -1;
+    QString caption;
+    QString format;
+};
+
+} // namespace
+
+TEST_F(GraphFlowsTest, IdsThatDifferInCaseAndBlanksAddressTheSameWindow) {
+    Make(QStringLiteral("Sales"));
+    const GraphForm* viewer = Viewer(QStringLiteral("SALES"));
+    const int places = Viewers().UpperBound();
+    Make(QStringLiteral("  sALES "));
+    EXPECT_EQ(Viewer(QStringLiteral("sales")), viewer);
+    EXPECT_EQ(Viewers().UpperBound(), places);
+    EXPECT_EQ(viewer->GraphId(), "SALES");
+}
+
+TEST_F(GraphFlowsTest, MakingAGraphShowsItWithTitlesCaptionAndDefaultLook) {
+    Make(QStringLiteral("a"), std::int16_t{1});
+    const GraphForm* viewer = Viewer(QStringLiteral("a"));
+    EXPECT_TRUE(viewer->isVisible());
+    EXPECT_EQ(viewer->windowTitle(), QStringLiteral("Viewer do Gráfico"));
+    const Chart& chart = ChartOf(QStringLiteral("a"));
+    EXPECT_EQ(chart.Title.Text, "Title");
+    EXPECT_EQ(chart.Plot.Axis(AxisId::X).AxisTitle.Text, "Rows");
+    EXPECT_EQ(chart.Plot.Axis(AxisId::Y).AxisTitle.Text, "Values");
+    EXPECT_EQ(chart.Plot.Axis(AxisId::SecondaryY).AxisTitle.Text, "Values");
+    EXPECT_EQ(chart.Plot.Axis(AxisId::Z).AxisTitle.Text, "Columns");
+    EXPECT_TRUE(chart.ShowLegend);
+    EXPECT_EQ(chart.Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).Brush.FillColor,
+              (Colour{200, 0, 0}));
+    EXPECT_EQ(chart.DataGrid.Value(3, 2), 32);
+    EXPECT_TRUE(viewer->findChild<ChartControl*>()->Repaint());
+}
+
+TEST_F(GraphFlowsTest, ALegendStaysOnWhenAReusedViewerGetsOneSeries) {
+    Make(QStringLiteral("a"));
+    charts.QmMakeGraph(QStringLiteral("a"), 3, 1, Numbers(3, 1), rowLabels, columnLabels, title, rowTitle,
+                       columnTitle, valueTitle);
+    EXPECT_EQ(ChartOf(QStringLiteral("a")).ColumnCount(), 1);
+    EXPECT_TRUE(ChartOf(QStringLiteral("a")).ShowLegend);
+}
+
+TEST_F(GraphFlowsTest, MakingAGraphForAMinimizedViewerRestoresItToNormalSize) {
+    Make(QStringLiteral("a"));
+    Viewer(QStringLiteral("a"))->SetWindowState(1);
+    Make(QStringLiteral("a"));
+    EXPECT_EQ(Viewer(QStringLiteral("a"))->WindowState(), 0);
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
+}
+
+TEST_F(GraphFlowsTest, AMaximizedViewerStaysMaximized) {
+    Make(QStringLiteral("a"));
+    Viewer(QStringLiteral("a"))->SetWindowState(2);
+    Make(QStringLiteral("a"));
+    EXPECT_EQ(Viewer(QStringLiteral("a"))->WindowState(), 2);
+}
+
+TEST_F(GraphFlowsTest, AStoredLookIsAskedForWithTitlesForTheExactValue2Only) {
+    WatchingStore store;
+    InstallConfigurationStore(&store);
+    for (const int useConfig : {1, 2, 3, 255})
+        Make(QStringLiteral("a"), std::int16_t{1}, static_cast<std::uint8_t>(useConfig));
+    EXPECT_EQ(store.titles, QList<bool>({false, true, false, false}));
+    EXPECT_EQ(store.rows, 3);
+    EXPECT_EQ(store.caption, QStringLiteral("Viewer do Gráfico"));
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
+    EXPECT_NE(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
+}
+
+TEST_F(GraphFlowsTest, WithoutAStoreAMessageTellsSoAndTheDefaultLookIsShown) {
+    Make(QStringLiteral("a"), std::int16_t{0}, 2);
+    ASSERT_EQ(desktop.messages.size(), 1);
+    EXPECT_EQ(desktop.messages.front().text,
+              "Error 445: Object doesn't support this action: this build keeps no stored looks");
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
+    EXPECT_EQ(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
+}
+
+TEST_F(GraphFlowsTest, TheValueLabelFormatFollowsTheData) {
+    Make(QStringLiteral("a"));
+    EXPECT_EQ(ValueLabelFormat(), "0");
+    charts.QmMakeGraph(QStringLiteral("a"), 1, 1, Array<double>::Table(1, 1, {2.5}, 1, 1), rowLabels,
+                       columnLabels, title, rowTitle, columnTitle, valueTitle);
+    EXPECT_EQ(ValueLabelFormat(), "0.00");
+    EXPECT_EQ(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).Labels.Item(1).Format, "0.00");
+}
+
+TEST_F(GraphFlowsTest, AZeroBasedTableIsFilledFromItsFirstElementAndThenRaises9) {
+    EXPECT_RAISES(9, (charts.QmMakeGraph(QStringLiteral("a"), 3, 2, Numbers(3, 2, 0), rowLabels, columnLabels,
+                                         title, rowTitle, columnTitle, valueTitle),
+                      0));
+    EXPECT_EQ(ChartOf(QStringLiteral("a")).DataGrid.Value(3, 2), 32);
+    EXPECT_EQ(Viewer(QStringLiteral("a"))->windowTitle(), "Chart Viewer");
+}
+
+TEST_F(GraphFlowsTest, AnErrorLeavesTheViewerOpenAndUsable) {
+    EXPECT_RAISES(9, (charts.QmMakeGraph(QStringLiteral("a"), 4, 2, data, rowLabels, columnLabels, title,
+                                         rowTitle, columnTitle, valueTitle),
+                      0));
+    ASSERT_NE(Viewer(QStringLiteral("a")), nullptr);
+    EXPECT_EQ(ChartOf(QStringLiteral("a")).DataGrid.Value(3, 2), 32);
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->ChartImage().Repaint());
+    Make(QStringLiteral("a"));
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
+}
+
+TEST_F(GraphFlowsTest, NoRowsOrColumnsGiveAnEmptyChartAndNegativeOnesRaise380) {
+    charts.QmMakeGraph(QStringLiteral("a"), 0, 0, data, rowLabels, columnLabels, title, rowTitle, columnTitle,
+                       valueTitle);
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
+    EXPECT_FALSE(Viewer(QStringLiteral("a"))->grab().isNull());
+    EXPECT_RAISES(380, (charts.QmMakeGraph(QStringLiteral("a"), -1, 2, data, rowLabels, columnLabels, title,
+                                           rowTitle, columnTitle, valueTitle),
+                        0));
+}
+
+TEST_F(GraphFlowsTest, SavingWithAFileNameAsksNothingOverwritesAndClosesTheViewer) {
+    QString name = InFolder("chart.bmp");
+    QFile old(name);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    Make(QStringLiteral("a"));
+    Save(QStringLiteral(" A "), name);
+    EXPECT_TRUE(desktop.pickers.isEmpty());
+    EXPECT_EQ(QImage(name).width(), 760);
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}
+
+TEST_F(GraphFlowsTest, SavingKeepsTheLanguageAndTheValueLabelFormatAndAppliesNoDefaultLook) {
+    Make(QStringLiteral("other"), std::int16_t{3});
+    SetLanguageCode(3);
+    QString name;
+    desktop.files = {InFolder("chart.bmp")};
+    Save(QStringLiteral("a"), name);
+    EXPECT_EQ(LanguageCode(), 3);
+    EXPECT_EQ(name, InFolder("chart.bmp"));
+    EXPECT_EQ(ValueLabelFormat(), "0");
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}
+
+TEST_F(GraphFlowsTest, ACancelledSaveClosesTheViewerToo) {
+    QString name;
+    Save(QStringLiteral("a"), name);
+    EXPECT_EQ(desktop.pickers.size(), 1);
+    EXPECT_EQ(name, "");
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}
+
+TEST_F(GraphFlowsTest, AFailedSaveKeepsTheViewerWithItsCaptionAndLook) {
+    QString name = InFolder("missing/chart.bmp");
+    EXPECT_RAISES(76, (Save(QStringLiteral(" sales "), name), 0));
+    const GraphForm* viewer = Viewer(QStringLiteral("sales"));
+    ASSERT_NE(viewer, nullptr);
+    EXPECT_FALSE(viewer->isVisible());
+    EXPECT_EQ(viewer->windowTitle(), "SALES - Graph Viewer");
+    EXPECT_NE(ChartOf(QStringLiteral("sales")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style,
+              PenStyle::Dotted);
+    Make(QStringLiteral("sales"));
+    EXPECT_TRUE(viewer->isVisible());
+}
+
+TEST_F(GraphFlowsTest, SavingWithAStoredLookAsksTheStore) {
+    WatchingStore store;
+    InstallConfigurationStore(&store);
+    QString name = InFolder("chart.bmp");
+    Save(QStringLiteral("a"), name, 1);
+    EXPECT_EQ(store.titles, QList<bool>({false}));
+    EXPECT_EQ(store.caption, "A - Graph Viewer");
+}
+
+TEST_F(GraphFlowsTest, PrintingClosesTheViewerThatWasOpen) {
+    desktop.printer = QStringLiteral("paper");
+    desktop.printerFile = InFolder("page.pdf");
+    Make(QStringLiteral("a"));
+    Print(QStringLiteral("A"));
+    EXPECT_GT(QFile(desktop.printerFile).size(), 0);
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}
+
+TEST_F(GraphFlowsTest, PrintingWithoutAPrinterRaises482AndKeepsTheViewer) {
+    EXPECT_RAISES(482, (Print(QStringLiteral("a")), 0));
+    EXPECT_NE(Viewer(QStringLiteral("a")), nullptr);
+    EXPECT_FALSE(AnyViewerShown());
+}
+
+TEST_F(GraphFlowsTest, TheCurrentDirectoryStaysWhereItWas) {
+    const QString before = QDir::currentPath();
+    QString name = InFolder("chart.bmp");
+    Save(QStringLiteral("a"), name);
+    EXPECT_EQ(QDir::currentPath(), before);
+}

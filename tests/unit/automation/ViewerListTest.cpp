@@ -1,0 +1,89 @@
+#include "AutomationTest.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QTimer>
+
+using namespace QmChart6;
+
+using ViewerListTest = AutomationTest;
+
+TEST_F(ViewerListTest, FindViewerTrimsAndCapitalizesTheCallersText) {
+    QString id = QStringLiteral("  sales \t");
+    EXPECT_EQ(FindViewer(id), nullptr);
+    EXPECT_EQ(id, "SALES");
+}
+
+TEST_F(ViewerListTest, CreateViewerAppendsAndTakesTheNormalizedId) {
+    const int before = Viewers().UpperBound();
+    const ViewerPointer viewer = CreateViewer(QStringLiteral(" sales "));
+    EXPECT_EQ(Viewers().UpperBound(), before + 1);
+    EXPECT_EQ(Viewers().At(before + 1), viewer);
+    EXPECT_EQ(viewer->GraphId(), "SALES");
+    EXPECT_FALSE(viewer->isVisible());
+    EXPECT_FALSE(viewer->ChartImage().isHidden());
+}
+
+TEST_F(ViewerListTest, AClosedViewersSlotIsReleasedAndNotRemoved) {
+    CreateViewer(QStringLiteral("a"));
+    const int place = Viewers().UpperBound();
+    const ViewerPointer second = CreateViewer(QStringLiteral("b"));
+    CloseViewer(QStringLiteral(" A "));
+    EXPECT_EQ(Viewers().At(place), nullptr);
+    EXPECT_EQ(Viewers().At(place + 1), second);
+    EXPECT_EQ(Viewers().UpperBound(), place + 1);
+}
+
+TEST_F(ViewerListTest, APlaceOutsideTheBoundsRaises9) {
+    EXPECT_RAISES(9, Viewers().At(Viewers().LowerBound() - 1));
+    EXPECT_RAISES(9, Viewers().At(Viewers().UpperBound() + 1));
+}
+
+TEST_F(ViewerListTest, AViewerThatThePersonClosesLeavesTheList) {
+    Make(QStringLiteral("a"));
+    const QPointer<GraphForm> viewer = Viewer(QStringLiteral("a"));
+    viewer->close();
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(viewer.isNull());
+}
+
+TEST_F(ViewerListTest, AViewerThatIsKilledIsGoneAtOnce) {
+    Make(QStringLiteral("a"));
+    const QPointer<GraphForm> viewer = Viewer(QStringLiteral("a"));
+    charts.QmKillGraph(QStringLiteral("a"));
+    EXPECT_TRUE(viewer.isNull());
+}
+
+TEST_F(ViewerListTest, KillingAnUnknownIdDoesNothing) {
+    Make(QStringLiteral("a"));
+    charts.QmKillGraph(QStringLiteral("b"));
+    EXPECT_NE(Viewer(QStringLiteral("a")), nullptr);
+}
+
+TEST_F(ViewerListTest, IsViewerMissingIsTrueForError91Only) {
+    EXPECT_TRUE(IsViewerMissing(ViewerPointer()));
+    EXPECT_FALSE(IsViewerMissing(CreateViewer(QStringLiteral("a"))));
+    EXPECT_TRUE(IsViewerMissing([] { throw RuntimeError(ErrorNumber::ObjectNotSet); }));
+    EXPECT_RAISES(13, IsViewerMissing([] { throw RuntimeError(ErrorNumber::TypeMismatch); }));
+}
+
+TEST_F(ViewerListTest, AViewerThatAHostKillsWhileItIsMadeStaysClosed) {
+    Make(QStringLiteral("a"));
+    const QPointer<GraphForm> viewer = Viewer(QStringLiteral("a"));
+    QTimer hosts;
+    QObject::connect(&hosts, &QTimer::timeout, [this] { charts.QmKillGraph(QStringLiteral("a")); });
+    hosts.start(0);
+    Make(QStringLiteral("a"));
+    EXPECT_TRUE(viewer.isNull());
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}
+
+TEST_F(ViewerListTest, KillingAModifiedViewerAsksAndCloses) {
+    Make(QStringLiteral("a"));
+    Viewer(QStringLiteral("a"))->SetModified(true);
+    charts.QmKillGraph(QStringLiteral("a"));
+    EXPECT_EQ(desktop.messages.size(), 1);
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}

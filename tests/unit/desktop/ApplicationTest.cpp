@@ -1,0 +1,175 @@
+#include "desktop/Application.h"
+#include "desktop/HeadlessDesktop.h"
+#include "support/Raises.h"
+#include "support/ScriptedDesktop.h"
+
+#include <QApplication>
+#include <QMimeData>
+
+#include <array>
+#include <cstdlib>
+#include <string>
+#include <thread>
+
+using namespace QmChart6;
+
+namespace {
+
+/// Ends the process with 1 where windows are seen, 2 where the platform's name is another, else 0.
+[[noreturn]] void ExitByPlatform(const char* expected) {
+    const bool seen = RunsOnADisplay();
+    const bool same = QGuiApplication::platformName() == QLatin1String(expected);
+    std::_Exit(seen ? 1 : (same ? 0 : 2));
+}
+
+struct HostArguments {
+    std::string name = "host";
+    std::array<char*, 2> texts{name.data(), nullptr};
+    int count = 1;
+};
+
+class InAProcessOfItsOwn : public testing::Test {
+protected:
+    void SetUp() override { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
+};
+
+} // namespace
+
+using ApplicationDeathTest = InAProcessOfItsOwn;
+
+TEST_F(ApplicationDeathTest, RunsUnseenWithoutADisplay) {
+    EXPECT_EXIT(
+        {
+            unsetenv("QT_QPA_PLATFORM");
+            unsetenv("DISPLAY");
+            unsetenv("WAYLAND_DISPLAY");
+            ExitByPlatform("offscreen");
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, RunsUnseenWhereTheDisplayCannotBeReached) {
+    EXPECT_EXIT(
+        {
+            unsetenv("QT_QPA_PLATFORM");
+            unsetenv("WAYLAND_DISPLAY");
+            setenv("DISPLAY", ":4711", 1);
+            ExitByPlatform("offscreen");
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, RunsUnseenWhereThePlatformThatWasAskedForCannotStart) {
+    EXPECT_EXIT(
+        {
+            setenv("QT_QPA_PLATFORM", "xcb", 1);
+            setenv("DISPLAY", ":4711", 1);
+            ExitByPlatform("offscreen");
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, KeepsThePlatformThatWasAskedFor) {
+    EXPECT_EXIT(
+        {
+            setenv("QT_QPA_PLATFORM", "minimal", 1);
+            setenv("DISPLAY", ":4711", 1);
+            ExitByPlatform("minimal");
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, LeavesTheEnvironmentAsItWas) {
+    EXPECT_EXIT(
+        {
+            unsetenv("QT_QPA_PLATFORM");
+            unsetenv("DISPLAY");
+            unsetenv("WAYLAND_DISPLAY");
+            EnsureApplication();
+            std::_Exit(std::getenv("QT_QPA_PLATFORM") == nullptr ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, UsesTheHostsApplication) {
+    EXPECT_EXIT(
+        {
+            HostArguments from;
+            const QApplication host(from.count, from.texts.data());
+            EnsureApplication();
+            std::_Exit(QCoreApplication::instance() == &host ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, RefusesAHostsApplicationWithoutWidgets) {
+    EXPECT_EXIT(
+        {
+            HostArguments from;
+            const QCoreApplication host(from.count, from.texts.data());
+            try {
+                EnsureApplication();
+            } catch (const RuntimeError& error) {
+                std::_Exit(error.Number());
+            }
+            std::_Exit(0);
+        },
+        testing::ExitedWithCode(5), "");
+}
+
+TEST_F(ApplicationDeathTest, RefusesAThreadThatTheHostsApplicationDoesNotLiveOn) {
+    EXPECT_EXIT(
+        {
+            HostArguments from;
+            const QApplication host(from.count, from.texts.data());
+            std::thread([] {
+                try {
+                    RequireFirstThread();
+                } catch (const RuntimeError& error) {
+                    std::_Exit(error.Number());
+                }
+            }).join();
+            std::_Exit(0);
+        },
+        testing::ExitedWithCode(5), "");
+}
+
+TEST(RequireFirstThread, RefusesAnotherThreadThanTheFirst) {
+    EXPECT_NO_THROW(RequireFirstThread());
+    std::thread([] { EXPECT_RAISES(5, RequireFirstThread()); }).join();
+    EXPECT_NO_THROW(RequireFirstThread());
+}
+
+TEST(HeadlessDesktop, AnswersByItself) {
+    HeadlessDesktop desktop;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(desktop.ShowMessage(nullptr, QStringLiteral("two\nlines"), QStringLiteral("Title"),
+                                  MessageButtons::Ok),
+              Answer::Ok);
+    EXPECT_EQ(desktop.ShowMessage(nullptr, QStringLiteral("sure?"), QString(), MessageButtons::YesNo),
+              Answer::No);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Title: two lines\nsure?\n");
+    EXPECT_FALSE(desktop.PickSaveFile(nullptr, {}).has_value());
+}
+
+TEST(CurrentDesktop, IsWhatAScopePutsInPlace) {
+    EnsureApplication();
+    Desktop& own = CurrentDesktop();
+    {
+        ScriptedDesktop scripted;
+        const ScopedDesktop scope(scripted);
+        EXPECT_EQ(&CurrentDesktop(), &scripted);
+    }
+    EXPECT_EQ(&CurrentDesktop(), &own);
+}
+
+TEST(CurrentDesktop, KeepsTheClipboardsContentUntilItIsCleared) {
+    EnsureApplication();
+    auto content = std::make_unique<QMimeData>();
+    content->setText(QStringLiteral("kept"));
+    CurrentDesktop().SetClipboard(std::move(content));
+    EXPECT_EQ(CurrentDesktop().Clipboard()->text(), "kept");
+    CurrentDesktop().ClearClipboard();
+    const QMimeData* left = CurrentDesktop().Clipboard();
+    EXPECT_TRUE(left == nullptr || left->formats().isEmpty());
+}
