@@ -76,6 +76,24 @@ Chart Pies(int categories, int slices, LabelLocation location) {
     return chart;
 }
 
+/// A pie with some broad and many thin slices, whose labels tell the series' name and percent.
+Chart ThinSlices(LabelLineStyle style) {
+    Chart chart =
+        ChartOf(1, 12, [](int, int column) { return column <= 3 ? 40.0 / column : 1.0 + 0.3 * column; });
+    for (int column = 1; column <= 12; ++column) chart.DataGrid.SetColumnLabel(column, Months[column - 1]);
+    chart.SetChartType(ChartType::Pie2D);
+    chart.Title.Text = QStringLiteral("Thin Slices");
+    chart.ShowLegend = false;
+    for (int series = 1; series <= 12; ++series) {
+        DataPointLabel& label = LookOf(chart, series).DataPointLabel;
+        label.Component = LabelShowsPercent | LabelShowsSeriesName;
+        label.LocationType = LabelLocation::Outside;
+        label.LineStyle = style;
+        label.PercentFormat = QStringLiteral("0.0%");
+    }
+    return chart;
+}
+
 Chart Scatter(int columns) {
     Chart chart = ChartOf(60, columns, [](int row, int column) {
         return column % 2 == 1 ? 20 + 3.1 * row + 9 * std::sin(row * column)
@@ -150,6 +168,38 @@ Chart Dense(ChartType type, int rows) {
         if (row == 700) return 9.0;
         return column + std::sin(row * 0.01 * column) + 0.3 * std::sin(row * 1.7);
     });
+    chart.SetChartType(type);
+    return chart;
+}
+
+Chart Stacked(ChartType type, bool shares, bool signs = false) {
+    Chart chart = signs ? SignsAndGaps(type) : Sales(4, type);
+    chart.Stacking = true;
+    if (shares) {
+        AxisScale& scale = chart.Plot.Axis(AxisId::Y).AxisScale;
+        scale.Type = ScaleType::Percent;
+        scale.PercentBasis = PercentBasis::SumOfRow;
+        chart.Plot.Axis(AxisId::Y).Labels.Item(1).Format = QStringLiteral("0%");
+    }
+    return chart;
+}
+
+Chart Statistics(Chart chart) {
+    chart.Plot.SeriesCollection(1).StatLine.Flag =
+        StatMinimum | StatMaximum | StatMean | StatStandardDeviation | StatRegression;
+    return chart;
+}
+
+Chart Space(ChartType type, double rotation = 60, double elevation = 30,
+            Projection projection = Projection::Oblique) {
+    Chart chart = Sales(4, type);
+    chart.Plot.View3d = {rotation, elevation};
+    chart.Plot.Projection = projection;
+    chart.Plot.Axis(AxisId::Z).AxisTitle.Text = QStringLiteral("Region");
+    return chart;
+}
+
+Chart InSpace(Chart chart, ChartType type) {
     chart.SetChartType(type);
     return chart;
 }
@@ -231,10 +281,46 @@ const std::vector<Sample>& All() {
         {"area-negative-missing", 640, 420, [] { return SignsAndGaps(T::Area2D); }},
         {"step-3-series", 640, 420, [] { return Sales(3, T::Step2D); }},
         {"step-negative-missing", 640, 420, [] { return SignsAndGaps(T::Step2D); }},
+        {"bar-stacked", 640, 420, [] { return Stacked(T::Bar2D, false); }},
+        {"bar-stacked-signs", 640, 420, [] { return Stacked(T::Bar2D, false, true); }},
+        {"bar-shares", 640, 420, [] { return Stacked(T::Bar2D, true); }},
+        {"bar-shares-signs", 640, 420, [] { return Stacked(T::Bar2D, true, true); }},
+        {"line-stacked", 640, 420, [] { return Stacked(T::Line2D, false); }},
+        {"area-stacked", 640, 420, [] { return Stacked(T::Area2D, false); }},
+        {"area-shares", 640, 420, [] { return Stacked(T::Area2D, true); }},
+        {"step-stacked", 640, 420, [] { return Stacked(T::Step2D, false); }},
+        {"combination-stacked", 640, 420, [] { return Stacked(T::Combination2D, false); }},
+        {"bar-statistics", 640, 420, [] { return Statistics(Sales(1)); }},
+        {"line-statistics", 640, 420, [] { return Statistics(Sales(1, T::Line2D)); }},
+        {"xy-statistics", 640, 420, [] { return Statistics(Scatter(2)); }},
         {"combination", 640, 420, [] { return Sales(4, T::Combination2D); }},
         {"combination-two-axes", 640, 420, SecondAxis},
+        {"bar-3d", 640, 420, [] { return Space(T::Bar3D); }},
+        {"bar-3d-left", 640, 420, [] { return Space(T::Bar3D, 120, 20); }},
+        {"bar-3d-orthogonal", 640, 420, [] { return Space(T::Bar3D, 60, 30, Projection::Orthogonal); }},
+        {"bar-3d-perspective", 640, 420, [] { return Space(T::Bar3D, 60, 30, Projection::Perspective); }},
+        {"bar-3d-behind", 640, 420, [] { return Space(T::Bar3D, 230, 40, Projection::Orthogonal); }},
+        {"bar-3d-below", 640, 420, [] { return Space(T::Bar3D, 60, -30, Projection::Perspective); }},
+        {"bar-3d-stacked", 640, 420, [] { return InSpace(Stacked(T::Bar2D, false), T::Bar3D); }},
+        {"bar-3d-shares", 640, 420, [] { return InSpace(Stacked(T::Bar2D, true), T::Bar3D); }},
+        {"bar-3d-signs", 640, 420, [] { return SignsAndGaps(T::Bar3D); }},
+        {"bar-3d-stacked-signs", 640, 420, [] { return InSpace(Stacked(T::Bar2D, false, true), T::Bar3D); }},
+        {"bar-3d-labels", 640, 420, [] { return Labelled(T::Bar3D, L::AbovePoint); }},
+        {"line-3d", 640, 420, [] { return Space(T::Line3D); }},
+        {"line-3d-orthogonal", 640, 420, [] { return Space(T::Line3D, 40, 25, Projection::Orthogonal); }},
+        {"line-3d-signs", 640, 420, [] { return SignsAndGaps(T::Line3D); }},
+        {"area-3d", 640, 420, [] { return Space(T::Area3D); }},
+        {"area-3d-perspective", 640, 420, [] { return Space(T::Area3D, 130, 35, Projection::Perspective); }},
+        {"area-3d-stacked", 640, 420, [] { return InSpace(Stacked(T::Area2D, false), T::Area3D); }},
+        {"area-3d-signs", 640, 420, [] { return SignsAndGaps(T::Area3D); }},
+        {"step-3d", 640, 420, [] { return Space(T::Step3D); }},
+        {"step-3d-perspective", 640, 420, [] { return Space(T::Step3D, 120, 25, Projection::Perspective); }},
+        {"combination-3d", 640, 420, [] { return Space(T::Combination3D); }},
         {"pie-one", 480, 360, [] { return Pies(1, 6, L::Outside); }},
         {"pie-grid", 640, 420, [] { return Pies(7, 4, L::Inside); }},
+        {"pie-straight-lines", 480, 360, [] { return ThinSlices(LabelLineStyle::Straight); }},
+        {"pie-bent-lines", 480, 360, [] { return ThinSlices(LabelLineStyle::Bent); }},
+        {"pie-thin-slices", 480, 360, [] { return ThinSlices(LabelLineStyle::None); }},
         {"pie-plain", 480, 360, [] { return Pies(3, 5, L::None); }},
         {"xy-pairs", 640, 420, [] { return Scatter(4); }},
         {"xy-unpaired", 640, 420, [] { return Scatter(3); }},

@@ -2,56 +2,92 @@
 #include "chartcontrol/layout/Runs.h"
 #include "chartcontrol/layout/SeriesLook.h"
 
+#include <algorithm>
+
 namespace QmChart6 {
 
 namespace {
 
-void AddEdgePoints(const LayoutContext& context, const PlotArea& area, const LinearMap& map, const Runs& runs,
-                   std::size_t run) {
-    for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
-        context.builder.AddPoint({area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
-}
-
 /// A value alone between missing ones has no width of its own; it gets this part of its slot.
 constexpr double LoneShare = 0.1;
 
-void AddFill(const LayoutContext& context, const PlotArea& area, int number, const Runs& runs) {
-    const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = area.MapOf(series);
-    const double base = PlotArea::BaseOf(map);
+void AddEdgePoints(const PlotContext& context, int number, const Runs& runs, std::size_t run) {
+    const LinearMap& map = context.MapOf(number);
+    for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
+        context.builder.AddPoint(
+            {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
+}
+
+/// The way back along what a series is piled on.
+void AddBasePoints(const PlotContext& context, int number, const Values& bases, const Runs& runs,
+                   std::size_t run) {
+    const LinearMap& map = context.MapOf(number);
+    for (std::size_t i = runs.starts[run + 1]; i-- > runs.starts[run];) {
+        const int category = runs.samples[i].category;
+        context.builder.AddPoint({context.area.CategoryX(category), map.At(bases[category])});
+    }
+}
+
+void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_t run, const Values& bases) {
+    const Sample& first = runs.samples[runs.starts[run]];
+    const Sample& last = runs.samples[runs.starts[run + 1] - 1];
+    const double start = context.area.CategoryX(first.category);
+    const double end = context.area.CategoryX(last.category);
+    if (&first == &last) {
+        const double lone = LoneShare * context.area.slot / 2;
+        const double y = context.Y(number, first.value);
+        const double base =
+            bases.first == nullptr ? context.BaseY(number) : context.Y(number, bases[first.category]);
+        for (const Point& point : {Point{start - lone, base}, Point{start - lone, y}, Point{start + lone, y},
+                                   Point{start + lone, base}})
+            context.builder.AddPoint(point);
+        return;
+    }
+    if (bases.first == nullptr) context.builder.AddPoint({start, context.BaseY(number)});
+    AddEdgePoints(context, number, runs, run);
+    if (bases.first == nullptr)
+        context.builder.AddPoint({end, context.BaseY(number)});
+    else
+        AddBasePoints(context, number, bases, runs, run);
+}
+
+void AddFill(const PlotContext& context, int number, Runs& runs, const Values& bases) {
+    CollectRuns(context.plotted.Top(number), context.area, runs);
+    const DataPoint& look = context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
-        const Sample& first = runs.samples[runs.starts[run]];
-        const Sample& last = runs.samples[runs.starts[run + 1] - 1];
-        const double lone = &first == &last ? LoneShare * area.slot / 2 : 0;
-        context.builder.AddPoint({area.CategoryX(first.category) - lone, base});
-        if (lone > 0) {
-            context.builder.AddPoint({area.CategoryX(first.category) - lone, map.At(first.value)});
-            context.builder.AddPoint({area.CategoryX(first.category) + lone, map.At(first.value)});
-        } else {
-            AddEdgePoints(context, area, map, runs, run);
-        }
-        context.builder.AddPoint({area.CategoryX(last.category) + lone, base});
-        const DataPoint& look = series.DataPoints.Item(DataPoints::All);
+        AddRun(context, number, runs, run, bases);
         context.builder.AddPolygon({PartCode::Series, number}, FillOf(look.Brush));
+    }
+}
+
+void AddEdges(const PlotContext& context, const std::vector<int>& series, Runs& runs) {
+    for (const int number : series) {
+        CollectRuns(context.plotted.Top(number), context.area, runs);
+        for (std::size_t run = 0; run < runs.Count(); ++run) {
+            AddEdgePoints(context, number, runs, run);
+            context.builder.AddPolyline({PartCode::Series, number},
+                                        LineStrokeOf(context.chart.Plot.SeriesCollection(number)));
+        }
     }
 }
 
 } // namespace
 
-void LayOutAreas(const LayoutContext& context, const PlotArea& area, const std::vector<int>& numbers) {
+void LayOutAreas(const PlotContext& context, const std::vector<int>& series) {
     Runs runs;
-    for (const int number : numbers) {
-        CollectRuns(context.chart.SeriesValues(number), area, runs);
-        AddFill(context, area, number, runs);
+    if (!context.plotted.IsStacked()) {
+        for (const int number : series) AddFill(context, number, runs, {});
+        AddEdges(context, series, runs);
+        return;
     }
-    for (const int number : numbers) {
-        const Series& series = context.chart.Plot.SeriesCollection(number);
-        CollectRuns(context.chart.SeriesValues(number), area, runs);
-        for (std::size_t run = 0; run < runs.Count(); ++run) {
-            AddEdgePoints(context, area, area.MapOf(series), runs, run);
-            context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
-        }
-    }
+    // Piled areas reach down to the axis and the lower cover the higher: no seam shows between two that
+    // touch. Where one is open, what lies behind it must not show, so that all are drawn as bands.
+    const bool bands = std::any_of(series.begin(), series.end(), [&](int number) {
+        return context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All).Brush.Style ==
+               BrushStyle::None;
+    });
+    for (std::size_t i = series.size(); i-- > 0;)
+        AddFill(context, series[i], runs, bands ? context.plotted.Base(series[i]) : Values{});
 }
 
 } // namespace QmChart6

@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/CategoryLabels.h"
 #include "chartcontrol/layout/LayoutContext.h"
 #include "chartcontrol/layout/PlotArea.h"
+#include "chartcontrol/layout/PlottedValues.h"
 #include "chartcontrol/layout/ValueAxis.h"
 
 #include <vector>
@@ -26,7 +27,7 @@ struct PlotDemand {
     [[nodiscard]] bool HasValues() const { return !primary.IsEmpty() || !secondary.IsEmpty(); }
 };
 
-PlotDemand DemandOf(const Chart& chart);
+PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted);
 
 /// How much of the axes' furniture is drawn; a small chart does without some.
 enum class Furniture { All, NoTitles, None };

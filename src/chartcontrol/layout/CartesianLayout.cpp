@@ -4,7 +4,9 @@
 #include "chartcontrol/layout/AxesPlan.h"
 #include "chartcontrol/layout/DataLabels.h"
 #include "chartcontrol/layout/Marks.h"
+#include "chartcontrol/layout/PlotContext.h"
 #include "chartcontrol/layout/SeriesLook.h"
+#include "chartcontrol/layout/StatisticsLines.h"
 
 namespace QmChart6 {
 
@@ -30,20 +32,20 @@ bool MayOverflow(const Chart& chart) {
     return false;
 }
 
-void LayOutMarks(const LayoutContext& context, const PlotDemand& demand, const PlotArea& area) {
-    if (MayOverflow(context.chart)) context.builder.SetClip(area.box);
-    LayOutAreas(context, area, demand.areas);
-    LayOutBars(context, area, demand.bars);
+void LayOutMarks(const PlotContext& context, const PlotDemand& demand) {
+    if (MayOverflow(context.chart)) context.builder.SetClip(context.area.box);
+    LayOutAreas(context, demand.areas);
+    LayOutBars(context, demand.bars);
     for (const int series : demand.others) {
         switch (MarkKindOf(context.chart, series)) {
         case MarkKind::Line:
-            LayOutLine(context, area, series);
+            LayOutLine(context, series);
             break;
         case MarkKind::Step:
-            LayOutStep(context, area, series);
+            LayOutStep(context, series);
             break;
         case MarkKind::XY:
-            LayOutXY(context, area, series);
+            LayOutXY(context, series);
             break;
         case MarkKind::Bar:
         case MarkKind::Area:
@@ -51,20 +53,23 @@ void LayOutMarks(const LayoutContext& context, const PlotDemand& demand, const P
             break;
         }
     }
+    LayOutStatistics(context);
     context.builder.SetClip({});
 }
 
 } // namespace
 
 void LayOutCartesian(const LayoutContext& context, const Box& box) {
-    const PlotDemand demand = DemandOf(context.chart);
+    const PlottedValues plotted(context.chart);
+    const PlotDemand demand = DemandOf(context.chart, plotted);
     if (!demand.HasValues()) context.builder.Warn(QStringLiteral("there is no value to show"));
     const AxesPlan plan = PlanThatFits(context, demand, box);
     context.builder.AddRectangle({PartCode::Plot}, plan.area.box, {});
     LayOutGrid(context, demand, plan);
-    LayOutMarks(context, demand, plan.area);
+    const PlotContext plot{context, plan.area, plotted};
+    LayOutMarks(plot, demand);
     LayOutAxes(context, demand, plan, box);
-    LayOutDataLabels(context, plan.area, demand.bars);
+    LayOutDataLabels(plot, demand.bars);
 }
 
 } // namespace QmChart6

@@ -1,6 +1,8 @@
 #include "chartcontrol/layout/DataLabels.h"
 
 #include "chartcontrol/layout/BarCluster.h"
+#include "chartcontrol/layout/LabelLines.h"
+#include "chartcontrol/layout/LabelPlaces.h"
 #include "chartcontrol/layout/LabelText.h"
 #include "chartcontrol/layout/Occupancy.h"
 #include "chartcontrol/layout/SeriesLook.h"
@@ -14,139 +16,144 @@ namespace QmChart6 {
 
 namespace {
 
-/// From mark to label, in points.
-constexpr double Gap = 2.5;
-/// Labels closer than this along the axis are not even tried.
+/// Labels closer than this along the axis are not even tried. Points.
 constexpr double ClosestPitch = 5;
 constexpr double LongestLabel = 160;
+constexpr int MostLines = 3;
 
-/// What a label belongs to: the bar, or the point as an empty box; and its value's sign.
-struct Anchor {
-    Box box;
-    bool isBar = false;
-    bool negative = false;
+/// A label that wants a place. Lower ranks are placed first.
+struct Candidate {
+    int series = 0;
+    int category = 0;
+    double value = 0;
+    LabelAnchor anchor;
+    int rank = 1;
 };
-
-Box CenteredAt(double x, double y, const Size& size) {
-    return {x - size.width / 2, y - size.height / 2, x + size.width / 2, y + size.height / 2};
-}
-
-Box PlaceFor(LabelLocation location, const Anchor& anchor, const Size& size) {
-    const Box& box = anchor.box;
-    const Point middle = box.Center();
-    const double above = box.top - Gap - size.height / 2;
-    const double below = box.bottom + Gap + size.height / 2;
-    switch (location) {
-    case LabelLocation::AbovePoint:
-    case LabelLocation::Outside:
-        return CenteredAt(middle.x, anchor.isBar && anchor.negative ? below : above, size);
-    case LabelLocation::BelowPoint:
-        if (!anchor.isBar) return CenteredAt(middle.x, below, size);
-        // Below a bar's point is within the bar, at its end.
-        return CenteredAt(
-            middle.x, anchor.negative ? box.bottom - Gap - size.height / 2 : box.top + Gap + size.height / 2,
-            size);
-    case LabelLocation::Base:
-        if (!anchor.isBar) return CenteredAt(middle.x, below, size);
-        return CenteredAt(
-            middle.x, anchor.negative ? box.top + Gap + size.height / 2 : box.bottom - Gap - size.height / 2,
-            size);
-    case LabelLocation::Left:
-        return CenteredAt(box.left - Gap - size.width / 2, middle.y, size);
-    case LabelLocation::Right:
-        return CenteredAt(box.right + Gap + size.width / 2, middle.y, size);
-    case LabelLocation::None:
-    case LabelLocation::Center:
-    case LabelLocation::Inside:
-        break;
-    }
-    return CenteredAt(middle.x, middle.y, size);
-}
 
 class Labeller {
 public:
-    Labeller(const LayoutContext& context, const PlotArea& area, const std::vector<int>& bars)
-        : context_(context), area_(area), bars_(bars), room_(area.box.Grown(1)), taken_(room_),
-          texts_(context.chart),
-          cluster_(ClusterOf(context.chart.Plot, area, std::max(1, static_cast<int>(bars.size())))) {}
+    Labeller(const PlotContext& context, const std::vector<int>& bars)
+        : context_(context), bars_(bars), cluster_(ClusterOf(context, bars)),
+          taken_(context.area.box.Grown(1)), texts_(context.chart) {}
 
-    void Label(int number) {
-        const Series& series = context_.chart.Plot.SeriesCollection(number);
-        if (!ShowsLabel(series.DataPoints.Item(DataPoints::All).DataPointLabel) &&
-            !series.DataPoints.HasOwn())
-            return;
-        if (MarkKindOf(context_.chart, number) == MarkKind::XY) {
-            const XYPairs pairs(context_.chart, number);
-            for (int i = 0; i < pairs.Count(); ++i)
-                if (pairs.Has(i))
-                    One(number, i, pairs.Y(i), PointAt(area_.across.At(pairs.X(i)), number, pairs.Y(i)));
-            return;
-        }
-        const Values values = context_.chart.SeriesValues(number);
-        const int stride = std::max(1, static_cast<int>(std::ceil(ClosestPitch / area_.slot)));
-        for (int i = 0; i < values.count; i += stride)
-            if (!std::isnan(values[i])) One(number, i, values[i], AnchorOf(number, i, values[i]));
-    }
-
-    void WarnOfOmitted() const {
-        if (omitted_ > 0) context_.builder.Warn(QStringLiteral("%1 data labels have no room").arg(omitted_));
+    void Run() {
+        for (int number = 1; number <= context_.chart.Plot.SeriesCollection.Count(); ++number)
+            if (IsDrawn(context_.chart, number)) Collect(number);
+        std::stable_sort(candidates_.begin(), candidates_.end(),
+                         [](const Candidate& a, const Candidate& b) { return a.rank < b.rank; });
+        int omitted = 0;
+        for (const Candidate& candidate : candidates_)
+            if (!Place(candidate)) ++omitted;
+        if (omitted > 0) context_.builder.Warn(QStringLiteral("%1 data labels have no room").arg(omitted));
     }
 
 private:
-    [[nodiscard]] Anchor PointAt(double x, int number, double value) const {
-        const Series& series = context_.chart.Plot.SeriesCollection(number);
-        const LineLook look = LineLookOf(series);
-        const double half = look.markers ? series.DataPoints.Item(DataPoints::All).Marker.Size / 2 : 0;
-        const double y = area_.MapOf(series).At(value);
+    [[nodiscard]] const Series& SeriesOf(int number) const {
+        return context_.chart.Plot.SeriesCollection(number);
+    }
+
+    void Collect(int number) {
+        const DataPoints& points = SeriesOf(number).DataPoints;
+        if (!ShowsLabel(points.Item(DataPoints::All).DataPointLabel) && !points.HasOwn()) return;
+        const std::size_t first = candidates_.size();
+        if (MarkKindOf(context_.chart, number) == MarkKind::XY)
+            CollectXY(number);
+        else
+            CollectCategories(number);
+        Rank(first);
+    }
+
+    void CollectXY(int number) {
+        const XYPairs pairs(context_.chart, number);
+        for (int i = 0; i < pairs.Count(); ++i)
+            if (pairs.Has(i))
+                Add(number, i, pairs.Y(i), PointAt(number, context_.area.across.At(pairs.X(i)), pairs.Y(i)));
+    }
+
+    void CollectCategories(int number) {
+        const Values values = context_.chart.SeriesValues(number);
+        const int stride = std::max(1, static_cast<int>(std::ceil(ClosestPitch / context_.area.slot)));
+        for (int i = 0; i < values.count; i += stride)
+            if (!std::isnan(values[i])) Add(number, i, values[i], AnchorOf(number, i));
+    }
+
+    void Add(int number, int category, double value, const LabelAnchor& anchor) {
+        if (ShowsLabel(SeriesOf(number).DataPoints.Item(category + 1).DataPointLabel))
+            candidates_.push_back({number, category, value, anchor, 1});
+    }
+
+    /// The ends and extremes of a series come first.
+    void Rank(std::size_t first) {
+        if (first == candidates_.size()) return;
+        const auto begin = candidates_.begin() + static_cast<std::ptrdiff_t>(first);
+        const auto less = [](const Candidate& a, const Candidate& b) { return a.value < b.value; };
+        std::min_element(begin, candidates_.end(), less)->rank = 0;
+        std::max_element(begin, candidates_.end(), less)->rank = 0;
+        begin->rank = 0;
+        candidates_.back().rank = 0;
+    }
+
+    [[nodiscard]] LabelAnchor PointAt(int number, double x, double value) const {
+        const Series& series = SeriesOf(number);
+        const double half =
+            LineLookOf(series).markers ? series.DataPoints.Item(DataPoints::All).Marker.Size / 2 : 0;
+        const double y = context_.Y(number, value);
         return {{x - half, y - half, x + half, y + half}, false, value < 0};
     }
 
-    [[nodiscard]] Anchor AnchorOf(int number, int category, double value) const {
-        const double x = area_.CategoryX(category);
+    [[nodiscard]] LabelAnchor AnchorOf(int number, int category) const {
+        const double x = context_.area.CategoryX(category);
+        const double top = context_.plotted.Top(number)[category];
         const auto bar = std::find(bars_.begin(), bars_.end(), number);
-        if (bar == bars_.end()) return PointAt(x, number, value);
-        const LinearMap& map = area_.MapOf(context_.chart.Plot.SeriesCollection(number));
-        const double left = x + cluster_.left + static_cast<double>(bar - bars_.begin()) * cluster_.pitch;
-        const double base = PlotArea::BaseOf(map);
-        const double y = map.At(value);
-        return {{left, std::min(y, base), left + cluster_.barWidth, std::max(y, base)}, true, value < 0};
+        if (bar == bars_.end()) return PointAt(number, x, top);
+        const Values bases = context_.plotted.Base(number);
+        const double base =
+            bases.first == nullptr ? context_.BaseY(number) : context_.Y(number, bases[category]);
+        const double left = x + cluster_.left[static_cast<std::size_t>(bar - bars_.begin())];
+        const double y = context_.Y(number, top);
+        return {{left, std::min(y, base), left + cluster_.barWidth, std::max(y, base)}, true, y > base};
     }
 
-    void One(int number, int category, double value, const Anchor& anchor) {
-        const DataPoint& look = context_.chart.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
+    bool Place(const Candidate& candidate) {
+        const DataPoint& look = SeriesOf(candidate.series).DataPoints.Item(candidate.category + 1);
         const DataPointLabel& label = look.DataPointLabel;
-        if (!ShowsLabel(label)) return;
-        const QString text = texts_.Of(label, number, category, value);
-        TextBlock block =
-            BreakText(text, label.VtFont, label.TextLayout.Orientation, {LongestLabel, 3}, context_.measurer);
-        const Box place = PlaceFor(label.LocationType, anchor, block.Extent());
-        if (!taken_.Take(place)) {
-            ++omitted_;
-            return;
+        const QString text = texts_.Of(label, candidate.series, candidate.category, candidate.value);
+        TextBlock block = BreakText(text, label.VtFont, label.TextLayout.Orientation,
+                                    {LongestLabel, MostLines}, context_.measurer);
+        const bool withLine = label.LineStyle != LabelLineStyle::None;
+        for (const LabelPlace& place :
+             PlacesFor(label.LocationType, candidate.anchor, block.Extent(), withLine)) {
+            if (!taken_.Take(place.box)) continue;
+            const Part part{PartCode::PointLabel, candidate.series, candidate.category + 1};
+            if (place.away)
+                AddLabelLine(context_.builder, part, label.LineStyle, From(candidate.anchor, place.box),
+                             place.box, label.VtFont.VtColor);
+            const bool onBar = candidate.anchor.isBar && candidate.anchor.box.Contains(place.box.Center());
+            if (onBar) block.font = ReadableFont(block.font, look.Brush.FillColor);
+            PlaceText(context_.builder, part, block, place.box, HorizontalAlignment::Center,
+                      VerticalAlignment::Center);
+            return true;
         }
-        const bool onBar = anchor.isBar && anchor.box.Contains(place.Center());
-        if (onBar) block.font = ReadableFont(block.font, look.Brush.FillColor);
-        PlaceText(context_.builder, {PartCode::PointLabel, number, category + 1}, block, place,
-                  HorizontalAlignment::Center, VerticalAlignment::Center);
+        return false;
     }
 
-    const LayoutContext& context_;
-    const PlotArea& area_;
+    static Point From(const LabelAnchor& anchor, const Box& label) {
+        const double x = anchor.box.Center().x;
+        return {x, label.Center().y < anchor.box.Center().y ? anchor.box.top : anchor.box.bottom};
+    }
+
+    const PlotContext& context_;
     const std::vector<int>& bars_;
-    Box room_;
+    BarCluster cluster_;
     Occupancy taken_;
     LabelTexts texts_;
-    BarCluster cluster_;
-    int omitted_ = 0;
+    std::vector<Candidate> candidates_;
 };
 
 } // namespace
 
-void LayOutDataLabels(const LayoutContext& context, const PlotArea& area, const std::vector<int>& bars) {
-    Labeller labeller(context, area, bars);
-    for (int number = 1; number <= context.chart.Plot.SeriesCollection.Count(); ++number)
-        if (IsDrawn(context.chart, number)) labeller.Label(number);
-    labeller.WarnOfOmitted();
+void LayOutDataLabels(const PlotContext& context, const std::vector<int>& bars) {
+    Labeller(context, bars).Run();
 }
 
 } // namespace QmChart6

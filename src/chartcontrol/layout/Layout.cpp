@@ -5,6 +5,7 @@
 #include "chartcontrol/layout/LayoutContext.h"
 #include "chartcontrol/layout/LegendLayout.h"
 #include "chartcontrol/layout/Marks.h"
+#include "chartcontrol/layout/SpaceLayout.h"
 #include "chartcontrol/layout/TitleLayout.h"
 
 #include <algorithm>
@@ -37,7 +38,6 @@ Scene LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasure
     const LayoutContext context{chart, request, measurer, builder};
     const Box whole{0, 0, request.size.width, request.size.height};
     LayOutBackdrop(builder, {PartCode::Chart}, chart.Backdrop, whole);
-    if (Is3D(chart.chartType())) builder.Warn(QStringLiteral("a 3D chart is drawn flat"));
     const double margin = std::min(Margin, MarginShare * std::min(request.size.width, request.size.height));
     Box free = whole.Grown(-(FrameDepth(chart.Backdrop.Frame) + margin));
     LayOutTitle(context, chart.Title, PartCode::Title, free);
@@ -50,6 +50,8 @@ Scene LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasure
     }
     if (chart.chartType() == ChartType::Pie2D)
         LayOutPies(context, box);
+    else if (Is3D(chart.chartType()))
+        LayOutSpace(context, box);
     else
         LayOutCartesian(context, box);
     return scene;

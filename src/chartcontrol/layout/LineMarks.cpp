@@ -5,23 +5,23 @@
 
 namespace QmChart6 {
 
-void LayOutLine(const LayoutContext& context, const PlotArea& area, int number) {
+void LayOutLine(const PlotContext& context, int number) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = area.MapOf(series);
+    const LinearMap& map = context.area.MapOf(series);
     const LineLook look = LineLookOf(series);
     Runs runs;
-    CollectRuns(context.chart.SeriesValues(number), area, runs);
+    CollectRuns(context.plotted.Top(number), context.area, runs);
     for (std::size_t run = 0; look.line && run < runs.Count(); ++run) {
         if (runs.starts[run + 1] - runs.starts[run] < 2) continue;
         for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
             context.builder.AddPoint(
-                {area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
+                {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
         context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
     }
     if (look.markers)
-        LayOutMarkers(context, area, number, runs);
+        LayOutMarkers(context, number, runs);
     else
-        LayOutLoneSamples(context, area, number, runs);
+        LayOutLoneSamples(context, number, runs);
 }
 
 } // namespace QmChart6

@@ -17,12 +17,12 @@ SceneFill MarkerFill(const DataPoint& look) {
 
 } // namespace
 
-void LayOutMarkers(const LayoutContext& context, const PlotArea& area, int number, const Runs& runs) {
+void LayOutMarkers(const PlotContext& context, int number, const Runs& runs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = area.MapOf(series);
+    const LinearMap& map = context.area.MapOf(series);
     const DataPoint& all = series.DataPoints.Item(DataPoints::All);
     const auto place = [&](const Sample& sample) {
-        context.builder.AddPoint({area.CategoryX(sample.category), map.At(sample.value)});
+        context.builder.AddPoint({context.area.CategoryX(sample.category), map.At(sample.value)});
     };
     for (const Sample& sample : runs.samples)
         if (!series.DataPoints.HasOwn() || &series.DataPoints.Item(sample.category + 1) == &all)
@@ -41,13 +41,13 @@ void LayOutMarkers(const LayoutContext& context, const PlotArea& area, int numbe
     }
 }
 
-void LayOutLoneSamples(const LayoutContext& context, const PlotArea& area, int number, const Runs& runs) {
+void LayOutLoneSamples(const PlotContext& context, int number, const Runs& runs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = area.MapOf(series);
+    const LinearMap& map = context.area.MapOf(series);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         if (runs.starts[run + 1] - runs.starts[run] != 1) continue;
         const Sample& sample = runs.samples[runs.starts[run]];
-        context.builder.AddPoint({area.CategoryX(sample.category), map.At(sample.value)});
+        context.builder.AddPoint({context.area.CategoryX(sample.category), map.At(sample.value)});
     }
     context.builder.AddMarkers({PartCode::Series, number}, MarkerStyle::Circle,
                                DotFactor * series.LinePen.Width,

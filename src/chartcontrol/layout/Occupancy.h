@@ -17,35 +17,45 @@ public:
 
     /// Takes the cells of a box if it lies within and all of them are free.
     bool Take(const Box& wanted) {
-        if (wanted.left < box_.left || wanted.top < box_.top || wanted.right > box_.right ||
-            wanted.bottom > box_.bottom)
-            return false;
-        const Cell first = CellAt(wanted.left, wanted.top);
-        const Cell last = CellAt(wanted.right, wanted.bottom);
-        for (int row = first.row; row <= last.row; ++row)
-            for (int column = first.column; column <= last.column; ++column)
-                if (taken_[Index(row, column)] != 0) return false;
-        for (int row = first.row; row <= last.row; ++row)
-            for (int column = first.column; column <= last.column; ++column) taken_[Index(row, column)] = 1;
+        const bool within = wanted.left >= box_.left && wanted.top >= box_.top &&
+                            wanted.right <= box_.right && wanted.bottom <= box_.bottom;
+        if (!within || !IsFree(wanted)) return false;
+        Mark(wanted);
         return true;
     }
 
+    /// Takes what of a box lies within, free or not.
+    void Mark(const Box& taken) {
+        ForEachCell(taken, [](char& cell) {
+            cell = 1;
+            return true;
+        });
+    }
+
 private:
-    struct Cell {
-        int column = 0;
-        int row = 0;
-    };
-    static constexpr double CellSize = 2;
+    static constexpr double CellSize = 1;
 
     static int Cells(double length) {
         return std::max(1, static_cast<int>(std::ceil(length / CellSize)) + 1);
     }
-    [[nodiscard]] Cell CellAt(double x, double y) const {
-        return {static_cast<int>((x - box_.left) / CellSize), static_cast<int>((y - box_.top) / CellSize)};
+    [[nodiscard]] bool IsFree(const Box& wanted) {
+        return ForEachCell(wanted, [](const char& cell) { return cell == 0; });
     }
-    [[nodiscard]] std::size_t Index(int row, int column) const {
-        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-               static_cast<std::size_t>(column);
+
+    /// Visits the cells of a box until one says no; whether all said yes.
+    template<class Visit>
+    bool ForEachCell(const Box& box, Visit visit) {
+        const auto cell = [](double place, double start, int count) {
+            return std::clamp(static_cast<int>((place - start) / CellSize), 0, count - 1);
+        };
+        const int lastRow = cell(box.bottom, box_.top, rows_);
+        const int lastColumn = cell(box.right, box_.left, columns_);
+        for (int row = cell(box.top, box_.top, rows_); row <= lastRow; ++row)
+            for (int column = cell(box.left, box_.left, columns_); column <= lastColumn; ++column)
+                if (!visit(taken_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                                  static_cast<std::size_t>(column)]))
+                    return false;
+        return true;
     }
 
     Box box_;

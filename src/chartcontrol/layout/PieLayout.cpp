@@ -1,24 +1,22 @@
 #include "chartcontrol/layout/LabelText.h"
 #include "chartcontrol/layout/Marks.h"
 #include "chartcontrol/layout/Occupancy.h"
+#include "chartcontrol/layout/PieLabels.h"
 #include "chartcontrol/layout/TextBlock.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace QmChart6 {
 
 namespace {
 
-/// Points: from pie to pie, from label to pie, and the smallest pie that can still be read.
+/// Points: from pie to pie, from its name to a pie, and the smallest pie that can still be read.
 constexpr double PieGap = 12;
-constexpr double LabelGap = 4;
+constexpr double NameGap = 4;
 constexpr double SmallestPie = 14;
-/// The part of a pie's radius that labels outside take on each side, and where labels inside stand.
-constexpr double OutsideShare = 0.26;
-constexpr double InsideShare = 0.64;
-constexpr double LongestLabelShare = 0.9;
+/// Labels outside take at most this part of a pie's cell on each side.
+constexpr double LargestReachShare = 0.28;
 constexpr double TurnStart = 90;
 
 struct PieGrid {
@@ -26,7 +24,8 @@ struct PieGrid {
     int rows = 1;
     int shown = 0;
     Size cell;
-    double labelHeight = 0;
+    double nameHeight = 0;
+    Size reach; // of the labels outside
     double diameter = 0;
 };
 
@@ -52,14 +51,37 @@ private:
 
     [[nodiscard]] SubPlotLabelPosition NamePosition() const { return chart_.Plot.SubPlotLabelPosition; }
 
-    [[nodiscard]] bool LabelsOutside() const {
-        for (const Series& series : chart_.Plot.SeriesCollection) {
-            const DataPointLabel& label = series.DataPoints.Item(DataPoints::All).DataPointLabel;
-            if (ShowsLabel(label) && label.LocationType != LabelLocation::Inside &&
-                label.LocationType != LabelLocation::Center)
-                return true;
+    /// The labels of a category's slices, those inside or those outside.
+    [[nodiscard]] std::vector<PieLabel> Labels(int category, bool inside) {
+        std::vector<PieLabel> labels;
+        const double sum = SumOf(category);
+        double before = 0;
+        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count() && sum > 0; ++number) {
+            const double value = chart_.SeriesValues(number)[category];
+            if (!(value > 0)) continue;
+            const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
+            const LabelLocation location = look.DataPointLabel.LocationType;
+            const bool isInside = location == LabelLocation::Inside || location == LabelLocation::Center;
+            if (ShowsLabel(look.DataPointLabel) && isInside == inside)
+                labels.push_back({{PartCode::PointLabel, number, category + 1},
+                                  texts_.Of(look.DataPointLabel, number, category, value),
+                                  before + value / sum / 2,
+                                  value / sum,
+                                  &look});
+            before += value / sum;
         }
-        return false;
+        return labels;
+    }
+
+    /// How far any pie's labels outside reach; pies are as large as each other.
+    [[nodiscard]] Size WidestReach() {
+        constexpr int mostLookedAt = 64;
+        Size reach;
+        for (int category = 0; category < std::min(mostLookedAt, chart_.CategoryCount()); ++category) {
+            const Size one = OutsideReach(Labels(category, false), context_.measurer);
+            reach = {std::max(reach.width, one.width), std::max(reach.height, one.height)};
+        }
+        return reach;
     }
 
     [[nodiscard]] bool HasNames() const {
@@ -69,31 +91,34 @@ private:
         return false;
     }
 
-    [[nodiscard]] PieGrid GridOf(int pies, int columns, double labelHeight) const {
+    [[nodiscard]] PieGrid GridOf(int pies, int columns, double nameHeight, const Size& reach) const {
         PieGrid grid;
         grid.columns = columns;
         grid.rows = (pies + columns - 1) / columns;
         grid.shown = pies;
         grid.cell = {(box_.Width() + PieGap) / grid.columns - PieGap,
                      (box_.Height() + PieGap) / grid.rows - PieGap};
-        grid.labelHeight = labelHeight;
-        grid.diameter = std::min(grid.cell.width, grid.cell.height - labelHeight);
-        if (LabelsOutside()) grid.diameter *= 1 - OutsideShare;
+        grid.nameHeight = nameHeight;
+        grid.reach = {std::min(reach.width, LargestReachShare * grid.cell.width),
+                      std::min(reach.height, LargestReachShare * grid.cell.height)};
+        grid.diameter = std::min(grid.cell.width - 2 * grid.reach.width,
+                                 grid.cell.height - nameHeight - 2 * grid.reach.height);
         return grid;
     }
 
     /// The number of columns that gives the largest pies; as many pies as can be read.
-    [[nodiscard]] PieGrid ChooseGrid() const {
-        const double nameHeight = context_.measurer.Measure(QStringLiteral("x"), nameFont_).Height();
+    [[nodiscard]] PieGrid ChooseGrid() {
+        const double lineHeight = context_.measurer.Measure(QStringLiteral("x"), nameFont_).Height();
         const bool besides = HasNames() && NamePosition() != SubPlotLabelPosition::Center;
-        const double labelHeight = besides ? nameHeight + LabelGap : 0;
+        const double nameHeight = besides ? lineHeight + NameGap : 0;
         const int most =
             std::max(1, static_cast<int>((box_.Width() + PieGap) / (SmallestPie + PieGap))) *
-            std::max(1, static_cast<int>((box_.Height() + PieGap) / (SmallestPie + labelHeight + PieGap)));
+            std::max(1, static_cast<int>((box_.Height() + PieGap) / (SmallestPie + nameHeight + PieGap)));
         const int pies = std::min(chart_.CategoryCount(), most);
-        PieGrid best = GridOf(pies, 1, labelHeight);
+        const Size reach = WidestReach();
+        PieGrid best = GridOf(pies, 1, nameHeight, reach);
         for (int columns = 2; columns <= pies; ++columns) {
-            const PieGrid grid = GridOf(pies, columns, labelHeight);
+            const PieGrid grid = GridOf(pies, columns, nameHeight, reach);
             if (grid.diameter > best.diameter + 1e-6) best = grid;
         }
         return best;
@@ -107,18 +132,21 @@ private:
         const double left = box_.left + indent + (category % grid_.columns) * (grid_.cell.width + PieGap);
         const double top = box_.top + row * (grid_.cell.height + PieGap);
         const bool above = NamePosition() == SubPlotLabelPosition::Above;
-        const double pieTop = top + (above ? grid_.labelHeight : 0);
-        const Point center{left + grid_.cell.width / 2, pieTop + (grid_.cell.height - grid_.labelHeight) / 2};
+        const double pieTop = top + (above ? grid_.nameHeight : 0);
+        const Point center{left + grid_.cell.width / 2, pieTop + (grid_.cell.height - grid_.nameHeight) / 2};
+        const Box cell{left, pieTop, left + grid_.cell.width, pieTop + grid_.cell.height - grid_.nameHeight};
         Slices(category, center);
         Name(category, center);
+        const PieCircle circle{center, grid_.diameter / 2, cell};
+        omittedLabels_ += PlaceInside(context_, Labels(category, true), circle, taken_);
+        omittedLabels_ += PlaceOutside(context_, Labels(category, false), circle, taken_);
     }
 
-    [[nodiscard]] double SumOf(int category) {
+    [[nodiscard]] double SumOf(int category) const {
         double sum = 0;
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
             const double value = chart_.SeriesValues(series)[category];
             if (value > 0) sum += value;
-            if (value < 0) ++negatives_;
         }
         return sum;
     }
@@ -127,6 +155,8 @@ private:
         const double radius = std::max(1.0, grid_.diameter / 2);
         const Box round{center.x - radius, center.y - radius, center.x + radius, center.y + radius};
         const double sum = SumOf(category);
+        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number)
+            if (chart_.SeriesValues(number)[category] < 0) ++negatives_;
         if (!(sum > 0)) {
             // Nothing to divide: an empty ring keeps the pie's place.
             context_.builder.AddSlice({PartCode::Plot}, {round, 0, 360}, {},
@@ -146,55 +176,17 @@ private:
                                       share < 1 ? edge : Stroke{});
             before = end;
         }
-        before = 0;
-        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number) {
-            const double value = chart_.SeriesValues(number)[category];
-            if (!(value > 0)) continue;
-            Label(number, category, value, center, before + value / sum / 2);
-            before += value / sum;
-        }
-    }
-
-    void Label(int number, int category, double value, Point center, double turn) {
-        const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
-        const DataPointLabel& label = look.DataPointLabel;
-        if (!ShowsLabel(label)) return;
-        const double radius = grid_.diameter / 2;
-        const double angle = 2 * std::numbers::pi * turn;
-        const Point direction{std::sin(angle), -std::cos(angle)};
-        const bool inside =
-            label.LocationType == LabelLocation::Inside || label.LocationType == LabelLocation::Center;
-        TextBlock block =
-            BreakText(texts_.Of(label, number, category, value), label.VtFont, label.TextLayout.Orientation,
-                      {LongestLabelShare * grid_.diameter, 2}, context_.measurer);
-        const Size size = block.Extent();
-        Point middle{center.x + direction.x * radius * InsideShare,
-                     center.y + direction.y * radius * InsideShare};
-        if (!inside) {
-            const double reach = radius + LabelGap + 2;
-            middle = {center.x + direction.x * (reach + size.width / 2),
-                      center.y + direction.y * (reach + size.height / 2)};
-        }
-        const Box place{middle.x - size.width / 2, middle.y - size.height / 2, middle.x + size.width / 2,
-                        middle.y + size.height / 2};
-        if (!taken_.Take(place)) {
-            ++omittedLabels_;
-            return;
-        }
-        if (inside) block.font = ReadableFont(block.font, look.Brush.FillColor);
-        PlaceText(context_.builder, {PartCode::PointLabel, number, category + 1}, block, place,
-                  HorizontalAlignment::Center, VerticalAlignment::Center);
     }
 
     void Name(int category, Point center) {
         if (NamePosition() == SubPlotLabelPosition::None) return;
         const TextBlock block = BreakText(chart_.CategoryName(category + 1), nameFont_,
                                           Orientation::Horizontal, {grid_.cell.width, 1}, context_.measurer);
-        const double radius = grid_.diameter / 2 * (LabelsOutside() ? 1 / (1 - OutsideShare) : 1);
-        const double depth = block.Depth() + LabelGap;
-        Box place{center.x, center.y - radius - depth, center.x, center.y - radius - LabelGap};
+        const double radius = grid_.diameter / 2 + grid_.reach.height;
+        const double depth = block.Depth() + NameGap;
+        Box place{center.x, center.y - radius - depth, center.x, center.y - radius - NameGap};
         if (NamePosition() == SubPlotLabelPosition::Below)
-            place = {center.x, center.y + radius + LabelGap, center.x, center.y + radius + depth};
+            place = {center.x, center.y + radius + NameGap, center.x, center.y + radius + depth};
         if (NamePosition() == SubPlotLabelPosition::Center) place = {center.x, center.y, center.x, center.y};
         PlaceText(context_.builder, {PartCode::AxisLabel, static_cast<int>(AxisId::X), category + 1}, block,
                   place, HorizontalAlignment::Center, VerticalAlignment::Center);

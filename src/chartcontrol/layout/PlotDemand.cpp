@@ -22,9 +22,9 @@ void AddXY(PlotDemand& demand, const Chart& chart, int number) {
     demand.others.push_back(number);
 }
 
-void AddSeries(PlotDemand& demand, const Chart& chart, int number) {
+void AddSeries(PlotDemand& demand, const Chart& chart, const PlottedValues& plotted, int number) {
     const Series& series = chart.Plot.SeriesCollection(number);
-    IncludeAll(series.SecondaryAxis ? demand.secondary : demand.primary, chart.SeriesValues(number));
+    IncludeAll(series.SecondaryAxis ? demand.secondary : demand.primary, plotted.Top(number));
     switch (MarkKindOf(chart, number)) {
     case MarkKind::Bar:
         demand.bars.push_back(number);
@@ -43,7 +43,7 @@ void AddSeries(PlotDemand& demand, const Chart& chart, int number) {
 
 } // namespace
 
-PlotDemand DemandOf(const Chart& chart) {
+PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted) {
     PlotDemand demand;
     demand.isXY = chart.chartType() == ChartType::XY2D;
     for (int number = 1; number <= chart.Plot.SeriesCollection.Count(); ++number) {
@@ -52,9 +52,9 @@ PlotDemand DemandOf(const Chart& chart) {
         if (demand.isXY)
             AddXY(demand, chart, number);
         else
-            AddSeries(demand, chart, number);
+            AddSeries(demand, chart, plotted, number);
     }
-    demand.keepZero = !demand.bars.empty() || !demand.areas.empty();
+    demand.keepZero = !demand.bars.empty() || !demand.areas.empty() || plotted.IsChanged();
     demand.onEnds =
         !demand.areas.empty() && demand.bars.empty() && demand.others.empty() && chart.CategoryCount() > 1;
     return demand;

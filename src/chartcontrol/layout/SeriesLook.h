@@ -7,7 +7,7 @@ namespace QmChart6 {
 
 // How a series is drawn, decided once for the plot and for the legend.
 
-/// What a series is drawn as. The 3D types are drawn flat.
+/// What a series is drawn as. The 3D types are the same marks in space.
 enum class MarkKind { Bar, Line, Area, Step, XY, Pie };
 MarkKind MarkKindOf(const Chart& chart, int series);
 

@@ -4,17 +4,17 @@
 
 namespace QmChart6 {
 
-void LayOutStep(const LayoutContext& context, const PlotArea& area, int number) {
+void LayOutStep(const PlotContext& context, int number) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = area.MapOf(series);
+    const LinearMap& map = context.area.MapOf(series);
     Runs runs;
-    CollectRuns(context.chart.SeriesValues(number), area, runs);
+    CollectRuns(context.plotted.Top(number), context.area, runs);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i) {
-            const double x = area.CategoryX(runs.samples[i].category);
+            const double x = context.area.CategoryX(runs.samples[i].category);
             const double y = map.At(runs.samples[i].value);
-            context.builder.AddPoint({x - area.slot / 2, y});
-            context.builder.AddPoint({x + area.slot / 2, y});
+            context.builder.AddPoint({x - context.area.slot / 2, y});
+            context.builder.AddPoint({x + context.area.slot / 2, y});
         }
         Stroke stroke = LineStrokeOf(series);
         if (stroke.style == PenStyle::None) stroke.style = PenStyle::Solid;

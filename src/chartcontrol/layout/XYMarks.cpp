@@ -40,10 +40,10 @@ private:
 };
 
 /// Runs of consecutive points closer than half a device pixel are one point of the line.
-void AddLine(const LayoutContext& context, const PlotArea& area, int number, const XYPairs& pairs) {
+void AddLine(const PlotContext& context, int number, const XYPairs& pairs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = area.MapOf(series);
-    const double near = 0.5 / area.pixelsPerPoint;
+    const LinearMap& map = context.area.MapOf(series);
+    const double near = 0.5 / context.area.pixelsPerPoint;
     Point before{};
     for (int i = 0; i <= pairs.Count(); ++i) {
         if (i == pairs.Count() || !pairs.Has(i)) {
@@ -53,7 +53,7 @@ void AddLine(const LayoutContext& context, const PlotArea& area, int number, con
                 context.builder.DropPendingPoints();
             continue;
         }
-        const Point point{area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
+        const Point point{context.area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
         const bool same = context.builder.PendingPoints() > 0 && std::abs(point.x - before.x) < near &&
                           std::abs(point.y - before.y) < near;
         if (same) continue;
@@ -62,13 +62,13 @@ void AddLine(const LayoutContext& context, const PlotArea& area, int number, con
     }
 }
 
-void AddMarkers(const LayoutContext& context, const PlotArea& area, int number, const XYPairs& pairs) {
+void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = area.MapOf(series);
-    PixelSet pixels(area);
+    const LinearMap& map = context.area.MapOf(series);
+    PixelSet pixels(context.area);
     for (int i = 0; i < pairs.Count(); ++i) {
         if (!pairs.Has(i)) continue;
-        const Point point{area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
+        const Point point{context.area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
         if (pixels.Take(point)) context.builder.AddPoint(point);
     }
     const DataPoint& look = series.DataPoints.Item(DataPoints::All);
@@ -78,11 +78,11 @@ void AddMarkers(const LayoutContext& context, const PlotArea& area, int number, 
 
 } // namespace
 
-void LayOutXY(const LayoutContext& context, const PlotArea& area, int number) {
+void LayOutXY(const PlotContext& context, int number) {
     const XYPairs pairs(context.chart, number);
     const LineLook look = LineLookOf(context.chart.Plot.SeriesCollection(number));
-    if (look.line) AddLine(context, area, number, pairs);
-    if (look.markers) AddMarkers(context, area, number, pairs);
+    if (look.line) AddLine(context, number, pairs);
+    if (look.markers) AddMarkers(context, number, pairs);
 }
 
 } // namespace QmChart6

@@ -45,7 +45,8 @@ enum class PercentBasis {
     SumOfRow = 4,
     SumOfColumn = 5
 };
-enum class PenStyle { None = 0, Solid = 1, Dashed = 2, Dotted = 3 };
+/// The styles behind Dotted are for lines that the control draws of itself; no number stands for them.
+enum class PenStyle { None = 0, Solid = 1, Dashed = 2, Dotted = 3, LongDashed, DashDotted };
 enum class BrushStyle { None = 0, Solid = 1, Pattern = 2, Hatch = 3 };
 enum class FillStyle { None = 0, Brush = 1 };
 enum class FrameStyle { None = 0, Single = 1, Double = 2, ThickInner = 3, ThickOuter = 4 };
