@@ -35,12 +35,13 @@ public:
     [[nodiscard]] const Value& Get() const { return value_; }
 
     /// The value as a 16-bit integer, halves rounded to the even neighbour.
-    /// Raises 6 (does not fit), 13 (text that is no number, an array) or 94 (Null); Empty gives 0.
+    /// Raises 6 (does not fit), 13 (text that is no number, an array) or 94 (Null); Empty gives 0, true -1.
     [[nodiscard]] std::int16_t ToInt16() const;
 
     /// The value as the number of a data cell: not-a-number for Empty (a missing value), otherwise the number
     /// that is left when the value crosses as text (15 significant digits, 7 for a single).
-    /// Raises 13 (text that is no number, infinity, an array) or 94 (Null).
+    /// Raises 6 (text of a number too large), 13 (text that is no number, a truth value, infinity, an array)
+    /// or 94 (Null).
     [[nodiscard]] double ToCell() const;
 
     /// The value as text in the current locale; "" for Empty. Raises 13 (an array) or 94 (Null).

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -12,31 +13,51 @@ namespace QmChart6 {
 
 namespace {
 
-Answer AnswerOf(int button) {
-    if (button == QMessageBox::Yes) return Answer::Yes;
-    return button == QMessageBox::Ok ? Answer::Ok : Answer::No;
+/// Runs a dialog that its owner may take along when it goes. Gives the result of exec, nothing where that
+/// happened.
+template<class Dialog>
+std::optional<int> Run(const QPointer<Dialog>& dialog) {
+    const int result = dialog->exec();
+    return dialog.isNull() ? std::nullopt : std::optional(result);
 }
+
+/// Deletes what is left of a dialog.
+template<class Dialog>
+class DialogScope {
+public:
+    explicit DialogScope(Dialog* dialog) : dialog_(dialog) {}
+    ~DialogScope() { delete dialog_.data(); }
+    DialogScope(const DialogScope&) = delete;
+    DialogScope& operator=(const DialogScope&) = delete;
+
+    [[nodiscard]] const QPointer<Dialog>& Get() const { return dialog_; }
+
+private:
+    QPointer<Dialog> dialog_;
+};
 
 } // namespace
 
 Answer QtDesktop::ShowMessage(QWidget* owner, const QString& text, const QString& title,
                               MessageButtons buttons) {
     const bool asks = buttons == MessageButtons::YesNo;
-    QMessageBox box(asks ? QMessageBox::Question : QMessageBox::Warning, title, text,
-                    asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
-                    owner);
-    box.setTextFormat(Qt::PlainText);
-    const int button = box.exec();
-    return asks ? AnswerOf(button) : Answer::Ok;
+    const DialogScope box(new QMessageBox(
+        asks ? QMessageBox::Question : QMessageBox::Warning, title, text,
+        asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok), owner));
+    box.Get()->setTextFormat(Qt::PlainText);
+    const std::optional<int> button = Run(box.Get());
+    if (!asks) return Answer::Ok;
+    return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
 std::optional<QString> QtDesktop::PickSaveFile(QWidget* owner, const SaveFileRequest& request) {
-    QFileDialog dialog(owner, request.title, {}, request.filter);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(request.suffix);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return dialog.selectedFiles().front();
+    const DialogScope picker(new QFileDialog(owner, request.title, {}, request.filter));
+    const QPointer<QFileDialog>& dialog = picker.Get();
+    dialog->setAcceptMode(QFileDialog::AcceptSave); // which asks before an existing file is overwritten
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setDefaultSuffix(request.suffix);
+    if (Run(dialog) != QDialog::Accepted || dialog->selectedFiles().isEmpty()) return std::nullopt;
+    return dialog->selectedFiles().front();
 }
 
 void QtDesktop::SetClipboard(std::unique_ptr<QMimeData> content) {

@@ -1,13 +1,18 @@
 #include "desktop/Application.h"
 #include "desktop/HeadlessDesktop.h"
+#include "support/Person.h"
 #include "support/Raises.h"
 #include "support/ScriptedDesktop.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QPrinter>
+#include <QPushButton>
 
 #include <array>
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <thread>
 
@@ -172,4 +177,37 @@ TEST(CurrentDesktop, KeepsTheClipboardsContentUntilItIsCleared) {
     CurrentDesktop().ClearClipboard();
     const QMimeData* left = CurrentDesktop().Clipboard();
     EXPECT_TRUE(left == nullptr || left->formats().isEmpty());
+}
+
+TEST(QtDesktop, AnOwnerMayGoWhileItsMessageWaits) {
+    EnsureApplication();
+    QtDesktop desktop;
+    auto owner = std::make_unique<QWidget>();
+    owner->show();
+    Person<QMessageBox> person([&](QMessageBox& box) {
+        box.done(QMessageBox::Yes);
+        owner.reset();
+    });
+    EXPECT_EQ(desktop.ShowMessage(owner.get(), QStringLiteral("sure?"), QString(), MessageButtons::YesNo),
+              Answer::No);
+    EXPECT_TRUE(person.WasAsked());
+}
+
+TEST(QtDesktop, GivesTheAnswerThatWasClicked) {
+    EnsureApplication();
+    QtDesktop desktop;
+    for (const auto& [button, answer] :
+         {std::pair(QMessageBox::Yes, Answer::Yes), std::pair(QMessageBox::No, Answer::No)}) {
+        const Person<QMessageBox> person([button](QMessageBox& box) { box.button(button)->click(); });
+        EXPECT_EQ(desktop.ShowMessage(nullptr, QStringLiteral("sure?"), QString(), MessageButtons::YesNo),
+                  answer);
+    }
+    const Person<QMessageBox> escapes([](QMessageBox& box) { box.reject(); });
+    EXPECT_EQ(desktop.ShowMessage(nullptr, QStringLiteral("told"), QString(), MessageButtons::Ok),
+              Answer::Ok);
+}
+
+TEST(QtDesktop, HasNoPrinterOfANameThatNoneBears) {
+    EnsureApplication();
+    EXPECT_EQ(QtDesktop().OpenPrinter(QStringLiteral("no such printer")), nullptr);
 }
