@@ -30,7 +30,7 @@ TEST_P(PictureGolden, LooksAsBefore) {
     ASSERT_EQ(QFontInfo(QFont(QStringLiteral("Arial"))).family(), QStringLiteral("Liberation Sans"))
         << "the pictures were drawn with this font; install fonts-liberation";
     QImage now;
-    ASSERT_TRUE(now.loadFromData(EncodePicture({sample.make(), 320, 220}, PictureFormat::Png)));
+    ASSERT_TRUE(now.loadFromData(EncodePicture({sample.make(), 272, 190}, PictureFormat::Png)));
     const QString name = QString::fromLatin1(GetParam());
     const QString path = QStringLiteral(QMCHART6_SOURCE_DIR "/tests/golden/pictures/%1.png").arg(name);
     if (std::getenv("QMCHART6_REWRITE_GOLDENS") != nullptr) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <limits>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,11 @@ struct Sample {
     int height = 420;
     std::function<Chart()> make;
 };
+
+/// A sample's name stands for it in what tests print.
+inline void PrintTo(const Sample& sample, std::ostream* out) {
+    *out << sample.name;
+}
 
 /// Every sample, in the order of the gallery.
 const std::vector<Sample>& All();

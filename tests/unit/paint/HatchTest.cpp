@@ -54,12 +54,12 @@ TEST(Hatch, EveryOneOfTheTwentyFourIsDifferent) {
     std::set<std::string> seen;
     for (const SceneFill& fill : EveryFill()) {
         const HatchPieces pieces = PiecesOf(fill, outline);
-        std::string told = std::to_string(pieces.lineWidth);
+        std::string told = std::to_string(pieces.lineWidth) + " on " + std::to_string(pieces.ground.Red);
         for (const HatchLine& line : pieces.lines)
             told += ' ' + std::to_string(line.from.x) + ',' + std::to_string(line.from.y) + ',' +
                     std::to_string(line.to.x) + ',' + std::to_string(line.to.y);
         for (const Box& box : pieces.boxes)
-            told += " b" + std::to_string(box.left) + ',' + std::to_string(box.top);
+            told += " b" + std::to_string(box.left) + ',' + std::to_string(box.right);
         for (const Point& point : pieces.points)
             told += " p" + std::to_string(point.x) + ',' + std::to_string(point.y);
         EXPECT_TRUE(seen.insert(told).second) << "index " << fill.index;

@@ -1,4 +1,6 @@
 #include "chartcontrol/paint/PictureFormat.h"
+#include "Gallery.h"
+
 #include "chartcontrol/paint/BitmapWriter.h"
 #include "chartcontrol/paint/ChartMimeData.h"
 #include "chartcontrol/paint/EmfWriter.h"
@@ -100,6 +102,21 @@ TEST(Svg, IsWellFormedForEverySampleAndHoldsItsTexts) {
             EXPECT_TRUE(texts.contains(QStringLiteral("Sales by Month and Region")));
         }
     }
+}
+
+TEST(Svg, HoldsEverythingThatThereIsToDraw) {
+    const Scene scene = GalleryScene();
+    const QByteArray svg = EncodeSvg(scene, {});
+    QXmlStreamReader reader(svg);
+    qsizetype texts = 0;
+    while (!reader.atEnd())
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("text"))
+            ++texts;
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    qsizetype lines = 0;
+    for (const Shape& shape : scene.shapes) lines += std::holds_alternative<TextLine>(shape.geometry) ? 1 : 0;
+    EXPECT_GT(lines, 0);
+    EXPECT_EQ(texts, lines);
 }
 
 TEST(Svg, EscapesWhatXmlGivesAMeaningTo) {
