@@ -17,7 +17,7 @@ void AddOptions(QCommandLineParser& parser) {
         parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
     for (const char* name : {"no-header", "no-row-labels", "version"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
-    parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")}));
+    parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")}));
 }
 
 std::optional<QString> Given(const QCommandLineParser& parser, const char* name) {

@@ -22,8 +22,8 @@ struct Table {
 
 /// How a table is laid out.
 struct TableLayout {
-    QString fileName;              ///< its ending .tsv tells the separator
-    std::optional<char> separator; ///< found out where not given
+    QString fileName = {};              ///< its ending .tsv tells the separator
+    std::optional<char> separator = {}; ///< found out where not given
     bool hasHeader = true;
     bool hasRowLabels = true;
 };
