@@ -5,22 +5,27 @@
 #include "viewer/ChartTypeList.h"
 
 #include <QComboBox>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QToolButton>
+
+/// A static library's resources are only there once they are asked for, from outside any namespace.
+static void LoadViewerResources() {
+    Q_INIT_RESOURCE(viewer);
+}
 
 namespace QmChart6 {
 
 namespace {
 
 constexpr int SelectorWidth = 2500; // twips
-constexpr int IconSize = 20;        // logical pixels
+constexpr int IconSize = 24;        // logical pixels, as the icons are drawn
 
 constexpr int TypeKey = 33;
 
 } // namespace
 
 ViewerToolBar::ViewerToolBar(QWidget* parent) : QToolBar(parent) {
+    LoadViewerResources();
     setObjectName(QStringLiteral("tbControlBar"));
     setMovable(false);
     setFloatable(false);
@@ -54,8 +59,8 @@ void ViewerToolBar::AddButton(const QString& key, int textKey, bool check) {
     const QString text = LocalText(textKey);
     QString file = key;
     file.remove(u'%');
-    file = QStringLiteral(":/qmchart6/icons/%1.svg").arg(file);
-    QAction* action = addAction(QFile::exists(file) ? QIcon(file) : QIcon(), text);
+    // Without Qt's SVG plugin there is no picture, and the button shows its text.
+    QAction* action = addAction(QIcon(QStringLiteral(":/qmchart6/icons/%1.svg").arg(file)), text);
     action->setObjectName(key);
     action->setToolTip(text);
     action->setCheckable(check);

@@ -86,8 +86,10 @@ QPen ScenePainter::PenOf(const Stroke& stroke, Qt::PenJoinStyle join) const {
     QPen pen(QtColourOf(stroke.colour), stroke.width * scale_, Qt::SolidLine, Qt::FlatCap, join);
     if (!raster_ && stroke.width <= 0) pen.setWidthF(0);
     if (IsDashed(stroke.style) && stroke.width > 0) {
-        const DashPattern dashes = DashesOf(stroke.style, stroke.width);
-        pen.setDashPattern({dashes.on / stroke.width, dashes.off / stroke.width});
+        QList<qreal> dashes;
+        for (const double length : DashesOf(stroke.style, stroke.width).Lengths())
+            dashes += length / stroke.width;
+        pen.setDashPattern(dashes);
     }
     return pen;
 }

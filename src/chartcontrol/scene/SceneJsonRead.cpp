@@ -141,7 +141,8 @@ Shape ReadShape(const Reader& reader, Scene& scene) {
     shape.geometry = ReadGeometry(reader, scene);
     if (reader.Has("stroke")) {
         const QJsonArray stroke = reader.Array("stroke", 3);
-        shape.stroke = {static_cast<PenStyle>(reader.ToInteger(stroke[0], "stroke", 0, 3)),
+        shape.stroke = {static_cast<PenStyle>(
+                            reader.ToInteger(stroke[0], "stroke", 0, static_cast<int>(PenStyle::DashDotted))),
                         reader.ToNumber(stroke[1], "stroke"), reader.ToColour(stroke[2], "stroke")};
     }
     if (reader.Has("fill")) {

@@ -10,6 +10,7 @@
 #include "viewer/ViewerToolBar.h"
 
 #include <QComboBox>
+#include <QImage>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
@@ -204,6 +205,19 @@ TEST_F(GraphFormTest, TheControlBarHasTenPlacesWithTheirToolTips) {
     EXPECT_EQ(StatusBarOf(form).Panel(1).toolTip(), LocalText(115));
     EXPECT_EQ(StatusBarOf(form).Panel(2).toolTip(), LocalText(116));
     EXPECT_EQ(StatusBarOf(form).Panel(4).toolTip(), LocalText(117));
+}
+
+TEST_F(GraphFormTest, EveryButtonHasAPictureOfItsOwn) {
+    const GraphForm form;
+    QList<QImage> pictures;
+    for (const QAction* action : ControlBarOf(form).actions()) {
+        if (action->isSeparator() || action->objectName().isEmpty()) continue;
+        const QImage picture = action->icon().pixmap(24, 24).toImage();
+        EXPECT_FALSE(picture.isNull()) << action->objectName().toStdString();
+        EXPECT_FALSE(pictures.contains(picture)) << action->objectName().toStdString();
+        pictures.append(picture);
+    }
+    EXPECT_EQ(pictures.size(), 8);
 }
 
 TEST_F(GraphFormTest, TheMenuHasItsCaptionsInTheLanguageOfItsTime) {
