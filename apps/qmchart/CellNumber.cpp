@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <charconv>
 #include <string_view>
 
 namespace QmChart6 {
@@ -80,7 +80,7 @@ std::optional<double> NumberOfCell(const QByteArray& cell, const NumberStyle& st
     QByteArray number = cell.trimmed();
     QByteArray sign;
     if (number.startsWith('-') || number.startsWith('+')) {
-        sign = number.first(1);
+        if (number.startsWith('-')) sign = "-";
         number.remove(0, 1);
     } else if (number.startsWith(Bytes(MinusSign))) {
         sign = "-";
@@ -96,9 +96,10 @@ std::optional<double> NumberOfCell(const QByteArray& cell, const NumberStyle& st
     const std::optional<QByteArray> whole =
         before.isEmpty() && !decimals.isEmpty() ? QByteArray("0") : WholePart(before, style);
     if (!whole) return std::nullopt;
-    const double value = (sign + *whole + '.' + decimals + '0' + exponent).toDouble();
-    // Too large comes out as infinite; too small is 0, as near as a number gets.
-    if (!std::isfinite(value)) return std::nullopt;
+    const QByteArray plain = sign + *whole + '.' + decimals + '0' + exponent;
+    double value = 0;
+    // Not QByteArray's own, which gives 0 for a number that is too large.
+    if (std::from_chars(plain.begin(), plain.end(), value).ec != std::errc()) return std::nullopt;
     return value;
 }
 

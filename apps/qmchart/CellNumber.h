@@ -16,7 +16,7 @@ struct NumberStyle {
 bool IsMissing(const QByteArray& cell);
 
 /// The number that a cell stands for: sign, digits (in groups of three or not), decimals, exponent. Nothing
-/// where it is no such number or too large for one.
+/// where it is no such number, or one beyond what a double holds.
 std::optional<double> NumberOfCell(const QByteArray& cell, const NumberStyle& style);
 
 /// Gathers what the cells of a table tell about how its numbers are written.

@@ -98,10 +98,12 @@ void ReadOperands(const QStringList& operands, CommandLine& line) {
 
 } // namespace
 
+UsageError::UsageError(const QString& text) : std::runtime_error(text.simplified().toStdString()) {}
+
 CommandLine ParseCommandLine(const QStringList& arguments) {
     QCommandLineParser parser;
     AddOptions(parser);
-    if (!parser.parse(arguments)) throw UsageError(parser.errorText().simplified());
+    if (!parser.parse(arguments)) throw UsageError(parser.errorText());
     CommandLine line;
     if (parser.isSet(QStringLiteral("help"))) return line;
     if (parser.isSet(QStringLiteral("version"))) {

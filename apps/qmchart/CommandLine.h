@@ -32,7 +32,7 @@ struct CommandLine {
 /// The command line cannot be understood; the text says what is wrong, in one line.
 class UsageError : public std::runtime_error {
 public:
-    explicit UsageError(const QString& text) : std::runtime_error(text.toStdString()) {}
+    explicit UsageError(const QString& text);
 };
 
 /// Understands the arguments, the program's own name first. Raises UsageError. Needs no application object.
