@@ -1,0 +1,158 @@
+#include "qmchart/CommandLine.h"
+
+#include "qmchart6/QMChartArray.h"
+
+#include <QCommandLineParser>
+
+#include <array>
+#include <utility>
+
+namespace QmChart6 {
+
+namespace {
+
+void AddOptions(QCommandLineParser& parser) {
+    for (const char* name : {"id", "title", "row-title", "column-title", "value-title", "language", "config",
+                             "use-config", "separator"})
+        parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
+    for (const char* name : {"no-header", "no-row-labels", "version"})
+        parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
+    parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")}));
+}
+
+std::optional<QString> Given(const QCommandLineParser& parser, const char* name) {
+    const QString option = QString::fromLatin1(name);
+    return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
+}
+
+/// The value of an option that takes one of a few words, the first where it is not given.
+template<class T, std::size_t Count>
+T Choice(const QCommandLineParser& parser, const char* name,
+         const std::array<std::pair<const char*, T>, Count>& choices) {
+    const std::optional<QString> given = Given(parser, name);
+    if (!given) return choices.front().second;
+    QStringList words;
+    for (const auto& [word, value] : choices) {
+        if (*given == QLatin1String(word)) return value;
+        words.append(QString::fromLatin1(word));
+    }
+    throw UsageError(QStringLiteral("--%1 takes one of %2, not \"%3\"")
+                         .arg(QLatin1String(name), words.join(QStringLiteral(", ")), *given));
+}
+
+std::int16_t LanguageOf(const QCommandLineParser& parser) {
+    const QMChartArray charts;
+    return Choice(parser, "language",
+                  std::array{std::pair{"en", charts.QmChEnglish()}, std::pair{"pt", charts.QmChPortuguese()},
+                             std::pair{"es", charts.QmChSpanish()}, std::pair{"it", charts.QmChItalian()}});
+}
+
+std::uint8_t UseConfigOf(const QCommandLineParser& parser) {
+    const QMChartArray charts;
+    return static_cast<std::uint8_t>(
+        Choice(parser, "use-config",
+               std::array{std::pair{"no", charts.QmChNo()}, std::pair{"no-titles", charts.QmChNoTitles()},
+                          std::pair{"yes", charts.QmChYes()}}));
+}
+
+std::optional<char> SeparatorOf(const QCommandLineParser& parser) {
+    const std::optional<QString> given = Given(parser, "separator");
+    if (!given) return std::nullopt;
+    if (*given == QLatin1String("tab") || *given == QLatin1String("\\t")) return '\t';
+    // What numbers and quoting are written with cannot separate them.
+    const QChar character = given->size() == 1 ? given->front() : u'"';
+    const bool plain = character == u'\t' || (character >= u' ' && character <= u'~');
+    if (!plain || character.isLetterOrNumber() || QStringLiteral("\".-+").contains(character))
+        throw UsageError(
+            QStringLiteral("--separator takes one character, such as ; or |, or the word tab, not \"%1\"")
+                .arg(*given));
+    return character.toLatin1();
+}
+
+/// The configuration folder is a text that a file name is put right behind.
+std::optional<QString> FolderOf(const QCommandLineParser& parser) {
+    std::optional<QString> folder = Given(parser, "config");
+    if (folder && folder->isEmpty()) throw UsageError(QStringLiteral("--config takes a folder"));
+    if (folder && !folder->endsWith(u'/')) folder->append(u'/');
+    return folder;
+}
+
+/// The command's word and its operands.
+void ReadOperands(const QStringList& operands, CommandLine& line) {
+    if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing: show or save"));
+    const QString& word = operands.front();
+    if (word != QLatin1String("show") && word != QLatin1String("save"))
+        throw UsageError(QStringLiteral("there is no command \"%1\"; there are show and save").arg(word));
+    line.command = word == QLatin1String("show") ? Command::Show : Command::Save;
+    const bool saves = line.command == Command::Save;
+    if (operands.size() != (saves ? 3 : 2))
+        throw UsageError(saves ? QStringLiteral("save takes a table and the picture's file name")
+                               : QStringLiteral("show takes one table"));
+    line.table = operands[1];
+    if (line.table.isEmpty()) throw UsageError(QStringLiteral("the table's file name is empty"));
+    if (!saves) return;
+    line.picture = operands[2];
+    if (line.picture.isEmpty() || line.picture == QLatin1String("-"))
+        throw UsageError(QStringLiteral("save writes a file; its name is missing"));
+}
+
+} // namespace
+
+UsageError::UsageError(const QString& text) : std::runtime_error(text.simplified().toStdString()) {}
+
+CommandLine ParseCommandLine(const QStringList& arguments) {
+    QCommandLineParser parser;
+    AddOptions(parser);
+    if (!parser.parse(arguments)) throw UsageError(parser.errorText());
+    CommandLine line;
+    if (parser.isSet(QStringLiteral("help"))) return line;
+    if (parser.isSet(QStringLiteral("version"))) {
+        line.command = Command::Version;
+        return line;
+    }
+    ReadOperands(parser.positionalArguments(), line);
+    line.id = Given(parser, "id");
+    line.title = Given(parser, "title");
+    line.rowTitle = Given(parser, "row-title");
+    line.columnTitle = Given(parser, "column-title").value_or(QString());
+    line.valueTitle = Given(parser, "value-title").value_or(QString());
+    line.language = LanguageOf(parser);
+    line.useConfig = UseConfigOf(parser);
+    line.configFolder = FolderOf(parser);
+    line.separator = SeparatorOf(parser);
+    line.hasHeader = !parser.isSet(QStringLiteral("no-header"));
+    line.hasRowLabels = !parser.isSet(QStringLiteral("no-row-labels"));
+    return line;
+}
+
+QString HelpText() {
+    return QStringLiteral(R"(Usage:
+  qmchart show TABLE [OPTION ...]          show the chart of a table until its window is closed
+  qmchart save TABLE PICTURE [OPTION ...]  save its picture and print the file's name
+  qmchart --help | --version
+
+TABLE is a file of separated values, or - for the standard input: one row to a category, one column to a
+series, as a rule with labels in the first line and the first column. Missing values are empty, NA, N/A, NaN,
+null or -. PICTURE's ending tells its format: .bmp, .png, .svg, .pdf, otherwise a metafile (EMF);
+name@2x.png has twice the pixels.
+
+Options:
+  --id TEXT               the chart's graph id (default: the table's name)
+  --title TEXT            the chart's title (default: from the table's name)
+  --row-title TEXT        the categories' title (default: the header's first cell)
+  --column-title TEXT     the series' title
+  --value-title TEXT      the values' title
+  --language LANGUAGE     en, pt, es or it: the window's language; pictures have none
+  --config FOLDER         the folder of the stored looks
+  --use-config USE        no, no-titles or yes: use the look stored for the graph id
+  --separator CHARACTER   what separates the cells, or the word tab (default: found out)
+  --no-header             the first line is numbers already
+  --no-row-labels         the first column is numbers already
+  -h, --help              this text
+  --version               the version
+
+Exit status: 0 done, 1 failed, 2 not understood.
+)");
+}
+
+} // namespace QmChart6

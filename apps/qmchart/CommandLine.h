@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+
+namespace QmChart6 {
+
+enum class Command { Help, Version, Show, Save };
+
+/// What the command line asks for. Texts that are not given have their defaults elsewhere.
+struct CommandLine {
+    Command command = Command::Help;
+    QString table;   ///< a file, or "-" for the standard input
+    QString picture; ///< Save only
+    std::optional<QString> id;
+    std::optional<QString> title;
+    std::optional<QString> rowTitle;
+    QString columnTitle;
+    QString valueTitle;
+    std::int16_t language = 0;  ///< as QMChartArray numbers them
+    std::uint8_t useConfig = 0; ///< likewise
+    std::optional<QString> configFolder;
+    std::optional<char> separator;
+    bool hasHeader = true;
+    bool hasRowLabels = true;
+};
+
+/// The command line cannot be understood; the text says what is wrong, in one line.
+class UsageError : public std::runtime_error {
+public:
+    explicit UsageError(const QString& text);
+};
+
+/// Understands the arguments, the program's own name first. Raises UsageError. Needs no application object.
+CommandLine ParseCommandLine(const QStringList& arguments);
+
+/// What --help prints.
+QString HelpText();
+
+} // namespace QmChart6

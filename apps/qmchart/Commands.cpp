@@ -1,0 +1,90 @@
+#include "qmchart/Commands.h"
+
+#include "qmchart/InputText.h"
+#include "qmchart/TableReader.h"
+
+#include "qmchart6/Host.h"
+#include "qmchart6/QMChartArray.h"
+
+#include <QFileInfo>
+
+namespace QmChart6 {
+
+namespace {
+
+/// A table with the texts that go with it.
+struct TitledTable {
+    Table table;
+    QString id;
+    QString title;
+    QString rowTitle;
+};
+
+TitledTable ReadTitledTable(const CommandLine& line) {
+    const bool named = line.table != QLatin1String("-");
+    const QString baseName = QFileInfo(line.table).completeBaseName();
+    TitledTable titled;
+    titled.table = ReadTable(ReadInput(line.table), {.fileName = line.table,
+                                                     .separator = line.separator,
+                                                     .hasHeader = line.hasHeader,
+                                                     .hasRowLabels = line.hasRowLabels});
+    titled.id = line.id.value_or(named ? baseName : QStringLiteral("stdin"));
+    titled.title = line.title.value_or(named ? PresentableTitle(baseName) : QString());
+    titled.rowTitle = line.rowTitle.value_or(titled.table.rowTitle);
+    return titled;
+}
+
+QMChartArray Charts(const CommandLine& line) {
+    QMChartArray charts;
+    if (line.configFolder) charts.SetQmChartConfigPath(*line.configFolder);
+    return charts;
+}
+
+QString Show(const CommandLine& line) {
+    const TitledTable titled = ReadTitledTable(line);
+    if (!HasDisplay())
+        throw RuntimeError(ErrorNumber::ActionNotSupported,
+                           QStringLiteral("there is no display to show a chart on; \"qmchart save\" makes a "
+                                          "picture without one"));
+    const Table& table = titled.table;
+    Charts(line).QmMakeGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels,
+                             table.columnLabels, titled.title, titled.rowTitle, line.columnTitle,
+                             line.valueTitle, line.language, line.useConfig);
+    RunUntilViewersAreClosed();
+    return {};
+}
+
+QString Save(const CommandLine& line) {
+    const TitledTable titled = ReadTitledTable(line);
+    const Table& table = titled.table;
+    QString picture = line.picture;
+    Charts(line).QmSaveGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels,
+                             table.columnLabels, titled.title, titled.rowTitle, line.columnTitle,
+                             line.valueTitle, line.useConfig, picture);
+    return picture + u'\n';
+}
+
+} // namespace
+
+QString PresentableTitle(const QString& baseName) {
+    QString title = baseName;
+    title = title.replace(u'_', u' ').replace(u'-', u' ').simplified();
+    if (!title.isEmpty()) title[0] = title[0].toUpper();
+    return title;
+}
+
+QString RunCommand(const CommandLine& line) {
+    switch (line.command) {
+    case Command::Help:
+        return HelpText();
+    case Command::Version:
+        return QStringLiteral("qmchart " QMCHART6_VERSION "\n");
+    case Command::Show:
+        return Show(line);
+    case Command::Save:
+        return Save(line);
+    }
+    return {};
+}
+
+} // namespace QmChart6

@@ -1,0 +1,102 @@
+#include "qmchart/CommandLine.h"
+#include "qmchart/Commands.h"
+
+#include <gtest/gtest.h>
+
+using namespace QmChart6;
+
+namespace {
+
+CommandLine Parse(const QStringList& arguments) {
+    return ParseCommandLine(QStringList{"qmchart"} + arguments);
+}
+
+class RefusedCommandLine : public testing::TestWithParam<QStringList> {};
+
+} // namespace
+
+TEST(CommandLine, ShowTakesATable) {
+    const CommandLine line = Parse({"show", "sales.csv"});
+    EXPECT_EQ(line.command, Command::Show);
+    EXPECT_EQ(line.table, "sales.csv");
+    EXPECT_FALSE(line.id || line.title || line.rowTitle || line.configFolder || line.separator);
+    EXPECT_TRUE(line.hasHeader && line.hasRowLabels);
+    EXPECT_EQ(line.language, 0);
+    EXPECT_EQ(line.useConfig, 0);
+}
+
+TEST(CommandLine, SaveTakesATableAndAPictureAndOptionsAnywhere) {
+    const CommandLine line =
+        Parse({"--title", "All sales", "save", "-", "--id=s 1", "sales.png", "--no-header", "--no-row-labels",
+               "--row-title", "", "--column-title", "Shops", "--value-title", "EUR"});
+    EXPECT_EQ(line.command, Command::Save);
+    EXPECT_EQ(line.table, "-");
+    EXPECT_EQ(line.picture, "sales.png");
+    EXPECT_EQ(line.title, std::optional<QString>("All sales"));
+    EXPECT_EQ(line.id, std::optional<QString>("s 1"));
+    EXPECT_EQ(line.rowTitle, std::optional<QString>(""));
+    EXPECT_EQ(line.columnTitle, "Shops");
+    EXPECT_EQ(line.valueTitle, "EUR");
+    EXPECT_FALSE(line.hasHeader || line.hasRowLabels);
+}
+
+TEST(CommandLine, LanguagesAndUsesOfTheConfigurationHaveTheirNumbers) {
+    EXPECT_EQ(Parse({"show", "t", "--language", "en"}).language, 0);
+    EXPECT_EQ(Parse({"show", "t", "--language", "pt"}).language, 1);
+    EXPECT_EQ(Parse({"show", "t", "--language", "es"}).language, 2);
+    EXPECT_EQ(Parse({"show", "t", "--language", "it"}).language, 3);
+    EXPECT_EQ(Parse({"show", "t", "--use-config", "no"}).useConfig, 0);
+    EXPECT_EQ(Parse({"show", "t", "--use-config", "no-titles"}).useConfig, 1);
+    EXPECT_EQ(Parse({"show", "t", "--use-config", "yes"}).useConfig, 2);
+}
+
+TEST(CommandLine, AConfigurationFolderEndsInASlash) {
+    EXPECT_EQ(Parse({"show", "t", "--config", "looks"}).configFolder, std::optional<QString>("looks/"));
+    EXPECT_EQ(Parse({"show", "t", "--config", "/looks/"}).configFolder, std::optional<QString>("/looks/"));
+}
+
+TEST(CommandLine, ASeparatorIsACharacterOrTheWordTab) {
+    EXPECT_EQ(Parse({"show", "t", "--separator", ";"}).separator, std::optional(';'));
+    EXPECT_EQ(Parse({"show", "t", "--separator", "tab"}).separator, std::optional('\t'));
+    EXPECT_EQ(Parse({"show", "t", "--separator", "\\t"}).separator, std::optional('\t'));
+    EXPECT_EQ(Parse({"show", "t", "--separator", "\t"}).separator, std::optional('\t'));
+}
+
+TEST(CommandLine, HelpAndVersionNeedNothingElse) {
+    EXPECT_EQ(Parse({"--help"}).command, Command::Help);
+    EXPECT_EQ(Parse({"-h"}).command, Command::Help);
+    EXPECT_EQ(Parse({"save", "--help"}).command, Command::Help);
+    EXPECT_EQ(Parse({"--version"}).command, Command::Version);
+}
+
+TEST_P(RefusedCommandLine, IsAUsageErrorOfOneLine) {
+    try {
+        Parse(GetParam());
+        FAIL() << "understood";
+    } catch (const UsageError& error) {
+        const QString text = QString::fromUtf8(error.what());
+        EXPECT_FALSE(text.isEmpty());
+        EXPECT_FALSE(text.contains('\n'));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, RefusedCommandLine,
+    testing::Values(
+        QStringList{}, QStringList{"draw", "t"}, QStringList{"show"}, QStringList{"show", "a", "b"},
+        QStringList{"show", ""}, QStringList{"save", "t"}, QStringList{"save", "t", "a", "b"},
+        QStringList{"save", "t", ""}, QStringList{"save", "t", "-"}, QStringList{"show", "t", "--colour"},
+        QStringList{"show", "t", "--title"}, QStringList{"show", "t", "--language", "fr"},
+        QStringList{"show", "t", "--use-config", "1"}, QStringList{"show", "t", "--config", ""},
+        QStringList{"show", "t", "--separator", ""}, QStringList{"show", "t", "--separator", ",,"},
+        QStringList{"show", "t", "--separator", "\""}, QStringList{"show", "t", "--separator", "7"},
+        QStringList{"show", "t", "--separator", "."}, QStringList{"show", "t", "--separator", "\n"},
+        QStringList{"show", "t", "--separator", QString(QChar(0xA7))},
+        QStringList{"show", "t", "--no-header=1"}));
+
+TEST(PresentableTitle, IsWordsThatBeginLikeASentence) {
+    EXPECT_EQ(PresentableTitle("barley-by-site"), "Barley by site");
+    EXPECT_EQ(PresentableTitle("sales_2024.draft"), "Sales 2024.draft");
+    EXPECT_EQ(PresentableTitle("__"), "");
+    EXPECT_EQ(PresentableTitle("GDP"), "GDP");
+}
