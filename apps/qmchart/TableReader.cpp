@@ -155,7 +155,8 @@ Table Reader::Read() {
     table.columns = static_cast<std::int16_t>(columns_);
     table.rowLabels = Array<QString>(std::move(rowLabels));
     table.columnLabels = Array<QString>(std::move(columnLabels));
-    table.values = Array<double>::Table(table.rows, table.columns, std::move(values));
+    // Whether values hold decimals is looked for from row and column 1 on, so that they begin there.
+    table.values = Array<double>::Table(table.rows, table.columns, std::move(values), 1, 1);
     return table;
 }
 

@@ -23,8 +23,8 @@ void Check(const Table& table) {
     Require(table.rows > 0 && table.columns > 0, "a table has rows and columns");
     Require(table.rowLabels.UpperBound() == table.rows - 1, "every row has a label");
     Require(table.columnLabels.UpperBound() == table.columns - 1, "every column has a label");
-    for (int row = 0; row < table.rows; ++row)
-        for (int column = 0; column < table.columns; ++column)
+    for (int row = 1; row <= table.rows; ++row)
+        for (int column = 1; column <= table.columns; ++column)
             Require(!std::isinf(table.values.At(row, column)), "a value is a number or missing");
 }
 

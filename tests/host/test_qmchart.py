@@ -198,7 +198,16 @@ class OnADisplay(Host):
                               timeout=LIMIT, check=True).stdout
 
     def test_show_returns_when_its_window_is_closed(self):
-        with subprocess.Popen([QMCHART, "show", self.table, "--language", "pt"], env=self.environment,
+        self.show_and_close(self.table)
+
+    def test_a_table_of_whole_numbers_is_shown_too(self):
+        table = os.path.join(self.folder, "whole.csv")
+        with open(table, "w", encoding="utf-8") as file:
+            file.write("Year,A,B\n2001,1,2\n2002,3,4\n")
+        self.show_and_close(table)
+
+    def show_and_close(self, table):
+        with subprocess.Popen([QMCHART, "show", table, "--language", "pt"], env=self.environment,
                               stderr=subprocess.PIPE) as shown:
             try:
                 window = self.xdotool("search", "--sync", "--onlyvisible", "--pid", str(shown.pid)).split()[0]

@@ -20,9 +20,9 @@ Table Read(const QByteArray& text, const TableLayout& layout = {}) {
 /// Cells by rows, "x" for a missing one.
 QString Values(const Table& table) {
     QStringList rows;
-    for (int row = 0; row < table.rows; ++row) {
+    for (int row = 1; row <= table.rows; ++row) {
         QStringList cells;
-        for (int column = 0; column < table.columns; ++column) {
+        for (int column = 1; column <= table.columns; ++column) {
             const double value = table.values.At(row, column);
             cells.append(std::isnan(value) ? QStringLiteral("x") : QString::number(value, 'g', 15));
         }
