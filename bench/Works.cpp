@@ -72,6 +72,7 @@ Chart ChartOf(const std::vector<std::vector<double>>& columns, ChartType type) {
     for (std::size_t column = 0; column < columns.size(); ++column)
         std::copy(columns[column].begin(), columns[column].end(),
                   chart.DataGrid.WritableColumn(static_cast<int>(column) + 1).begin());
+    chart.DataGrid.Summarize();
     chart.SetChartType(type);
     return chart;
 }

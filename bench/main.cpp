@@ -42,11 +42,19 @@ void Recolour(Chart& chart, int by) {
         AllPoints(chart, series).Brush.FillColor = Bench::ColourOf(series - 1 + by);
 }
 
+/// How long the layout alone takes.
+double LayoutMilliseconds(const Chart& chart, const QtTextMeasurer& measurer, int runs) {
+    return Bench::Median(runs, [&] {
+        LayOut(chart, {{Width / PixelsPerPoint, Height / PixelsPerPoint}, PixelsPerPoint}, measurer);
+    });
+}
+
 void SmallWork(const std::function<Chart()>& make) {
     const QtTextMeasurer measurer;
     Bench::Report("default", "first_ms", Bench::Once([&] { Render(make(), measurer); }));
     for (int i = 0; i < 20; ++i) Render(make(), measurer);
     Bench::Report("default", "chart_ms", Bench::Median(200, [&] { Render(make(), measurer); }));
+    Bench::Report("default", "layout_ms", LayoutMilliseconds(make(), measurer, 200));
 }
 
 void BigWork(const char* variant, Chart& chart, const std::function<void()>& load,
@@ -64,6 +72,7 @@ void BigWork(const char* variant, Chart& chart, const std::function<void()>& loa
                   }));
     Bench::Report(variant, "resize_ms",
                   Bench::Median(15, [&] { Render(chart, measurer, 1200 + ++turn, 700); }));
+    Bench::Report(variant, "layout_ms", LayoutMilliseconds(chart, measurer, 15));
     widen();
     Bench::Report(variant, "wide_ms", Bench::Median(15, [&] { Render(chart, measurer); }));
 }
@@ -119,6 +128,7 @@ void CloudWork(int points) {
                 std::copy_n(y.begin() + pair * rows, rows,
                             chart.DataGrid.WritableColumn(2 * pair + 2).begin());
             }
+            chart.DataGrid.Summarize();
             chart.SetChartType(ChartType::XY2D);
             for (int number = 1; number <= 2 * pairs; ++number) {
                 chart.Plot.SeriesCollection(number).ShowLine = false;

@@ -77,6 +77,7 @@ void FillChartData(Chart& chart, int Rows, int Columns, const Variant& Data, con
                                    QStringLiteral("the data is a table of rows and columns"));
         },
         Data.Get());
+    chart.DataGrid.Summarize();
     chart.Row = qMax(1, chart.RowCount());
 }
 

@@ -51,8 +51,9 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
         AddBasePoints(context, number, bases, runs, run);
 }
 
-void AddFill(const PlotContext& context, int number, Runs& runs, const Values& bases) {
-    CollectRuns(context.plotted.Top(number), context.area, runs);
+void AddFill(const PlotContext& context, int number, const Values& bases) {
+    const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
+    const Runs& runs = *collected;
     const DataPoint& look = context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         AddRun(context, number, runs, run, bases);
@@ -60,9 +61,10 @@ void AddFill(const PlotContext& context, int number, Runs& runs, const Values& b
     }
 }
 
-void AddEdges(const PlotContext& context, const std::vector<int>& series, Runs& runs) {
+void AddEdges(const PlotContext& context, const std::vector<int>& series) {
     for (const int number : series) {
-        CollectRuns(context.plotted.Top(number), context.area, runs);
+        const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
+        const Runs& runs = *collected;
         for (std::size_t run = 0; run < runs.Count(); ++run) {
             AddEdgePoints(context, number, runs, run);
             context.builder.AddPolyline({PartCode::Series, number},
@@ -74,10 +76,9 @@ void AddEdges(const PlotContext& context, const std::vector<int>& series, Runs& 
 } // namespace
 
 void LayOutAreas(const PlotContext& context, const std::vector<int>& series) {
-    Runs runs;
     if (!context.plotted.IsStacked()) {
-        for (const int number : series) AddFill(context, number, runs, {});
-        AddEdges(context, series, runs);
+        for (const int number : series) AddFill(context, number, {});
+        AddEdges(context, series);
         return;
     }
     // Piled areas reach down to the axis and the lower cover the higher: no seam shows between two that
@@ -87,7 +88,7 @@ void LayOutAreas(const PlotContext& context, const std::vector<int>& series) {
                BrushStyle::None;
     });
     for (std::size_t i = series.size(); i-- > 0;)
-        AddFill(context, series[i], runs, bands ? context.plotted.Base(series[i]) : Values{});
+        AddFill(context, series[i], bands ? context.plotted.Base(series[i]) : Values{});
 }
 
 } // namespace QmChart6

@@ -24,6 +24,8 @@ public:
         plan_.showX = Shown(AxisId::X);
         plan_.showY = Shown(AxisId::Y);
         plan_.showSecondary = Shown(AxisId::SecondaryY);
+        for (int category = 1; category <= context.chart.CategoryCount() && !named_; ++category)
+            named_ = !context.chart.CategoryName(category).isEmpty();
     }
 
     AxesPlan Run() {
@@ -119,7 +121,7 @@ private:
                                          {demand_.across, false, plan_.area.box.Width(), true});
             return;
         }
-        if (!plan_.showX) return;
+        if (!plan_.showX || !named_) return;
         const Chart& chart = context_.chart;
         plan_.categories = PlanCategoryLabels(
             {chart.CategoryCount(), [&chart](int category) { return chart.CategoryName(category + 1); },
@@ -160,6 +162,7 @@ private:
     const PlotDemand& demand_;
     Box box_;
     Furniture furniture_;
+    bool named_ = false; // whether any category has a label
     Box margins_;
     AxesPlan plan_;
 };

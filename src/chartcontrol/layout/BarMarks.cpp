@@ -38,22 +38,22 @@ void LayOutSingleBars(const PlotContext& context, int number, double left, doubl
 
 /// Where categories are thinner than a device pixel: one bar for each pixel column, from its least to its
 /// greatest.
-void LayOutDenseBars(const PlotContext& context, int number, Runs& runs) {
+void LayOutDenseBars(const PlotContext& context, int number) {
     const LinearMap& map = context.MapOf(number);
     const double base = PlotArea::BaseOf(map);
     const SceneFill fill =
         BarFill(context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All).Brush, true);
-    CollectRuns(context.plotted.Top(number), context.area, runs);
+    const std::shared_ptr<const Runs> runs = CollectRuns(context.plotted.Top(number), context.area);
     const double column = 1 / context.area.pixelsPerPoint;
     const auto columnOf = [&](const Sample& sample) {
         return std::floor((context.area.CategoryX(sample.category) - context.area.box.left) / column);
     };
-    for (std::size_t i = 0; i < runs.samples.size();) {
-        const double index = columnOf(runs.samples[i]);
+    for (std::size_t i = 0; i < runs->samples.size();) {
+        const double index = columnOf(runs->samples[i]);
         double top = base;
         double bottom = base;
-        for (; i < runs.samples.size() && columnOf(runs.samples[i]) == index; ++i) {
-            const double y = map.At(runs.samples[i].value);
+        for (; i < runs->samples.size() && columnOf(runs->samples[i]) == index; ++i) {
+            const double y = map.At(runs->samples[i].value);
             top = std::min(top, y);
             bottom = std::max(bottom, y);
         }
@@ -87,11 +87,9 @@ BarCluster ClusterOf(const PlotContext& context, const std::vector<int>& series)
 void LayOutBars(const PlotContext& context, const std::vector<int>& series) {
     const BarCluster cluster = ClusterOf(context, series);
     const bool dense = context.area.slot * context.area.pixelsPerPoint < 1;
-    Runs runs;
     // Dense bars all stand on the axis, so that of piled ones the lower must cover the higher.
     for (std::size_t i = 0; dense && i < series.size(); ++i)
-        LayOutDenseBars(context, context.plotted.IsStacked() ? series[series.size() - 1 - i] : series[i],
-                        runs);
+        LayOutDenseBars(context, context.plotted.IsStacked() ? series[series.size() - 1 - i] : series[i]);
     for (std::size_t i = 0; !dense && i < series.size(); ++i)
         LayOutSingleBars(context, series[i], cluster.left[i], cluster.barWidth);
 }

@@ -8,6 +8,8 @@
 #include "chartcontrol/layout/SeriesLook.h"
 #include "chartcontrol/layout/StatisticsLines.h"
 
+#include <algorithm>
+
 namespace QmChart6 {
 
 namespace {
@@ -32,7 +34,19 @@ bool MayOverflow(const Chart& chart) {
     return false;
 }
 
+/// Points that the series will need at the most.
+std::size_t MostPoints(const PlotContext& context, const PlotDemand& demand) {
+    constexpr double pointsOfColumn = 4;
+    const double columns = context.area.box.Width() * context.area.pixelsPerPoint + 1;
+    const double each = demand.isXY
+                            ? context.chart.CategoryCount()
+                            : std::min<double>(context.chart.CategoryCount(), pointsOfColumn * columns);
+    return static_cast<std::size_t>(each *
+                                    static_cast<double>(demand.areas.size() * 2 + demand.others.size()));
+}
+
 void LayOutMarks(const PlotContext& context, const PlotDemand& demand) {
+    context.builder.Reserve(MostPoints(context, demand));
     if (MayOverflow(context.chart)) context.builder.SetClip(context.area.box);
     LayOutAreas(context, demand.areas);
     LayOutBars(context, demand.bars);

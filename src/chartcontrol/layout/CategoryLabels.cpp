@@ -73,6 +73,10 @@ private:
         bool any = false;
         double before = 0;
         for (int category = 0; category < wish_.count; category += stride) {
+            if (wish_.text(category).isEmpty()) {
+                before = 0;
+                continue;
+            }
             TextBlock block = OneLine(category, wish_.count == 1 ? wish_.slot : 3 * pitch);
             const double width = block.Length();
             if (block.elided && wish_.count > 1) return false;

@@ -9,8 +9,8 @@ void LayOutLine(const PlotContext& context, int number) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const LinearMap& map = context.area.MapOf(series);
     const LineLook look = LineLookOf(series);
-    Runs runs;
-    CollectRuns(context.plotted.Top(number), context.area, runs);
+    const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
+    const Runs& runs = *collected;
     for (std::size_t run = 0; look.line && run < runs.Count(); ++run) {
         if (runs.starts[run + 1] - runs.starts[run] < 2) continue;
         for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace QmChart6 {
 
@@ -163,7 +164,6 @@ private:
                                       {PenStyle::Dashed, 0.75, chart_.Plot.Axis(AxisId::X).Pen.VtColor});
             return;
         }
-        const Stroke edge{PenStyle::Solid, radius > 20 ? 1.0 : 0.5, chart_.Backdrop.Fill.Brush.FillColor};
         double before = 0;
         for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number) {
             const double value = chart_.SeriesValues(number)[category];
@@ -173,9 +173,33 @@ private:
             const double end = before + share;
             context_.builder.AddSlice({PartCode::Series, number, category + 1},
                                       {round, TurnStart - 360 * end, 360 * share}, FillOf(look.Brush),
-                                      share < 1 ? edge : Stroke{});
+                                      StrokeOf(look.EdgePen));
             before = end;
         }
+        Separators(category, center, radius, sum);
+    }
+
+    /// Lines in the colour of the ground between neighbouring slices, in one chain through the centre.
+    void Separators(int category, Point center, double radius, double sum) {
+        double before = 0;
+        int slices = 0;
+        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number) {
+            const double value = chart_.SeriesValues(number)[category];
+            if (!(value > 0)) continue;
+            const double angle = 2 * std::numbers::pi * before;
+            context_.builder.AddPoint(center);
+            context_.builder.AddPoint(
+                {center.x + radius * std::sin(angle), center.y - radius * std::cos(angle)});
+            context_.builder.AddPoint(center);
+            before += value / sum;
+            ++slices;
+        }
+        const double width = radius > 20 ? 1.0 : 0.5;
+        if (slices > 1)
+            context_.builder.AddPolyline({PartCode::Plot},
+                                         {PenStyle::Solid, width, chart_.Backdrop.Fill.Brush.FillColor});
+        else
+            context_.builder.DropPendingPoints();
     }
 
     void Name(int category, Point center) {

@@ -2,23 +2,34 @@
 #include "chartcontrol/layout/SeriesLook.h"
 #include "chartcontrol/layout/XYPairs.h"
 
+#include <cmath>
+
 namespace QmChart6 {
 
 namespace {
 
 void IncludeAll(ValueRange& range, const Values& values) {
-    for (int i = 0; i < values.count; ++i) range.Include(values[i]);
+    if (values.blocks == nullptr) {
+        for (int i = 0; i < values.count; ++i) range.Include(values[i]);
+        return;
+    }
+    const int blocks = (values.count + ValueBlock::Size - 1) / ValueBlock::Size;
+    for (int i = 0; i < blocks; ++i) range.Include(ValueRange{values.blocks[i].low, values.blocks[i].high});
 }
 
 void AddXY(PlotDemand& demand, const Chart& chart, int number) {
     ValueRange& upright =
         chart.Plot.SeriesCollection(number).SecondaryAxis ? demand.secondary : demand.primary;
     const XYPairs pairs(chart, number);
+    ValueRange x;
+    ValueRange y;
     for (int i = 0; i < pairs.Count(); ++i) {
-        if (!pairs.Has(i)) continue;
-        demand.across.Include(pairs.X(i));
-        upright.Include(pairs.Y(i));
+        if (std::isnan(pairs.X(i) + pairs.Y(i))) continue;
+        x.Include(pairs.X(i));
+        y.Include(pairs.Y(i));
     }
+    demand.across.Include(x);
+    upright.Include(y);
     demand.others.push_back(number);
 }
 

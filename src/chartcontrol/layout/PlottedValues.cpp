@@ -99,12 +99,14 @@ bool PlottedValues::IsShare(int series) const {
 
 Values PlottedValues::Top(int series) const {
     if (tops_.empty()) return chart_.SeriesValues(series);
-    return {tops_.data() + static_cast<std::ptrdiff_t>(series - 1) * categories_, 1, categories_};
+    return {tops_.data() + static_cast<std::ptrdiff_t>(series - 1) * categories_, 1, categories_, nullptr,
+            nullptr};
 }
 
 Values PlottedValues::Base(int series) const {
     if (bases_.empty()) return {};
-    return {bases_.data() + static_cast<std::ptrdiff_t>(series - 1) * categories_, 1, categories_};
+    return {bases_.data() + static_cast<std::ptrdiff_t>(series - 1) * categories_, 1, categories_, nullptr,
+            nullptr};
 }
 
 double& PlottedValues::At(std::vector<double>& table, int series, int category) const {

@@ -7,8 +7,8 @@ namespace QmChart6 {
 void LayOutStep(const PlotContext& context, int number) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const LinearMap& map = context.area.MapOf(series);
-    Runs runs;
-    CollectRuns(context.plotted.Top(number), context.area, runs);
+    const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
+    const Runs& runs = *collected;
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i) {
             const double x = context.area.CategoryX(runs.samples[i].category);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace QmChart6 {
 
@@ -14,29 +15,33 @@ class PixelSet {
 public:
     explicit PixelSet(const PlotArea& area)
         : left_(area.box.left), top_(area.box.top), scale_(area.pixelsPerPoint),
-          columns_(static_cast<int>(std::ceil(area.box.Width() * scale_)) + 1),
-          rows_(static_cast<int>(std::ceil(area.box.Height() * scale_)) + 1),
-          taken_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_)) {}
+          columns_(static_cast<unsigned>(std::ceil(area.box.Width() * scale_)) + 1),
+          rows_(static_cast<unsigned>(std::ceil(area.box.Height() * scale_)) + 1),
+          taken_(static_cast<std::size_t>(columns_) * rows_ / BitsOfWord + 1) {}
 
     /// Whether the point's pixel was free; it no longer is. Points outside the plot are not placed.
     bool Take(Point point) {
-        const double column = (point.x - left_) * scale_;
-        const double row = (point.y - top_) * scale_;
-        if (!(column >= 0 && column < columns_ && row >= 0 && row < rows_)) return false;
-        auto&& taken = taken_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                              static_cast<std::size_t>(column)];
-        if (taken != 0) return false;
-        taken = 1;
+        const double across = (point.x - left_) * scale_;
+        const double down = (point.y - top_) * scale_;
+        if (!(across >= 0 && down >= 0 && across < columns_ && down < rows_)) return false;
+        const std::size_t pixel =
+            static_cast<std::size_t>(down) * columns_ + static_cast<std::size_t>(across);
+        std::uint64_t& word = taken_[pixel / BitsOfWord];
+        const std::uint64_t bit = std::uint64_t{1} << (pixel % BitsOfWord);
+        if ((word & bit) != 0) return false;
+        word |= bit;
         return true;
     }
 
 private:
+    static constexpr std::size_t BitsOfWord = 64;
+
     double left_;
     double top_;
     double scale_;
-    int columns_;
-    int rows_;
-    std::vector<char> taken_;
+    unsigned columns_;
+    unsigned rows_;
+    std::vector<std::uint64_t> taken_;
 };
 
 /// Runs of consecutive points closer than half a device pixel are one point of the line.
@@ -66,9 +71,15 @@ void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const LinearMap& map = context.area.MapOf(series);
     PixelSet pixels(context.area);
-    for (int i = 0; i < pairs.Count(); ++i) {
-        if (!pairs.Has(i)) continue;
-        const Point point{context.area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
+    // The maps' factors are worked out once: there may be a great many points.
+    const LinearMap& across = context.area.across;
+    const double factorX = across.Factor();
+    const double factorY = map.Factor();
+    const int count = pairs.Count();
+    for (int i = 0; i < count; ++i) {
+        // A missing value makes a place that is not a number, which is in no pixel.
+        const Point point{across.from + (pairs.X(i) - across.low) * factorX,
+                          map.from + (pairs.Y(i) - map.low) * factorY};
         if (pixels.Take(point)) context.builder.AddPoint(point);
     }
     const DataPoint& look = series.DataPoints.Item(DataPoints::All);

@@ -39,7 +39,7 @@ int Chart::CategoryCount() const {
 }
 
 Values Chart::SeriesValues(int series) const {
-    return Plot.DataSeriesInRow ? DataGrid.Row(series) : DataGrid.Column(series);
+    return Plot.DataSeriesInRow ? DataGrid.Row(series) : DataGrid.ColumnWithBlocks(series);
 }
 
 const QString& Chart::SeriesName(int series) const {

@@ -28,7 +28,9 @@ QStringList Blank(int count) {
 
 } // namespace
 
-DataGrid::DataGrid() : table_(std::make_shared<Table>()) {}
+DataGrid::DataGrid() {
+    SetSize(0, 0);
+}
 
 void DataGrid::SetSize(int rows, int columns) {
     auto table = std::make_shared<Table>();
@@ -38,6 +40,8 @@ void DataGrid::SetSize(int rows, int columns) {
     table->columnLabels = Blank(columns);
     table->values.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns),
                          std::numeric_limits<double>::quiet_NaN());
+    table->summaries.resize(static_cast<std::size_t>(columns));
+    for (auto& summary : table->summaries) summary = std::make_shared<Summary>();
     table_ = std::move(table);
 }
 
@@ -73,17 +77,34 @@ void DataGrid::SetValue(int row, int column, double value) {
 
 Values DataGrid::Column(int column) const {
     RequireColumn(column);
-    return {table_->values.data() + static_cast<std::ptrdiff_t>(column - 1) * table_->rows, 1, table_->rows};
+    return {table_->values.data() + static_cast<std::ptrdiff_t>(column - 1) * table_->rows, 1, table_->rows,
+            nullptr};
+}
+
+Values DataGrid::ColumnWithBlocks(int column) const {
+    Values values = Column(column);
+    Summary& summary = *table_->summaries[static_cast<std::size_t>(column) - 1];
+    std::call_once(summary.made, [&] {
+        summary.blocks = BlocksOf({values.first, static_cast<std::size_t>(values.count)});
+    });
+    values.blocks = summary.blocks.data();
+    values.cache = &summary.cache;
+    return values;
+}
+
+void DataGrid::Summarize() const {
+    for (int column = 1; column <= ColumnCount(); ++column) static_cast<void>(ColumnWithBlocks(column));
 }
 
 Values DataGrid::Row(int row) const {
     RequireRow(row);
-    return {table_->values.data() + (row - 1), table_->rows, table_->columns};
+    return {table_->values.data() + (row - 1), table_->rows, table_->columns, nullptr, nullptr};
 }
 
 std::span<double> DataGrid::WritableColumn(int column) {
     RequireColumn(column);
     Table& table = Write();
+    table.summaries[static_cast<std::size_t>(column) - 1] = std::make_shared<Summary>();
     return {table.values.data() + static_cast<std::ptrdiff_t>(column - 1) * table.rows,
             static_cast<std::size_t>(table.rows)};
 }

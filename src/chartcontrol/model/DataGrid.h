@@ -1,10 +1,14 @@
 #pragma once
 
+#include "chartcontrol/model/Runs.h"
+#include "chartcontrol/model/ValueBlocks.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <cstddef>
 #include <memory>
+#include <mutex>
 #include <span>
 #include <vector>
 
@@ -16,6 +20,10 @@ struct Values {
     const double* first = nullptr;
     std::ptrdiff_t stride = 1;
     int count = 0;
+    /// The extremes by blocks, where they are known.
+    const ValueBlock* blocks = nullptr;
+    /// Where runs picked of these values are kept, if anywhere.
+    RunsCache* cache = nullptr;
 
     [[nodiscard]] double operator[](int index) const { return first[index * stride]; }
 };
@@ -45,19 +53,31 @@ public:
 
     [[nodiscard]] Values Column(int column) const;
     [[nodiscard]] Values Row(int row) const;
-    /// The column's memory, to be filled; good until the grid is copied or resized.
+    /// A column with its blocks, which are made when they are first asked for. Good until the column is
+    /// written.
+    [[nodiscard]] Values ColumnWithBlocks(int column) const;
+    /// Makes the blocks of every column now, not when the first picture asks for them.
+    void Summarize() const;
+    /// The column's memory, to be filled; good until the grid is copied, resized or read.
     [[nodiscard]] std::span<double> WritableColumn(int column);
 
     /// Missing values are equal to each other.
     friend bool operator==(const DataGrid& left, const DataGrid& right);
 
 private:
+    /// What was found out about a column since it was last written.
+    struct Summary {
+        std::once_flag made;
+        std::vector<ValueBlock> blocks;
+        RunsCache cache;
+    };
     struct Table {
         int rows = 0;
         int columns = 0;
         QStringList rowLabels;
         QStringList columnLabels;
-        std::vector<double> values; // by column
+        std::vector<double> values;                      // by column
+        std::vector<std::shared_ptr<Summary>> summaries; // by column
     };
 
     Table& Write();

@@ -1,6 +1,7 @@
 #include "chartcontrol/paint/ScenePainter.h"
 
 #include "chartcontrol/paint/Dash.h"
+#include "chartcontrol/paint/DenseLine.h"
 #include "chartcontrol/paint/QtColour.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"
 #include "chartcontrol/scene/Outline.h"
@@ -13,13 +14,17 @@ namespace QmChart6 {
 
 namespace {
 
+constexpr double ThinPixels = 2.7;      // up to this width a line is drawn straight into the pixels
 constexpr std::size_t ManyPoints = 200; // from here on a wide line is drawn segment by segment
 
 } // namespace
 
 ScenePainter::ScenePainter(const Scene& scene, QPainter& painter, double scale, PaintTarget target)
     : scene_(scene), painter_(painter), scale_(scale), raster_(target == PaintTarget::Raster),
-      grid_(painter.deviceTransform()), snaps_(raster_ && grid_.usable) {}
+      grid_(painter.deviceTransform()), snaps_(raster_ && grid_.usable) {
+    if (snaps_) pixels_ = PixelTarget::Of(painter, scale);
+    if (pixels_) polygons_.emplace(*pixels_);
+}
 
 void ScenePainter::Paint() {
     painter_.save();
@@ -42,9 +47,12 @@ void ScenePainter::SetClip(int clip) {
     painter_.save();
     ForgetState();
     clip_ = clip;
+    if (pixels_) pixels_->SetClip(pixels_->Whole());
     if (clip == NoClip) return;
     const Box& box = scene_.clips[static_cast<std::size_t>(clip)];
-    painter_.setClipRect(snaps_ ? SnappedRect(box) : RectOf(box), Qt::IntersectClip);
+    const QRectF rect = snaps_ ? SnappedRect(box) : RectOf(box);
+    painter_.setClipRect(rect, Qt::IntersectClip);
+    if (pixels_) pixels_->SetClip(painter_.deviceTransform().mapRect(rect).toAlignedRect());
 }
 
 void ScenePainter::ForgetState() {
@@ -130,6 +138,8 @@ void ScenePainter::operator()(const Polyline& line) {
     const bool wide = shape_->stroke.width * scale_ > 1;
     if (raster_ && dashed && points.size() > 2) {
         DrawDashes(points);
+    } else if (!dashed && (DrawDenseLine(points) || DrawThinLine(points))) {
+        return;
     } else if (raster_ && !dashed && wide && points.size() > ManyPoints) {
         DrawWideLine(points);
     } else {
@@ -190,6 +200,20 @@ void ScenePainter::DrawCrispSegment(Point from, Point to) {
     }
 }
 
+bool ScenePainter::DrawDenseLine(std::span<const Point> points) {
+    if (!pixels_ || !IsDense(points, *pixels_)) return false;
+    DenseLine(*pixels_).Draw(points, shape_->stroke.width, shape_->stroke.colour);
+    return true;
+}
+
+bool ScenePainter::DrawThinLine(std::span<const Point> points) {
+    if (!polygons_ || shape_->stroke.width * pixels_->Scale() > ThinPixels ||
+        !polygons_->Takes(shape_->bounds))
+        return false;
+    polygons_->Chain(points, std::max(shape_->stroke.width, 1 / pixels_->Scale()), shape_->stroke.colour);
+    return true;
+}
+
 /// The stroker takes a long chain as one shape and its time grows far faster than the chain; segments with
 /// round ends give the same picture.
 void ScenePainter::DrawWideLine(std::span<const Point> points) {
@@ -214,7 +238,7 @@ void ScenePainter::DrawDashes(std::span<const Point> points) {
 
 void ScenePainter::operator()(const Polygon& polygon) {
     const std::span<const Point> points = scene_.PointsOf(polygon.points);
-    if (points.size() < 2) return;
+    if (points.size() < 2 || DrawInPixels(points)) return;
     const bool patterned =
         shape_->fill.style == BrushStyle::Pattern || shape_->fill.style == BrushStyle::Hatch;
     TakePoints(points);
@@ -271,7 +295,19 @@ void ScenePainter::StrokeRect(const QRectF& rect) {
     painter_.drawRect(rect.adjusted(x, y, -x, -y));
 }
 
+/// Plain shapes are drawn straight into the pixels where there are some.
+bool ScenePainter::DrawInPixels(std::span<const Point> outline) {
+    const bool plain = shape_->fill.style == BrushStyle::Solid || shape_->fill.style == BrushStyle::None;
+    if (!polygons_ || !plain || IsDashed(shape_->stroke.style) || !polygons_->Takes(shape_->bounds))
+        return false;
+    if (shape_->fill.style == BrushStyle::Solid) polygons_->Fill(outline, shape_->fill.colour);
+    if (Strokes()) polygons_->Outline(outline, shape_->stroke.width, shape_->stroke.colour);
+    return true;
+}
+
 void ScenePainter::operator()(const Slice& slice) {
+    outline_ = SliceOutline(slice);
+    if (DrawInPixels(outline_)) return;
     QPainterPath path;
     const QRectF rect = RectOf(slice.box);
     if (std::abs(slice.spanAngle) >= 360) {
@@ -281,9 +317,6 @@ void ScenePainter::operator()(const Slice& slice) {
         path.arcTo(rect, slice.startAngle, slice.spanAngle);
         path.closeSubpath();
     }
-    const bool patterned =
-        shape_->fill.style == BrushStyle::Pattern || shape_->fill.style == BrushStyle::Hatch;
-    if (patterned) outline_ = SliceOutline(slice);
     FillPath(path, outline_);
 }
 

@@ -3,6 +3,8 @@
 #include "chartcontrol/paint/DeviceGrid.h"
 #include "chartcontrol/paint/Hatch.h"
 #include "chartcontrol/paint/PaintScene.h"
+#include "chartcontrol/paint/PixelPolygon.h"
+#include "chartcontrol/paint/PixelTarget.h"
 #include "chartcontrol/scene/Scene.h"
 
 #include <QFont>
@@ -52,12 +54,15 @@ private:
 
     void DrawCrispLine(std::span<const Point> points);
     void DrawCrispSegment(Point from, Point to);
+    bool DrawDenseLine(std::span<const Point> points);
+    bool DrawThinLine(std::span<const Point> points);
     void DrawWideLine(std::span<const Point> points);
     void DrawDashes(std::span<const Point> points);
     void FillPath(const QPainterPath& path, std::span<const Point> outline);
     void DrawPieces(const HatchPieces& pieces, const QRectF& within);
     void DrawPieceLines(const HatchPieces& pieces, const QRectF& within);
     [[nodiscard]] QRectF SnappedDot(const Box& box, const QRectF& within) const;
+    bool DrawInPixels(std::span<const Point> outline);
     void StrokeRect(const QRectF& rect);
     void DrawOutlinedText(const TextLine& text);
     void DrawTextAtOrigin(const TextLine& text, QPointF start);
@@ -68,6 +73,8 @@ private:
     bool raster_;
     DeviceGrid grid_;
     bool snaps_;
+    std::optional<PixelTarget> pixels_;
+    std::optional<PixelPolygon> polygons_;
     const Shape* shape_ = nullptr;
 
     int clip_ = NoClip;

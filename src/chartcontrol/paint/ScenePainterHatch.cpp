@@ -36,10 +36,16 @@ void ScenePainter::DrawPieceLines(const HatchPieces& pieces, const QRectF& withi
     if (pieces.lines.empty()) return;
     const QColor ink = QtColourOf(pieces.ink);
     const double half = pieces.lineWidth / 2;
+    const bool inPixels = polygons_ && polygons_->Takes(shape_->bounds);
     SetPen(QPen(ink, pieces.lineWidth * scale_, Qt::SolidLine, Qt::FlatCap));
     for (const HatchLine& line : pieces.lines) {
         const bool upright = line.from.x == line.to.x;
-        if (!snaps_ || (!upright && line.from.y != line.to.y)) {
+        const bool slanted = !upright && line.from.y != line.to.y;
+        if (slanted && inPixels) {
+            polygons_->Line(line.from, line.to, pieces.lineWidth, pieces.ink);
+            continue;
+        }
+        if (!snaps_ || slanted) {
             painter_.drawLine(At(line.from), At(line.to));
             continue;
         }

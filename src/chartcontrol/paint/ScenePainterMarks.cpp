@@ -10,6 +10,8 @@ namespace QmChart6 {
 namespace {
 
 constexpr std::size_t ManyMarkers = 24; // from here on markers are stamped
+/// From here on small ones are stamped plainly: in such a cloud nobody sees their edges.
+constexpr std::size_t VeryManyMarkers = 5000;
 
 QPainterPath PathOf(const std::vector<Point>& outline, double scale) {
     QPainterPath path;
@@ -91,7 +93,14 @@ void ScenePainter::operator()(const MarkerRun& run) {
     if (snaps_ && points.size() >= ManyMarkers) {
         const QBrush brush = filled ? QBrush(QtColourOf(shape_->fill.colour)) : QBrush(Qt::NoBrush);
         MarkerStamps stamps(shape, brush, pen, painter_.deviceTransform().m11());
-        for (const Point point : points) stamps.Stamp(painter_, At(point));
+        if (pixels_ && points.size() >= VeryManyMarkers && stamps.IsSmall())
+            for (const Point point : points)
+                stamps.StampPlain(*pixels_, {pixels_->DeviceX(point.x), pixels_->DeviceY(point.y)});
+        else if (pixels_)
+            for (const Point point : points)
+                stamps.Stamp(*pixels_, {pixels_->DeviceX(point.x), pixels_->DeviceY(point.y)});
+        else
+            for (const Point point : points) stamps.Stamp(painter_, At(point));
         return;
     }
     SetPen(pen);

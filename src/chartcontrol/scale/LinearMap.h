@@ -9,9 +9,9 @@ struct LinearMap {
     double from = 0;
     double to = 1;
 
-    [[nodiscard]] double At(double value) const {
-        return from + (value - low) * ((to - from) / (high - low));
-    }
+    /// Points to a unit of value.
+    [[nodiscard]] double Factor() const { return (to - from) / (high - low); }
+    [[nodiscard]] double At(double value) const { return from + (value - low) * Factor(); }
 };
 
 } // namespace QmChart6

@@ -12,8 +12,8 @@ struct ValueRange {
     [[nodiscard]] bool IsEmpty() const { return low > high; }
     /// Not-a-number is passed over.
     void Include(double value) {
-        if (value < low) low = value;
-        if (value > high) high = value;
+        low = value < low ? value : low;
+        high = value > high ? value : high;
     }
     void Include(const ValueRange& other) {
         if (other.low < low) low = other.low;

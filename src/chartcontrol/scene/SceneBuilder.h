@@ -12,6 +12,9 @@ class SceneBuilder {
 public:
     explicit SceneBuilder(Scene& scene) : scene_(scene) {}
 
+    /// Makes room for so many more points, so that large scenes are not moved about while they grow.
+    void Reserve(std::size_t points) { scene_.points.reserve(scene_.points.size() + points); }
+
     /// The clip that the following shapes get.
     void SetClip(std::optional<Box> clip);
 
