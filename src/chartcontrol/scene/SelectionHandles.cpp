@@ -35,6 +35,7 @@ std::vector<Point> RunPoints(const Scene& scene, const std::vector<std::size_t>&
     };
     for (const std::size_t index : shapes) {
         const Shape& shape = scene.shapes[index];
+        if (shape.part.index2 != 0) continue;
         if (const auto* run = std::get_if<MarkerRun>(&shape.geometry)) append(markers, run->points);
         if (const auto* polygon = std::get_if<Polygon>(&shape.geometry)) append(areas, polygon->points);
         if (std::holds_alternative<Rectangle>(shape.geometry)) bars.push_back(AnchorOf(scene, shape));
@@ -61,7 +62,11 @@ std::vector<Point> SeriesPlaces(const Scene& scene, const std::vector<std::size_
     std::vector<Point> places;
     for (const auto& [category, shape] : marks) places.push_back(AnchorOf(scene, *shape));
     const std::vector<Point> run = RunPoints(scene, shapes);
-    return places.size() > 1 || run.empty() ? places : run;
+    // Single markers are points of a line with a look of their own; other single marks are all there is.
+    const bool onRun = std::any_of(marks.begin(), marks.end(), [](const auto& mark) {
+        return std::holds_alternative<MarkerRun>(mark.second->geometry);
+    });
+    return places.empty() || (onRun && !run.empty()) ? run : places;
 }
 
 std::vector<Point> Thinned(const std::vector<Point>& places) {
