@@ -29,6 +29,9 @@ struct PlotDemand {
 
 PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted);
 
+/// Whether the first and the last category stand on the ends of the axis: where all series are areas.
+bool StandsOnEnds(const Chart& chart);
+
 /// How much of the axes' furniture is drawn; a small chart does without some.
 enum class Furniture { All, NoTitles, None };
 

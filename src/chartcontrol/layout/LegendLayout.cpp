@@ -167,6 +167,8 @@ void AddSymbol(const LayoutContext& context, int number, const Box& box) {
 }
 
 void PlaceGrid(const LayoutContext& context, const LegendGrid& grid, const Box& cell) {
+    // The gaps between the entries belong to the legend too, for whoever points at them.
+    context.builder.AddRectangle({PartCode::Legend}, cell, {});
     const Font& font = context.chart.Legend.VtFont;
     const TextExtent line = context.measurer.Measure(QStringLiteral("x"), font);
     double left = cell.left;

@@ -234,6 +234,7 @@ void LayOutPies(const LayoutContext& context, const Box& box) {
         context.builder.Warn(QStringLiteral("there is no value to show"));
         return;
     }
+    context.builder.AddRectangle({PartCode::Plot}, box, {}); // to be pointed at, between the pies too
     PiesLayout(context, box).Run();
 }
 

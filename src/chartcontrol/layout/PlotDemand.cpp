@@ -54,6 +54,13 @@ void AddSeries(PlotDemand& demand, const Chart& chart, const PlottedValues& plot
 
 } // namespace
 
+bool StandsOnEnds(const Chart& chart) {
+    const int count = chart.Plot.SeriesCollection.Count();
+    for (int number = 1; number <= count; ++number)
+        if (MarkKindOf(chart, number) != MarkKind::Area) return false;
+    return count > 0 && chart.CategoryCount() > 1;
+}
+
 PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted) {
     PlotDemand demand;
     demand.isXY = chart.chartType() == ChartType::XY2D;
@@ -66,8 +73,7 @@ PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted) {
             AddSeries(demand, chart, plotted, number);
     }
     demand.keepZero = !demand.bars.empty() || !demand.areas.empty() || plotted.IsChanged();
-    demand.onEnds =
-        !demand.areas.empty() && demand.bars.empty() && demand.others.empty() && chart.CategoryCount() > 1;
+    demand.onEnds = StandsOnEnds(chart);
     return demand;
 }
 

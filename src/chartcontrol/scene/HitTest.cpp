@@ -70,7 +70,8 @@ struct ExactlyCovers {
         return (Filled() && InsidePolygon(rim, point)) || OnRim(rim);
     }
     bool operator()(const Rectangle& rectangle) const {
-        return (Filled() && rectangle.box.Contains(point)) || OnRim(BoxOutline(rectangle.box));
+        const bool isHitArea = !Filled() && !Stroked();
+        return ((Filled() || isHitArea) && rectangle.box.Contains(point)) || OnRim(BoxOutline(rectangle.box));
     }
     bool operator()(const Slice& slice) const {
         return (Filled() && InsideSlice(slice, point)) || OnRim(SliceOutline(slice));
@@ -91,8 +92,8 @@ struct ExactlyCovers {
 };
 
 bool Shows(const Part& shown, const Part& wanted) {
-    return shown.code == wanted.code && (wanted.index1 == 0 || shown.index1 == wanted.index1) &&
-           (wanted.index2 == 0 || shown.index2 == wanted.index2);
+    return shown.code == wanted.code && (wanted.index1 == AnyIndex || shown.index1 == wanted.index1) &&
+           (wanted.index2 == AnyIndex || shown.index2 == wanted.index2);
 }
 
 } // namespace

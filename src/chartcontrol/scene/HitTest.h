@@ -9,13 +9,14 @@
 namespace QmChart6 {
 
 /// Whether what the shape draws covers the point: bounds first, then the clip, then the exact shape. `slack`
-/// (points) widens lines and markers so that thin ones can be met.
+/// (points) widens lines and markers so that thin ones can be met. A rectangle with neither fill nor stroke
+/// is there to be met, anywhere inside.
 bool Covers(const Scene& scene, const Shape& shape, Point point, double slack = 2);
 
 /// The index of the topmost shape that covers the point.
 std::optional<std::size_t> Hit(const Scene& scene, Point point, double slack = 2);
 
-/// The indexes of the shapes that show a part; index1 or index2 of 0 stand for any.
+/// The indexes of the shapes that show a part; AnyIndex as index1 or index2 stands for any.
 std::vector<std::size_t> Find(const Scene& scene, Part part);
 
 } // namespace QmChart6

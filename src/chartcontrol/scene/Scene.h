@@ -62,6 +62,9 @@ enum class PartCode {
     AxisTitle = 11,
 };
 
+/// In a part that is looked for: an index that may be any. 0 is an index like others, the X axis' for one.
+inline constexpr int AnyIndex = -1;
+
 /// What a shape shows: the part and its indexes. index1 is the axis id of an axis part, the series number of
 /// a series, data point or label; index2 the data point (0: none in particular) or the index of the axis.
 struct Part {

@@ -6,6 +6,7 @@
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/paint/PictureFormat.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"
+#include "chartcontrol/widget/AccessibleChart.h"
 #include "desktop/Desktop.h"
 
 #include <QPaintEvent>
@@ -17,6 +18,8 @@ namespace QmChart6 {
 
 ChartControl::ChartControl(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    InstallAccessibleCharts();
 }
 
 ChartControl::~ChartControl() = default;
@@ -29,6 +32,7 @@ void ChartControl::SetRepaint(bool on) {
 void ChartControl::Refresh() {
     if (!repaint_) return;
     scene_.reset();
+    DropSelectionThatIsGone();
     update();
 }
 
@@ -58,6 +62,7 @@ void ChartControl::paintEvent(QPaintEvent* event) {
     painter.setClipRegion(event->region());
     // The painter's unit is the logical pixel; Qt applies the screen's own scale behind it.
     PaintScene(CurrentScene(), painter, 1 / PointsPerPixel, PaintTarget::Raster);
+    PaintSelection(painter);
 }
 
 void ChartControl::resizeEvent(QResizeEvent* event) {

@@ -153,17 +153,30 @@ TEST_F(HitTest, TheTopmostShapeIsHit) {
     EXPECT_EQ(Hit(scene, {120, 50}), std::nullopt);
 }
 
-TEST_F(HitTest, FindTakesZeroForAnyIndex) {
+TEST_F(HitTest, ARectangleWithoutFillAndStrokeIsAHitArea) {
+    builder.AddRectangle({PartCode::Plot}, {10, 10, 90, 90}, {});
+    EXPECT_TRUE(CoversLast({50, 50}));
+    EXPECT_TRUE(CoversLast({10, 90}));
+    EXPECT_FALSE(CoversLast({9, 50}));
+}
+
+TEST_F(HitTest, FindTakesAnyIndexWhereItIsAskedTo) {
     builder.AddRectangle({PartCode::DataPoint, 1, 1}, {0, 0, 1, 1}, Filled);
     builder.AddRectangle({PartCode::DataPoint, 1, 2}, {0, 0, 1, 1}, Filled);
     builder.AddRectangle({PartCode::DataPoint, 2, 1}, {0, 0, 1, 1}, Filled);
     builder.AddRectangle({PartCode::Series, 1, 0}, {0, 0, 1, 1}, Filled);
     using Indexes = std::vector<std::size_t>;
-    EXPECT_EQ(Find(scene, {PartCode::DataPoint}), (Indexes{0, 1, 2}));
-    EXPECT_EQ(Find(scene, {PartCode::DataPoint, 1}), (Indexes{0, 1}));
-    EXPECT_EQ(Find(scene, {PartCode::DataPoint, 0, 1}), (Indexes{0, 2}));
+    EXPECT_EQ(Find(scene, {PartCode::DataPoint, AnyIndex, AnyIndex}), (Indexes{0, 1, 2}));
+    EXPECT_EQ(Find(scene, {PartCode::DataPoint, 1, AnyIndex}), (Indexes{0, 1}));
+    EXPECT_EQ(Find(scene, {PartCode::DataPoint, AnyIndex, 1}), (Indexes{0, 2}));
     EXPECT_EQ(Find(scene, {PartCode::DataPoint, 1, 2}), (Indexes{1}));
-    EXPECT_EQ(Find(scene, {PartCode::Title}), Indexes{});
+    EXPECT_EQ(Find(scene, {PartCode::Title, AnyIndex, AnyIndex}), Indexes{});
+}
+
+TEST_F(HitTest, FindTellsTheFirstAxisFromTheOthers) {
+    builder.AddRectangle({PartCode::Axis, 0, 1}, {0, 0, 1, 1}, Filled);
+    builder.AddRectangle({PartCode::Axis, 1, 1}, {0, 0, 1, 1}, Filled);
+    EXPECT_EQ(Find(scene, {PartCode::Axis, 0, 1}), (std::vector<std::size_t>{0}));
 }
 
 TEST(Outline, SliceStaysWithinAHundredthOfAPointOfTheCurve) {

@@ -1,0 +1,85 @@
+#include "base/Twips.h"
+#include "chartcontrol/layout/PointAt.h"
+#include "chartcontrol/paint/PaintScene.h"
+#include "chartcontrol/scene/SelectionHandles.h"
+#include "chartcontrol/widget/AccessibleChart.h"
+#include "chartcontrol/widget/ChartControl.h"
+#include "qmchart6/RuntimeError.h"
+
+#include <QPainter>
+
+// What part of the chart is where, and which is selected.
+
+namespace QmChart6 {
+
+void ChartControl::TwipsToChartPart(int x, int y, int& part, int& index1, int& index2, int& index3,
+                                    int& index4) {
+    const bool isInside = x >= 0 && y >= 0 && x < TwipsOfPixels(width()) && y < TwipsOfPixels(height());
+    const double pointsPerTwip = PointsPerPixel / TwipsPerPixel;
+    const ChartPart found =
+        isInside ? PartAt(chart_, CurrentScene(), {x * pointsPerTwip, y * pointsPerTwip}) : ChartPart{};
+    part = found.part;
+    index1 = found.index1;
+    index2 = found.index2;
+    index3 = found.index3;
+    index4 = found.index4;
+}
+
+ChartPart ChartControl::PartAtPixel(const QPointF& place) {
+    if (!QRectF(rect()).contains(place)) return {};
+    return PartAt(chart_, CurrentScene(), {place.x() * PointsPerPixel, place.y() * PointsPerPixel});
+}
+
+void ChartControl::SelectPart(int part, int index1, int index2, int index3, int index4) {
+    const ChartPart wanted = part == NoPart ? ChartPart{} : ChartPart{part, index1, index2, index3, index4};
+    RequirePart(chart_, wanted);
+    Select(wanted);
+}
+
+void ChartControl::GetSelectedPart(int& part, int& index1, int& index2, int& index3, int& index4) const {
+    part = selected_.part;
+    index1 = selected_.index1;
+    index2 = selected_.index2;
+    index3 = selected_.index3;
+    index4 = selected_.index4;
+}
+
+void ChartControl::Select(const ChartPart& part) {
+    if (selected_ == part) return;
+    selected_ = part;
+    update();
+    AnnounceSelection(*this);
+    Q_EMIT PartSelected(part.part, part.index1, part.index2, part.index3, part.index4);
+}
+
+void ChartControl::DropSelectionThatIsGone() {
+    try {
+        RequirePart(chart_, selected_);
+    } catch (const RuntimeError&) {
+        // The series or point went with its data; that is no failure, only nothing to select any more.
+        Select({});
+    }
+}
+
+QPoint ChartControl::PlaceOfSelection() {
+    std::optional<Point> place;
+    if (selected_.IsOfSeries())
+        place = PlaceOfPoint(chart_, CurrentScene(), {selected_.index1, selected_.index2});
+    if (!place && !selected_.IsNone()) {
+        const std::vector<Point> handles = HandlePlaces(CurrentScene(), ShapesOf(selected_));
+        if (!handles.empty()) place = handles.front();
+    }
+    if (!place) return rect().center();
+    return QPointF(place->x / PointsPerPixel, place->y / PointsPerPixel).toPoint();
+}
+
+void ChartControl::PaintSelection(QPainter& painter) {
+    if (selected_.IsNone()) return;
+    const Scene& scene = CurrentScene();
+    std::optional<Point> current;
+    if (selected_.IsOfSeries()) current = PlaceOfPoint(chart_, scene, {selected_.index1, selected_.index2});
+    PaintScene(SelectionHandles(scene, ShapesOf(selected_), current), painter, 1 / PointsPerPixel,
+               PaintTarget::Raster);
+}
+
+} // namespace QmChart6

@@ -1,0 +1,86 @@
+#include "chartcontrol/widget/ChartPart.h"
+
+#include "chartcontrol/layout/PointAt.h"
+#include "chartcontrol/scene/HitTest.h"
+#include "qmchart6/RuntimeError.h"
+
+namespace QmChart6 {
+
+namespace {
+
+ChartPart AxisPart(PartCode code, int axis) {
+    return {static_cast<int>(code), axis, 1, code == PartCode::AxisLabel ? 1 : 0, 0};
+}
+
+} // namespace
+
+bool ChartPart::IsOfSeries() const {
+    return part == static_cast<int>(PartCode::Series) || part == static_cast<int>(PartCode::DataPoint);
+}
+
+ChartPart PartAt(const Chart& chart, const Scene& scene, Point place) {
+    const std::optional<std::size_t> hit = Hit(scene, place);
+    const Part part = hit ? scene.shapes[*hit].part : Part{};
+    const int code = static_cast<int>(part.code);
+    switch (part.code) {
+    case PartCode::Chart:
+    case PartCode::Title:
+    case PartCode::Footnote:
+    case PartCode::Legend:
+    case PartCode::Plot:
+        return {code};
+    case PartCode::Series:
+    case PartCode::SeriesLabel:
+    case PartCode::DataPoint:
+    case PartCode::PointLabel: {
+        const std::optional<DataPointHit> point = PointAt(chart, scene, part, place);
+        return {code, part.index1, point ? point->category : part.index2};
+    }
+    case PartCode::Axis:
+    case PartCode::AxisLabel:
+    case PartCode::AxisTitle:
+        return AxisPart(part.code, part.index1);
+    }
+    return {code};
+}
+
+Part ShapesOf(const ChartPart& part) {
+    const auto code = static_cast<PartCode>(part.part);
+    switch (code) {
+    case PartCode::Series:
+    case PartCode::DataPoint:
+        return {PartCode::Series, part.index1, AnyIndex};
+    case PartCode::PointLabel:
+        return {code, part.index1, part.index2 > 0 ? part.index2 : AnyIndex};
+    case PartCode::SeriesLabel:
+    case PartCode::Axis:
+    case PartCode::AxisLabel:
+    case PartCode::AxisTitle:
+        return {code, part.index1, AnyIndex};
+    case PartCode::Chart:
+    case PartCode::Title:
+    case PartCode::Footnote:
+    case PartCode::Legend:
+    case PartCode::Plot:
+        break;
+    }
+    return {code, AnyIndex, AnyIndex};
+}
+
+void RequirePart(const Chart& chart, const ChartPart& part) {
+    if (part.IsNone()) return;
+    const auto last = static_cast<int>(PartCode::AxisTitle);
+    if (part.part < 0 || part.part > last)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("a part code is from 0 to %1, not %2").arg(last).arg(part.part));
+    const auto code = static_cast<PartCode>(part.part);
+    if (code == PartCode::Axis || code == PartCode::AxisLabel || code == PartCode::AxisTitle)
+        static_cast<void>(chart.Plot.Axis(part.index1));
+    if (part.IsOfSeries() || code == PartCode::SeriesLabel || code == PartCode::PointLabel) {
+        static_cast<void>(chart.Plot.SeriesCollection(part.index1));
+        // A point index below 1 speaks of all of them.
+        if (part.index2 > 0) static_cast<void>(chart.CategoryName(part.index2));
+    }
+}
+
+} // namespace QmChart6
