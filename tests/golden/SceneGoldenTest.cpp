@@ -47,6 +47,13 @@ TEST_P(SceneGolden, IsLaidOutAsBefore) {
     EXPECT_EQ(golden.readAll().toStdString(), dump.toStdString());
 }
 
+TEST_P(SceneGolden, IsReadBackAsItWasDumped) {
+    const Samples::Sample& sample = GetParam();
+    const QByteArray dump =
+        DumpScene(LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer()));
+    EXPECT_EQ(DumpScene(ReadScene(dump)).toStdString(), dump.toStdString());
+}
+
 INSTANTIATE_TEST_SUITE_P(Samples, SceneGolden, testing::ValuesIn(KeptSamples()), Samples::TestName());
 
 } // namespace

@@ -227,6 +227,35 @@ Chart Markers() {
     return chart;
 }
 
+/// Every 3D type in every projection from four sides, small, so that many fit a page.
+void AddSpaceViews(std::vector<Sample>& samples) {
+    const std::vector<std::pair<const char*, ChartType>> types{{"bar", ChartType::Bar3D},
+                                                               {"line", ChartType::Line3D},
+                                                               {"area", ChartType::Area3D},
+                                                               {"step", ChartType::Step3D},
+                                                               {"combination", ChartType::Combination3D}};
+    const std::vector<std::pair<const char*, Projection>> projections{
+        {"perspective", Projection::Perspective},
+        {"oblique", Projection::Oblique},
+        {"orthogonal", Projection::Orthogonal}};
+    const std::vector<View3d> views{{60, 30}, {130, 15}, {220, 45}, {320, -25}};
+    for (const auto& [typeName, type] : types)
+        for (const auto& [projectionName, projection] : projections)
+            for (std::size_t view = 0; view < views.size(); ++view)
+                samples.push_back({"space-" + std::string(typeName) + '-' + projectionName + '-' +
+                                       std::to_string(static_cast<int>(views[view].Rotation)),
+                                   320, 240, [type = type, projection = projection, view = views[view]] {
+                                       Chart chart = ChartOf(5, 3, [](int row, int column) {
+                                           return row == 4 && column == 2 ? -20.0 : Wave(row, column);
+                                       });
+                                       chart.SetChartType(type);
+                                       chart.Plot.Projection = projection;
+                                       chart.Plot.View3d = view;
+                                       chart.ShowLegend = false;
+                                       return chart;
+                                   }});
+}
+
 Chart WithoutValues(int rows, int columns) {
     return ChartOf(rows, columns, [](int, int) { return Missing(); });
 }
@@ -245,10 +274,12 @@ Chart ChartOf(int rows, int columns, const std::function<double(int, int)>& valu
     return chart;
 }
 
-const std::vector<Sample>& All() {
+namespace {
+
+std::vector<Sample> Flat() {
     using T = ChartType;
     using L = LabelLocation;
-    static const std::vector<Sample> samples{
+    return {
         {"bar-4-series", 640, 420, [] { return Sales(4); }},
         {"bar-1-series", 640, 420, [] { return Sales(1); }},
         {"bar-40-long-names", 400, 300, LongNames},
@@ -295,6 +326,12 @@ const std::vector<Sample>& All() {
         {"xy-statistics", 640, 420, [] { return Statistics(Scatter(2)); }},
         {"combination", 640, 420, [] { return Sales(4, T::Combination2D); }},
         {"combination-two-axes", 640, 420, SecondAxis},
+        {"bar-flipped-stacked", 640, 420,
+         [] {
+             Chart chart = Stacked(T::Bar2D, false);
+             chart.SetDataSeriesInRow(true);
+             return chart;
+         }},
         {"bar-3d", 640, 420, [] { return Space(T::Bar3D); }},
         {"bar-3d-left", 640, 420, [] { return Space(T::Bar3D, 120, 20); }},
         {"bar-3d-orthogonal", 640, 420, [] { return Space(T::Bar3D, 60, 30, Projection::Orthogonal); }},
@@ -337,6 +374,16 @@ const std::vector<Sample>& All() {
         {"empty", 400, 300, [] { return Chart(); }},
         {"tiny", 90, 60, [] { return Sales(4); }},
     };
+}
+
+} // namespace
+
+const std::vector<Sample>& All() {
+    static const std::vector<Sample> samples = [] {
+        std::vector<Sample> all = Flat();
+        AddSpaceViews(all);
+        return all;
+    }();
     return samples;
 }
 

@@ -47,6 +47,7 @@ const Scene& ChartControl::CurrentScene() {
         const Size size{width() * PointsPerPixel, height() * PointsPerPixel};
         scene_ = LayOut(chart_, {.size = size, .pixelsPerPoint = pixelsPerPoint}, QtTextMeasurer());
         scenePixelsPerPoint_ = pixelsPerPoint;
+        picture_ = QImage();
     }
     return *scene_;
 }
@@ -57,12 +58,25 @@ void ChartControl::CopyToClipboard() const {
 
 void ChartControl::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    // White in every palette: a chart looks on the screen as it will on paper and in a file.
-    painter.fillRect(event->rect(), Qt::white);
     painter.setClipRegion(event->region());
-    // The painter's unit is the logical pixel; Qt applies the screen's own scale behind it.
-    PaintScene(CurrentScene(), painter, 1 / PointsPerPixel, PaintTarget::Raster);
+    painter.drawImage(QPoint(0, 0), CurrentPicture());
     PaintSelection(painter);
+}
+
+/// The scene in the screen's own pixels: what only uncovers or selects parts of the chart paints no shape
+/// anew.
+const QImage& ChartControl::CurrentPicture() {
+    const Scene& scene = CurrentScene();
+    const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo({1, 1});
+    if (picture_.size() == pixels) return picture_;
+    picture_ = QImage(pixels, QImage::Format_RGB32);
+    // White in every palette: a chart looks on the screen as it will on paper and in a file.
+    picture_.fill(Qt::white);
+    QPainter painter(&picture_);
+    PaintScene(scene, painter, PixelsPerPoint(), PaintTarget::Raster);
+    painter.end();
+    picture_.setDevicePixelRatio(devicePixelRatioF());
+    return picture_;
 }
 
 void ChartControl::resizeEvent(QResizeEvent* event) {

@@ -4,6 +4,7 @@
 #include "chartcontrol/scene/Scene.h"
 #include "chartcontrol/widget/ChartPart.h"
 
+#include <QImage>
 #include <QPoint>
 #include <QWidget>
 
@@ -90,7 +91,10 @@ private:
     [[nodiscard]] double PixelsPerPoint() const;
 
     Chart chart_;
+    [[nodiscard]] const QImage& CurrentPicture();
+
     std::optional<Scene> scene_;
+    QImage picture_; // of the scene; none while it is not painted
     double scenePixelsPerPoint_ = 0;
     bool repaint_ = true;
     ChartPart selected_;
