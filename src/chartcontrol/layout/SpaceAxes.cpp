@@ -102,7 +102,7 @@ private:
         const double top = std::max(CategoryPlace(0).y, CategoryPlace(count).y) + Gap(AxisId::X);
         CategoryLabelPlan labels = PlanCategoryLabels(
             {count, [&](int category) { return chart.CategoryName(category + 1); }, std::max(pitch, 1e-3),
-             std::max(12.0, box_.bottom - top - plan_.xTitle.Extent().height - 2)},
+             std::max(12.0, box_.bottom - top - plan_.xTitle.Extent().height)},
             AxisOf(AxisId::X).Labels.Item(1).VtFont, context_.measurer);
         const auto x = [&](int category) { return CategoryPlace(category + 0.5).x; };
         std::erase_if(labels.labels, [&](const CategoryLabelPlan::Label& label) {

@@ -23,9 +23,8 @@ SpacePlan PlanThatFits(const LayoutContext& context, const PlotDemand& demand, c
                        const Box& box) {
     for (const Furniture furniture : {Furniture::All, Furniture::NoTitles}) {
         SpacePlan plan = PlanSpace(context, demand, plotted, box, furniture);
-        const double width = std::abs(plan.Page({plan.size.x, 0, 0}).x - plan.Page({0, 0, plan.size.z}).x);
-        const double height = plan.Page({0, 0, 0}).y - plan.Page({0, plan.size.y, 0}).y;
-        if (width >= SmallestWidth && height >= SmallestHeight) return plan;
+        const Size extent = plan.Extent();
+        if (extent.width >= SmallestWidth && extent.height >= SmallestHeight) return plan;
     }
     context.builder.Warn(QStringLiteral("the chart is too small for its axes' labels"));
     return PlanSpace(context, demand, plotted, box, Furniture::None);

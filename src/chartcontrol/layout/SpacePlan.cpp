@@ -21,7 +21,9 @@ constexpr double WidestNameShare = 0.2;
 constexpr double LabelGapShare = 0.55;
 constexpr double TitleGapShare = 0.55;
 /// Room for the labels of the categories below the plot, as a part of the height.
-constexpr double LabelDepthShare = 0.2;
+constexpr double LabelDepthShare = 0.25;
+/// Rounds in which labels and space are fitted to each other.
+constexpr int MostRounds = 3;
 
 class Planner {
 public:
@@ -37,8 +39,13 @@ public:
         const double depth = plan_.rowDepth * static_cast<double>(plan_.rows.size());
         plan_.size = {1, 1, depth};
         PlanValues(0.6 * box_.Height());
-        const Box room = RoomForSpace();
-        FitHeight(room);
+        labelDepth_ = LabelDepth(0.7 * box_.Width() / std::max(1, context_.chart.CategoryCount()));
+        for (int round = 0; round < MostRounds; ++round) {
+            FitHeight(RoomForSpace());
+            const double needed = LabelDepth(CategoryPitch());
+            if (needed <= labelDepth_ + 0.01) break;
+            labelDepth_ = needed;
+        }
         PlanValues(plan_.size.y * plan_.scale);
         plan_.primaryMap = plan_.primary.Map(0, plan_.size.y);
         plan_.secondaryMap = plan_.secondary.Map(0, plan_.size.y);
@@ -131,7 +138,7 @@ private:
         plan_.view.assign(1, SpaceView(context_.chart.Plot, plan_.size));
         const double slope = plan_.CategorySlope();
         if (std::abs(slope) < LeastSlope) {
-            room.bottom -= LabelDepth() + gap;
+            room.bottom -= labelDepth_ + gap;
             return;
         }
         plan_.xLabelWidth = CategoryWidth();
@@ -163,12 +170,20 @@ private:
         return std::min(width, WidestNameShare * box_.Width());
     }
 
-    [[nodiscard]] double LabelDepth() const {
+    /// From one category to the next along their edge on the page.
+    [[nodiscard]] double CategoryPitch() const {
+        const double z = plan_.CategoryEdgeZ();
+        const double length = std::abs(plan_.Page({plan_.size.x, 0, z}).x - plan_.Page({0, 0, z}).x);
+        return length / std::max(1, context_.chart.CategoryCount());
+    }
+
+    /// How far the labels of the categories reach down when they stand so far apart.
+    [[nodiscard]] double LabelDepth(double pitch) const {
         const Font& font = AxisOf(AxisId::X).Labels.Item(1).VtFont;
         const Chart& chart = context_.chart;
         const CategoryLabelPlan labels = PlanCategoryLabels(
-            {chart.CategoryCount(), [&](int category) { return chart.CategoryName(category + 1); },
-             0.7 * box_.Width() / std::max(1, chart.CategoryCount()), LabelDepthShare * box_.Height()},
+            {chart.CategoryCount(), [&](int category) { return chart.CategoryName(category + 1); }, pitch,
+             LabelDepthShare * box_.Height()},
             font, context_.measurer);
         return labels.Depth();
     }
@@ -207,10 +222,23 @@ private:
     const PlotDemand& demand_;
     const PlottedValues& plotted_;
     Box box_;
+    double labelDepth_ = 0; // of the categories, below a level edge
     SpacePlan plan_;
 };
 
 } // namespace
+
+Size SpacePlan::Extent() const {
+    Box box{1e300, 1e300, -1e300, -1e300};
+    for (const double x : {0.0, size.x})
+        for (const double y : {0.0, size.y})
+            for (const double z : {0.0, size.z}) {
+                const Point corner = Page({x, y, z});
+                box = {std::min(box.left, corner.x), std::min(box.top, corner.y),
+                       std::max(box.right, corner.x), std::max(box.bottom, corner.y)};
+            }
+    return {box.Width(), box.Height()};
+}
 
 double SpacePlan::CategoryEdgeZ() const {
     const double front = Page({size.x / 2, 0, 0}).y;

@@ -44,6 +44,8 @@ struct SpacePlan {
         const Point flat = View().Flat(point);
         return {origin.x + flat.x * scale, origin.y + flat.y * scale};
     }
+    /// How large the whole space is on the page.
+    [[nodiscard]] Size Extent() const;
     /// The edges of the floor that carry the labels of the categories and of the rows: those lowest on the
     /// page.
     [[nodiscard]] double CategoryEdgeZ() const;
