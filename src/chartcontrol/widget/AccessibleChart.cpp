@@ -197,7 +197,10 @@ QRect AccessiblePart::rect() const {
         places += PixelOf(place);
     if (places.isEmpty()) return {};
     const int half = PointExtent / 2;
-    return places.boundingRect().toAlignedRect().adjusted(-half, -half, half + 1, half + 1).translated(corner);
+    return places.boundingRect()
+        .toAlignedRect()
+        .adjusted(-half, -half, half + 1, half + 1)
+        .translated(corner);
 }
 
 QAccessibleInterface* MakeAccessible(const QString& /*className*/, QObject* object) {
