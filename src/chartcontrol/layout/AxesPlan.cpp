@@ -24,8 +24,8 @@ public:
         plan_.showX = Shown(AxisId::X);
         plan_.showY = Shown(AxisId::Y);
         plan_.showSecondary = Shown(AxisId::SecondaryY);
-        for (int category = 1; category <= context.chart.CategoryCount() && !named_; ++category)
-            named_ = !context.chart.CategoryName(category).isEmpty();
+        const DataGrid& grid = context.chart.DataGrid;
+        named_ = context.chart.Plot.DataSeriesInRow ? grid.HasColumnLabels() : grid.HasRowLabels();
     }
 
     AxesPlan Run() {

@@ -9,12 +9,11 @@ namespace QmChart6 {
 namespace {
 
 void IncludeAll(ValueRange& range, const Values& values) {
-    if (values.blocks == nullptr) {
-        for (int i = 0; i < values.count; ++i) range.Include(values[i]);
+    if (values.whole != nullptr) {
+        range.Include(ValueRange{values.whole->low, values.whole->high});
         return;
     }
-    const int blocks = (values.count + ValueBlock::Size - 1) / ValueBlock::Size;
-    for (int i = 0; i < blocks; ++i) range.Include(ValueRange{values.blocks[i].low, values.blocks[i].high});
+    for (int i = 0; i < values.count; ++i) range.Include(values[i]);
 }
 
 void AddXY(PlotDemand& demand, const Chart& chart, int number) {

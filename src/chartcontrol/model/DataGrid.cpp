@@ -20,6 +20,12 @@ int CheckedCount(int count, const char* what) {
     return count;
 }
 
+/// Keeps count of the labels that are not empty.
+void SetLabel(QString& label, const QString& text, int& named) {
+    named += (text.isEmpty() ? 0 : 1) - (label.isEmpty() ? 0 : 1);
+    label = text;
+}
+
 QStringList Blank(int count) {
     QStringList labels;
     labels.resize(count);
@@ -57,12 +63,14 @@ const QString& DataGrid::ColumnLabel(int column) const {
 
 void DataGrid::SetRowLabel(int row, const QString& label) {
     RequireRow(row);
-    Write().rowLabels[row - 1] = label;
+    Table& table = Write();
+    SetLabel(table.rowLabels[row - 1], label, table.namedRows);
 }
 
 void DataGrid::SetColumnLabel(int column, const QString& label) {
     RequireColumn(column);
-    Write().columnLabels[column - 1] = label;
+    Table& table = Write();
+    SetLabel(table.columnLabels[column - 1], label, table.namedColumns);
 }
 
 double DataGrid::Value(int row, int column) const {
@@ -86,8 +94,10 @@ Values DataGrid::ColumnWithBlocks(int column) const {
     Summary& summary = *table_->summaries[static_cast<std::size_t>(column) - 1];
     std::call_once(summary.made, [&] {
         summary.blocks = BlocksOf({values.first, static_cast<std::size_t>(values.count)});
+        summary.whole = ExtremesOf(summary.blocks);
     });
     values.blocks = summary.blocks.data();
+    values.whole = &summary.whole;
     values.cache = &summary.cache;
     return values;
 }
@@ -98,7 +108,7 @@ void DataGrid::Summarize() const {
 
 Values DataGrid::Row(int row) const {
     RequireRow(row);
-    return {table_->values.data() + (row - 1), table_->rows, table_->columns, nullptr, nullptr};
+    return {table_->values.data() + (row - 1), table_->rows, table_->columns, {}, {}, {}};
 }
 
 std::span<double> DataGrid::WritableColumn(int column) {

@@ -22,6 +22,8 @@ struct Values {
     int count = 0;
     /// The extremes by blocks, where they are known.
     const ValueBlock* blocks = nullptr;
+    /// The extremes of all of them, where they are known.
+    const ValueBlock* whole = nullptr;
     /// Where runs picked of these values are kept, if anywhere.
     RunsCache* cache = nullptr;
 
@@ -46,6 +48,9 @@ public:
     // A row or column outside the grid raises error 9 in all of these.
     [[nodiscard]] const QString& RowLabel(int row) const;
     [[nodiscard]] const QString& ColumnLabel(int column) const;
+    /// Whether any row, or column, has a label that is not empty.
+    [[nodiscard]] bool HasRowLabels() const { return table_->namedRows > 0; }
+    [[nodiscard]] bool HasColumnLabels() const { return table_->namedColumns > 0; }
     void SetRowLabel(int row, const QString& label);
     void SetColumnLabel(int column, const QString& label);
     [[nodiscard]] double Value(int row, int column) const;
@@ -69,6 +74,7 @@ private:
     struct Summary {
         std::once_flag made;
         std::vector<ValueBlock> blocks;
+        ValueBlock whole;
         RunsCache cache;
     };
     struct Table {
@@ -76,6 +82,8 @@ private:
         int columns = 0;
         QStringList rowLabels;
         QStringList columnLabels;
+        int namedRows = 0; // labels that are not empty
+        int namedColumns = 0;
         std::vector<double> values;                      // by column
         std::vector<std::shared_ptr<Summary>> summaries; // by column
     };

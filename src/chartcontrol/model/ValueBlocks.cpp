@@ -23,4 +23,13 @@ std::vector<ValueBlock> BlocksOf(std::span<const double> values) {
     return blocks;
 }
 
+ValueBlock ExtremesOf(std::span<const ValueBlock> blocks) {
+    ValueBlock whole{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+    for (const ValueBlock& block : blocks) {
+        whole.low = std::min(whole.low, block.low);
+        whole.high = std::max(whole.high, block.high);
+    }
+    return whole;
+}
+
 } // namespace QmChart6

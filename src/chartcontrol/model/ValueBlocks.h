@@ -17,4 +17,7 @@ struct ValueBlock {
 /// The blocks of a column: values 0 to 7, 8 to 15 and so on; the last may be short.
 std::vector<ValueBlock> BlocksOf(std::span<const double> values);
 
+/// The extremes of all blocks.
+ValueBlock ExtremesOf(std::span<const ValueBlock> blocks);
+
 } // namespace QmChart6
