@@ -59,7 +59,7 @@ std::optional<QByteArray> WholePart(const QByteArray& text, const NumberStyle& s
 QByteArray TakeExponent(QByteArray& number) {
     const qsizetype place = number.toLower().indexOf('e');
     if (place < 0) return {};
-    const QByteArray exponent = number.sliced(place);
+    QByteArray exponent = number.sliced(place);
     number.truncate(place);
     return exponent;
 }

@@ -73,7 +73,7 @@ QByteArray ReadInput(const QString& fileName) {
 
 QByteArray ToUtf8Text(const QByteArray& bytes) {
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF")) return FromUtf16(bytes);
-    const QByteArray text = bytes.startsWith("\xEF\xBB\xBF") ? bytes.sliced(3) : bytes;
+    QByteArray text = bytes.startsWith("\xEF\xBB\xBF") ? bytes.sliced(3) : bytes;
     RequireUtf8(text);
     return text;
 }

@@ -37,8 +37,9 @@ void CategoryGrid(const LayoutContext& context, const AxesPlan& plan) {
     const int stride = area.slot >= ClosestGrid ? 1 : std::max(1, plan.categories.stride);
     if (stride * area.slot < ClosestGrid) return;
     const double edge = area.firstX > area.box.left ? area.box.left : area.firstX;
-    for (double x = edge; x <= area.box.right + 1e-6; x += stride * area.slot)
-        GridAt(context, AxisId::X, area.box, x);
+    const double pitch = stride * area.slot;
+    const int lines = static_cast<int>((area.box.right + 1e-6 - edge) / pitch);
+    for (int line = 0; line <= lines; ++line) GridAt(context, AxisId::X, area.box, edge + line * pitch);
 }
 
 void AxisLine(const LayoutContext& context, AxisId id, Point from, Point to) {

@@ -129,8 +129,7 @@ private:
         }
         const double names = (room_.width + grid_.columnGap) / columns - grid_.columnGap - grid_.symbolWidth;
         if (grid_.Extent().width <= room_.width) return;
-        for (std::size_t i = 0; i < grid_.entries.size(); ++i) {
-            Entry& entry = grid_.entries[i];
+        for (Entry& entry : grid_.entries) {
             entry.name = Elide(entry.name, Font(), names, context_.measurer);
             entry.width = context_.measurer.Measure(entry.name, Font()).width;
         }
@@ -174,7 +173,8 @@ void PlaceGrid(const LayoutContext& context, const LegendGrid& grid, const Box& 
     double left = cell.left;
     for (int column = 0; column < grid.Columns(); ++column) {
         for (int row = 0; row < grid.rows; ++row) {
-            const auto index = static_cast<std::size_t>(column * grid.rows + row);
+            const std::size_t index = static_cast<std::size_t>(column) * static_cast<std::size_t>(grid.rows) +
+                                      static_cast<std::size_t>(row);
             if (index >= grid.entries.size()) return;
             const Entry& entry = grid.entries[index];
             const double top = cell.top + row * grid.rowHeight;

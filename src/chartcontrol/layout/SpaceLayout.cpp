@@ -89,8 +89,12 @@ private:
             ++omitted_;
             return;
         }
-        PlaceText(context_.builder, {PartCode::PointLabel, number, category + 1}, block, place,
-                  HorizontalAlignment::Center, VerticalAlignment::Center);
+        // A plate in the ground's colour: whatever mark lies behind, the label is read.
+        const Part part{PartCode::PointLabel, number, category + 1};
+        context_.builder.AddRectangle(part, place, SolidFill(context_.chart.Backdrop.Fill.Brush.FillColor),
+                                      {}, false);
+        PlaceText(context_.builder, part, block, place, HorizontalAlignment::Center,
+                  VerticalAlignment::Center);
     }
 
     const LayoutContext& context_;

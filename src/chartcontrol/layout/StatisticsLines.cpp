@@ -26,6 +26,9 @@ Statistics StatisticsOf(const Chart& chart, int number) {
     return statistics;
 }
 
+/// How much wider the rim of a statistics line is than the line, in points.
+constexpr double Rim = 1.5;
+
 class SeriesLines {
 public:
     SeriesLines(const PlotContext& context, int number)
@@ -52,8 +55,14 @@ private:
                                                                    : area.CategoryX(0) + (x - 1) * area.slot;
     }
     void Add(Point from, Point to, PenStyle style) {
-        context_.builder.AddLine({PartCode::Series, number_}, from, to, {style, line_.Width, line_.VtColor},
-                                 false);
+        const Part part{PartCode::Series, number_};
+        // On bars and areas of its own colour the line would not be seen without a rim.
+        const Colour ground = context_.chart.Backdrop.Fill.Brush.FillColor;
+        const MarkKind kind = MarkKindOf(context_.chart, number_);
+        const bool onFaces = kind == MarkKind::Bar || kind == MarkKind::Area;
+        if (onFaces)
+            context_.builder.AddLine(part, from, to, {PenStyle::Solid, line_.Width + Rim, ground}, false);
+        context_.builder.AddLine(part, from, to, {style, line_.Width, line_.VtColor}, false);
     }
     void Level(double value, PenStyle style) {
         const double y = context_.Y(number_, value);

@@ -67,7 +67,7 @@ public:
 
     void Paragraph(const QString& paragraph) {
         QString line;
-        for (QString word : paragraph.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        for (const QString& word : paragraph.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
             if (Full()) {
                 block_.elided = true;
                 return;

@@ -16,7 +16,9 @@ struct DashPattern {
     std::size_t count = 0;
 
     [[nodiscard]] double Total() const { return std::accumulate(lengths.begin(), lengths.end(), 0.0); }
-    [[nodiscard]] std::span<const double> Lengths() const { return {lengths.data(), count}; }
+    /// Good as long as the pattern is: not to be asked of a temporary one.
+    [[nodiscard]] std::span<const double> Lengths() const& { return {lengths.data(), count}; }
+    std::span<const double> Lengths() const&& = delete;
 };
 
 /// The pattern of a pen that is not solid; dots are as long as the line is wide.

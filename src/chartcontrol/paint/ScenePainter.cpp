@@ -94,10 +94,10 @@ QPen ScenePainter::PenOf(const Stroke& stroke, Qt::PenJoinStyle join) const {
     QPen pen(QtColourOf(stroke.colour), stroke.width * scale_, Qt::SolidLine, Qt::FlatCap, join);
     if (!raster_ && stroke.width <= 0) pen.setWidthF(0);
     if (IsDashed(stroke.style) && stroke.width > 0) {
-        QList<qreal> dashes;
-        for (const double length : DashesOf(stroke.style, stroke.width).Lengths())
-            dashes += length / stroke.width;
-        pen.setDashPattern(dashes);
+        const DashPattern dashes = DashesOf(stroke.style, stroke.width);
+        QList<qreal> lengths;
+        for (const double length : dashes.Lengths()) lengths += length / stroke.width;
+        pen.setDashPattern(lengths);
     }
     return pen;
 }

@@ -214,8 +214,8 @@ private:
                           Number(stroke.width) + "\" stroke-linejoin=\"round\"";
         if (IsDashed(stroke.style)) {
             QByteArray lengths;
-            for (const double length : DashesOf(stroke.style, stroke.width).Lengths())
-                lengths += Number(length) + ' ';
+            const DashPattern dashes = DashesOf(stroke.style, stroke.width);
+            for (const double length : dashes.Lengths()) lengths += Number(length) + ' ';
             lengths.chop(1);
             text += " stroke-dasharray=\"" + lengths + '"';
         }
