@@ -14,8 +14,8 @@ namespace QmChart6 {
 
 namespace {
 
-/// Vectors are laid out as finely as good printers draw.
-constexpr double VectorPixelsPerPoint = 600.0 / 72;
+/// Vectors show large data as the screen does at its usual resolution: the same picture in every format.
+constexpr double VectorPixelsPerPoint = 1 / PointsPerPixel;
 
 } // namespace
 

@@ -225,7 +225,11 @@ private:
     /// A shape with its inside: plain, or ground, pattern and rim one after the other.
     void Filled(const char* name, const QByteArray& geometry, std::span<const Point> outline) {
         const SceneFill& fill = shape_->fill;
-        const QByteArray crisp = shape_->crisp ? " shape-rendering=\"crispEdges\"" : "";
+        // Readers that keep edges crisp leave out what is thinner than a pixel.
+        constexpr double thinnestCrisp = 2;
+        const bool broad =
+            shape_->bounds.Width() >= thinnestCrisp && shape_->bounds.Height() >= thinnestCrisp;
+        const QByteArray crisp = shape_->crisp && broad ? " shape-rendering=\"crispEdges\"" : "";
         if (fill.style != BrushStyle::Pattern && fill.style != BrushStyle::Hatch) {
             const bool none = fill.style == BrushStyle::None;
             if (none && shape_->stroke.style == PenStyle::None) return;
