@@ -18,7 +18,7 @@ struct DashPattern {
     [[nodiscard]] double Total() const { return std::accumulate(lengths.begin(), lengths.end(), 0.0); }
     /// Good as long as the pattern is: not to be asked of a temporary one.
     [[nodiscard]] std::span<const double> Lengths() const& { return {lengths.data(), count}; }
-    std::span<const double> Lengths() const&& = delete;
+    [[nodiscard]] std::span<const double> Lengths() const&& = delete;
 };
 
 /// The pattern of a pen that is not solid; dots are as long as the line is wide.

@@ -12,6 +12,8 @@ namespace {
 constexpr double LargestArea = 1e6;
 /// An edge may touch one pixel beyond the bounds.
 constexpr int Rim = 2;
+/// What a whole pixel counts; a little more than 256, so that sums that miss the whole by rounding are whole.
+constexpr float FullCoverage = 256.4F;
 
 Box BoundsOf(std::span<const Point> outline, double grownBy) {
     Box box{1e300, 1e300, -1e300, -1e300};
@@ -112,7 +114,7 @@ void PixelPolygon::Edge(Place from, Place to) {
 
 /// Spreads the area to the right of a piece of an edge over the pixels of its row.
 void PixelPolygon::EdgeInRow(int row, float from, float to, float height) {
-    const float most = static_cast<float>(width_ - Rim);
+    const auto most = static_cast<float>(width_ - Rim);
     const float low = std::clamp(std::min(from, to), 0.0F, most);
     const float high = std::clamp(std::max(from, to), 0.0F, most);
     const int first = static_cast<int>(low);
@@ -177,7 +179,7 @@ void PixelPolygon::Sweep(Colour colour) {
         for (int pixel = touched.first; pixel <= touched.last; ++pixel) {
             sum += sums[pixel];
             sums[pixel] = 0;
-            const auto coverage = static_cast<unsigned>(std::min(1.0F, std::abs(sum)) * 256 + 0.5F);
+            const auto coverage = static_cast<unsigned>(std::min(1.0F, std::abs(sum)) * FullCoverage);
             if (coverage >= 256)
                 line[pixel] = rgb;
             else if (coverage > 0)
