@@ -13,7 +13,7 @@ namespace {
 
 void AddOptions(QCommandLineParser& parser) {
     for (const char* name : {"id", "title", "row-title", "column-title", "value-title", "language", "config",
-                             "use-config", "separator"})
+                             "use-config", "separator", "look", "size", "as"})
         parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
     for (const char* name : {"no-header", "no-row-labels", "version"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
@@ -47,8 +47,14 @@ std::int16_t LanguageOf(const QCommandLineParser& parser) {
                              std::pair{"es", charts.QmChSpanish()}, std::pair{"it", charts.QmChItalian()}});
 }
 
+/// A look that is named is used, with the caller's titles where nothing else is said.
 std::uint8_t UseConfigOf(const QCommandLineParser& parser) {
     const QMChartArray charts;
+    const bool look = parser.isSet(QStringLiteral("look"));
+    if (look && !parser.isSet(QStringLiteral("use-config")))
+        return static_cast<std::uint8_t>(charts.QmChNoTitles());
+    if (look && Given(parser, "use-config") == QLatin1String("no"))
+        throw UsageError(QStringLiteral("--look gives a look that --use-config no refuses"));
     return static_cast<std::uint8_t>(
         Choice(parser, "use-config",
                std::array{std::pair{"no", charts.QmChNo()}, std::pair{"no-titles", charts.QmChNoTitles()},
@@ -69,20 +75,38 @@ std::optional<char> SeparatorOf(const QCommandLineParser& parser) {
     return character.toLatin1();
 }
 
-/// The configuration folder is a text that a file name is put right behind.
 std::optional<QString> FolderOf(const QCommandLineParser& parser) {
-    std::optional<QString> folder = Given(parser, "config");
-    if (folder && folder->isEmpty()) throw UsageError(QStringLiteral("--config takes a folder"));
-    if (folder && !folder->endsWith(u'/')) folder->append(u'/');
-    return folder;
+    const std::optional<QString> folder = Given(parser, "config");
+    if (!folder) return std::nullopt;
+    if (folder->isEmpty()) throw UsageError(QStringLiteral("--config takes a folder"));
+    return AsFolder(*folder);
+}
+
+std::optional<QSize> SizeOf(const QCommandLineParser& parser) {
+    const std::optional<QString> given = Given(parser, "size");
+    if (!given) return std::nullopt;
+    const QStringList sides = given->split(u'x');
+    bool isWidth = false;
+    bool isHeight = false;
+    const QSize size(sides.value(0).toInt(&isWidth), sides.value(1).toInt(&isHeight));
+    if (sides.size() != 2 || !isWidth || !isHeight || size.isEmpty())
+        throw UsageError(
+            QStringLiteral("--size takes two numbers of pixels, such as 800x500, not \"%1\"").arg(*given));
+    return size;
 }
 
 /// The command's word and its operands.
 void ReadOperands(const QStringList& operands, CommandLine& line) {
-    if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing: show or save"));
+    if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing: show, save or config"));
     const QString& word = operands.front();
+    if (word == QLatin1String("config")) {
+        line.command = Command::Config;
+        line.operands = operands.mid(1);
+        return;
+    }
     if (word != QLatin1String("show") && word != QLatin1String("save"))
-        throw UsageError(QStringLiteral("there is no command \"%1\"; there are show and save").arg(word));
+        throw UsageError(
+            QStringLiteral("there is no command \"%1\"; there are show, save and config").arg(word));
     line.command = word == QLatin1String("show") ? Command::Show : Command::Save;
     const bool saves = line.command == Command::Save;
     if (operands.size() != (saves ? 3 : 2))
@@ -97,6 +121,10 @@ void ReadOperands(const QStringList& operands, CommandLine& line) {
 }
 
 } // namespace
+
+QString AsFolder(const QString& folder) {
+    return folder.endsWith(u'/') ? folder : folder + u'/';
+}
 
 UsageError::UsageError(const QString& text) : std::runtime_error(text.simplified().toStdString()) {}
 
@@ -119,6 +147,9 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.language = LanguageOf(parser);
     line.useConfig = UseConfigOf(parser);
     line.configFolder = FolderOf(parser);
+    line.look = Given(parser, "look");
+    line.size = SizeOf(parser);
+    line.importName = Given(parser, "as");
     line.separator = SeparatorOf(parser);
     line.hasHeader = !parser.isSet(QStringLiteral("no-header"));
     line.hasRowLabels = !parser.isSet(QStringLiteral("no-row-labels"));
@@ -129,6 +160,7 @@ QString HelpText() {
     return QStringLiteral(R"(Usage:
   qmchart show TABLE [OPTION ...]          show the chart of a table until its window is closed
   qmchart save TABLE PICTURE [OPTION ...]  save its picture and print the file's name
+  qmchart config COMMAND [--config FOLDER] look after stored looks, see below
   qmchart --help | --version
 
 TABLE is a file of separated values, or - for the standard input: one row to a category, one column to a
@@ -143,13 +175,27 @@ Options:
   --column-title TEXT     the series' title
   --value-title TEXT      the values' title
   --language LANGUAGE     en, pt, es or it: the window's language; pictures have none
-  --config FOLDER         the folder of the stored looks
+  --config FOLDER         the folder of the stored looks, or postgresql://USER@HOST:PORT/DATABASE
   --use-config USE        no, no-titles or yes: use the look stored for the graph id
+  --look LOOK             use this look: a stored one's name, or a file LOOK.json
+  --size WIDTHxHEIGHT     the chart's size in pixels (default: as the look's window has it)
   --separator CHARACTER   what separates the cells, or the word tab (default: found out)
   --no-header             the first line is numbers already
   --no-row-labels         the first column is numbers already
   -h, --help              this text
   --version               the version
+
+Commands of config:
+  init FOLDER             make the empty store in a folder, or in a database that is there
+  list                    the looks' names
+  show NAME               a look as JSON
+  delete NAME             delete a look and what is bound to it
+  bind ID NAME            bind a graph id to a look
+  bindings                the graph ids and their looks, a tab between
+  copy FROM TO            copy a whole store into another that is there
+  export NAME LOOK.json   write a look to a file
+  import LOOK.json        store a look from a file, or from - for the standard input
+    --as NAME             under this name (default: the one in the file)
 
 Exit status: 0 done, 1 failed, 2 not understood.
 )");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -9,7 +10,7 @@
 
 namespace QmChart6 {
 
-enum class Command { Help, Version, Show, Save };
+enum class Command { Help, Version, Show, Save, Config };
 
 /// What the command line asks for. Texts that are not given have their defaults elsewhere.
 struct CommandLine {
@@ -24,6 +25,10 @@ struct CommandLine {
     std::int16_t language = 0;  ///< as QMChartArray numbers them
     std::uint8_t useConfig = 0; ///< likewise
     std::optional<QString> configFolder;
+    std::optional<QString> look;       ///< a stored look's name, or a file that ends in .json
+    std::optional<QSize> size;         ///< of the chart, in pixels
+    QStringList operands;              ///< Config only: its command, and what that takes
+    std::optional<QString> importName; ///< what an imported look is called
     std::optional<char> separator;
     bool hasHeader = true;
     bool hasRowLabels = true;
@@ -37,6 +42,9 @@ public:
 
 /// Understands the arguments, the program's own name first. Raises UsageError. Needs no application object.
 CommandLine ParseCommandLine(const QStringList& arguments);
+
+/// A folder as hosts give it: the text that a file name is put right behind.
+QString AsFolder(const QString& folder);
 
 /// What --help prints.
 QString HelpText();

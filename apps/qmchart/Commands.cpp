@@ -1,9 +1,11 @@
 #include "qmchart/Commands.h"
 
+#include "qmchart/ConfigCommands.h"
 #include "qmchart/InputText.h"
 #include "qmchart/TableReader.h"
 
 #include "qmchart6/Host.h"
+#include "qmchart6/Looks.h"
 #include "qmchart6/QMChartArray.h"
 
 #include <QFileInfo>
@@ -34,9 +36,12 @@ TitledTable ReadTitledTable(const CommandLine& line) {
     return titled;
 }
 
-QMChartArray Charts(const CommandLine& line) {
+/// What makes charts as the command line wants them.
+QMChartArray Charts(const CommandLine& line, const TitledTable& titled) {
     QMChartArray charts;
     if (line.configFolder) charts.SetQmChartConfigPath(*line.configFolder);
+    if (line.size) SetChartSize(line.size->width(), line.size->height());
+    UseNamedLook(line, titled.id);
     return charts;
 }
 
@@ -47,9 +52,10 @@ QString Show(const CommandLine& line) {
                            QStringLiteral("there is no display to show a chart on; \"qmchart save\" makes a "
                                           "picture without one"));
     const Table& table = titled.table;
-    Charts(line).QmMakeGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels,
-                             table.columnLabels, titled.title, titled.rowTitle, line.columnTitle,
-                             line.valueTitle, line.language, line.useConfig);
+    Charts(line, titled)
+        .QmMakeGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
+                     titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.language,
+                     line.useConfig);
     RunUntilViewersAreClosed();
     return {};
 }
@@ -58,9 +64,10 @@ QString Save(const CommandLine& line) {
     const TitledTable titled = ReadTitledTable(line);
     const Table& table = titled.table;
     QString picture = line.picture;
-    Charts(line).QmSaveGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels,
-                             table.columnLabels, titled.title, titled.rowTitle, line.columnTitle,
-                             line.valueTitle, line.useConfig, picture);
+    Charts(line, titled)
+        .QmSaveGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
+                     titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.useConfig,
+                     picture);
     return picture + u'\n';
 }
 
@@ -83,6 +90,8 @@ QString RunCommand(const CommandLine& line) {
         return Show(line);
     case Command::Save:
         return Save(line);
+    case Command::Config:
+        return RunConfigCommand(line);
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "automation/GraphFlows.h"
 
+#include "automation/ChartSize.h"
 #include "automation/FillChartData.h"
 #include "automation/ViewerList.h"
 #include "chart/ValueLabelFormat.h"
@@ -67,6 +68,7 @@ ViewerPointer ViewerForOutput(const ChartRequest& request) {
     ViewerPointer viewer = LoadedViewer(request);
     viewer->setWindowTitle(viewer->GraphId() + QStringLiteral(" - Graph Viewer"));
     if (request.useConfig != UseConfig::No) LoadLook(*viewer, request.useConfig);
+    ApplySizeOfNewCharts(*viewer);
     return viewer;
 }
 
@@ -81,8 +83,10 @@ void MakeGraph(const ChartRequest& request, const Variant& language) {
     ComputeValueLabelFormat(request.data, request.rows, request.columns);
     if (request.useConfig != UseConfig::No) {
         LoadLook(*viewer, request.useConfig);
+        ApplySizeOfNewCharts(*viewer);
         viewer->ShowViewer();
     } else {
+        ApplySizeOfNewCharts(*viewer);
         ApplyDefaultLook(*viewer);
     }
     viewer->SyncControlBar();

@@ -16,6 +16,8 @@ QString Sentence(ErrorNumber number) {
         return QStringLiteral("Type mismatch");
     case ErrorNumber::FileNotFound:
         return QStringLiteral("File not found");
+    case ErrorNumber::FileAlreadyExists:
+        return QStringLiteral("File already exists");
     case ErrorNumber::DiskFull:
         return QStringLiteral("Disk full");
     case ErrorNumber::PermissionDenied:
@@ -28,6 +30,8 @@ QString Sentence(ErrorNumber number) {
         return QStringLiteral("Object variable not set");
     case ErrorNumber::InvalidUseOfNull:
         return QStringLiteral("Invalid use of Null");
+    case ErrorNumber::InvalidFileFormat:
+        return QStringLiteral("Invalid file format");
     case ErrorNumber::ResourceNotFound:
         return QStringLiteral("Resource not found");
     case ErrorNumber::InvalidPropertyValue:
@@ -38,6 +42,12 @@ QString Sentence(ErrorNumber number) {
         return QStringLiteral("Printer error");
     case ErrorNumber::IndexNotFound:
         return QStringLiteral("Index not found");
+    case ErrorNumber::NoCurrentIndex:
+        return QStringLiteral("No current index");
+    case ErrorNumber::UpdateWithoutEdit:
+        return QStringLiteral("Update without AddNew or Edit");
+    case ErrorNumber::NoCurrentRecord:
+        return QStringLiteral("No current record");
     case ErrorNumber::DuplicateKey:
         return QStringLiteral("Duplicate key");
     case ErrorNumber::DatabaseFileNotFound:
@@ -48,6 +58,12 @@ QString Sentence(ErrorNumber number) {
         return QStringLiteral("Locked by another user");
     case ErrorNumber::TableNotFound:
         return QStringLiteral("Table not found");
+    case ErrorNumber::DatabaseRefused:
+        return QStringLiteral("The database refused");
+    case ErrorNumber::ServerNotReached:
+        return QStringLiteral("The database server cannot be reached");
+    case ErrorNumber::RecordDeleted:
+        return QStringLiteral("Record is deleted");
     case ErrorNumber::FieldNotFound:
         return QStringLiteral("Field not found");
     case ErrorNumber::NotADatabase:

@@ -19,8 +19,8 @@ void SetConfigurationFolder(const QString& folder) {
     Folder() = folder;
 }
 
-QString ConfigurationFileName() {
-    return Folder() + QStringLiteral("QmConfig.mdb");
+QString ConfigurationFileName(const QString& folder) {
+    return folder + QStringLiteral("QmConfig.mdb");
 }
 
 } // namespace QmChart6

@@ -8,7 +8,8 @@ namespace QmChart6 {
 const QString& ConfigurationFolder();
 void SetConfigurationFolder(const QString& folder);
 
-/// The configuration database: the folder's text with "QmConfig.mdb" right behind it, no separator between.
-QString ConfigurationFileName();
+/// A configuration database: the folder's text with "QmConfig.mdb" right behind it, no separator between. A
+/// folder may be "postgresql://user@host:port/database/" too.
+QString ConfigurationFileName(const QString& folder = ConfigurationFolder());
 
 } // namespace QmChart6

@@ -1,43 +1,94 @@
 #include "config/ConfigurationStore.h"
 
 #include "chartcontrol/widget/ChartControl.h"
+#include "config/Catalogue.h"
+#include "config/ConfigurationFolder.h"
+#include "config/ConfigurationSchema.h"
+#include "config/LookOverride.h"
+#include "config/StoredLook.h"
 #include "config/Viewer.h"
-#include "desktop/Desktop.h"
-#include "qmchart6/RuntimeError.h"
+#include "desktop/ShowErrors.h"
+#include "text/LocalText.h"
 
 namespace QmChart6 {
 
 namespace {
 
-ConfigurationStore* installedStore = nullptr;
+constexpr int SavedKey = 119;
 
-void TellThatThereIsNoStore(Viewer& viewer) {
-    const RuntimeError error(ErrorNumber::ActionNotSupported,
-                             QStringLiteral("this build keeps no stored looks"));
-    CurrentDesktop().ShowMessage(viewer.ChartImage().window(), error.Message(), QString(),
-                                 MessageButtons::Ok);
+QWidget* OwnerOf(Viewer& viewer) {
+    return viewer.ChartImage().window();
+}
+
+void Save(Viewer& viewer) {
+    Database database(ConfigurationFileName(), ConfigurationSchema());
+    const QString name = viewer.QmConfig();
+    StoredLook look(database, name);
+    BindChartToConfiguration(viewer, name);
+    Database::Writing writing(database, ChartLook().name);
+    CaptureLook(viewer, look);
+    writing.Finish();
+}
+
+/// False where there is no such look. Nothing runs events meanwhile: others wait for what is read.
+bool Load(Viewer& viewer, const QString& name, bool loadTitles) {
+    Database database(ConfigurationFileName(), ConfigurationSchema());
+    StoredLook look(database, name);
+    const Database::Reading reading(database);
+    return ApplyLook(viewer, look, loadTitles);
 }
 
 } // namespace
 
-void InstallConfigurationStore(ConfigurationStore* store) {
-    installedStore = store;
+void SaveConfiguration(Viewer& viewer) {
+    ShowErrors(OwnerOf(viewer), [&] {
+        Save(viewer);
+        viewer.SetStatus(LocalText(SavedKey));
+    });
 }
 
-void SaveConfiguration(Viewer& viewer) {
-    if (installedStore != nullptr)
-        installedStore->SaveConfiguration(viewer);
-    else
-        TellThatThereIsNoStore(viewer);
+void LoadConfiguration(Viewer& viewer, const QString& name, bool loadTitles) {
+    ShowErrors(OwnerOf(viewer), [&] {
+        if (!Load(viewer, name, loadTitles)) ApplyDefaultLook(viewer);
+    });
 }
 
 void LoadChartConfiguration(Viewer& viewer, bool loadTitles) {
-    if (installedStore != nullptr) {
-        installedStore->LoadChartConfiguration(viewer, loadTitles);
-    } else {
-        TellThatThereIsNoStore(viewer);
-        ApplyDefaultLook(viewer);
-    }
+    ShowErrors(OwnerOf(viewer), [&] {
+        if (ApplyLookOverride(viewer, loadTitles)) return;
+        const std::optional<QString> name = BoundLook(ConfigurationFileName(), viewer.GraphId());
+        if (!name) {
+            ApplyDefaultLook(viewer);
+            return;
+        }
+        viewer.SetQmConfig(*name);
+        LoadConfiguration(viewer, *name, loadTitles);
+    });
+}
+
+void BindChartToConfiguration(Viewer& viewer, const QString& name) {
+    ShowErrors(OwnerOf(viewer), [&] {
+        viewer.SetQmConfig(name);
+        BindLook(ConfigurationFileName(), viewer.GraphId(), viewer.QmConfig());
+    });
+}
+
+void DeleteConfiguration(const QString& name) {
+    ShowErrors(nullptr, [&] { DeleteLook(ConfigurationFileName(), name); });
+}
+
+ConfigurationList FillConfigurationList(const QString& current) {
+    ConfigurationList list;
+    ShowErrors(nullptr, [&] { ListLooks(ConfigurationFileName(), list.names); });
+    for (qsizetype i = 0; i < list.names.size(); ++i)
+        if (EqualNames(list.names[i], current)) list.selected = static_cast<int>(i);
+    return list;
+}
+
+bool ConfigurationExists(const QString& name) {
+    bool exists = false;
+    ShowErrors(nullptr, [&] { exists = LookExists(ConfigurationFileName(), name); });
+    return exists;
 }
 
 } // namespace QmChart6

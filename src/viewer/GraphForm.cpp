@@ -4,10 +4,10 @@
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationStore.h"
 #include "desktop/Desktop.h"
+#include "desktop/ShowErrors.h"
 #include "qmchart6/RuntimeError.h"
 #include "text/LocalText.h"
 #include "viewer/PrintChart.h"
-#include "viewer/ShowErrors.h"
 #include "viewer/Snapshot.h"
 #include "viewer/ViewerLayout.h"
 #include "viewer/ViewerMenu.h"
@@ -166,6 +166,7 @@ int GraphForm::Height() const {
 
 void GraphForm::SetHeight(int twips) {
     resize(width(), PixelsOfTwips(qMax(0, twips - NominalFrameHeight)));
+    PlaceParts(); // a window that is not shown hears of its size too late
 }
 
 int GraphForm::Width() const {
@@ -174,6 +175,7 @@ int GraphForm::Width() const {
 
 void GraphForm::SetWidth(int twips) {
     resize(PixelsOfTwips(qMax(0, twips - NominalFrameWidth)), height());
+    PlaceParts();
 }
 
 bool GraphForm::ControlBar() const {

@@ -1,0 +1,136 @@
+#include "qmchart6/Looks.h"
+
+#include "automation/ChartSize.h"
+#include "chart/DefaultLook.h"
+#include "chartcontrol/widget/ChartControl.h"
+#include "config/Catalogue.h"
+#include "config/ConfigurationFolder.h"
+#include "config/ConfigurationSchema.h"
+#include "config/LookJson.h"
+#include "config/LookOverride.h"
+#include "config/StoredLook.h"
+#include "database/CreateDatabase.h"
+#include "desktop/Application.h"
+#include "viewer/GraphForm.h"
+
+#include <algorithm>
+
+namespace QmChart6 {
+
+namespace {
+
+void RequireLook(const QString& location, const QString& name) {
+    if (!LookExists(location, name))
+        throw RuntimeError(ErrorNumber::ResourceNotFound,
+                           QStringLiteral("there is no look named \"%1\"").arg(name));
+}
+
+int GreatestNumber(const Look& look) {
+    int greatest = 1;
+    for (const LookTable* table : {&ColumnsLook(), &SeriesLook()})
+        if (!look.Of(*table).empty()) greatest = std::max(greatest, look.Of(*table).rbegin()->first);
+    return greatest;
+}
+
+/// The look with all of its fields: those left out are as a chart has them that is given the others. Raises
+/// what the chart raises.
+Look Complete(Look look) {
+    RequireFirstThread();
+    EnsureApplication();
+    GraphForm form;
+    Chart& chart = form.ChartImage().Model();
+    const int size = GreatestNumber(look);
+    chart.SetGridSize(size, size); // as many series either way
+    ApplyDefaultLook(chart);
+    ApplyLook(form, look, true);
+    Look complete;
+    CaptureLook(form, complete);
+    for (const LookTable* table : {&ColumnsLook(), &SeriesLook()})
+        std::erase_if(complete.Of(*table),
+                      [&](const auto& record) { return !look.Of(*table).contains(record.first); });
+    return complete;
+}
+
+Look ReadStored(const QString& location, const QString& name) {
+    Database database(location, ConfigurationSchema());
+    const Database::Reading reading(database);
+    return ReadLook(database, name);
+}
+
+} // namespace
+
+void CreateLookStore(const QString& folder) {
+    CreateDatabase(ConfigurationFileName(folder), ConfigurationSchema());
+}
+
+QStringList LookNames(const QString& folder) {
+    QStringList names;
+    ListLooks(ConfigurationFileName(folder), names);
+    return names;
+}
+
+void DeleteStoredLook(const QString& folder, const QString& name) {
+    const QString location = ConfigurationFileName(folder);
+    RequireLook(location, name);
+    DeleteLook(location, name);
+}
+
+QList<GraphBinding> GraphBindings(const QString& folder) {
+    QList<GraphBinding> bindings;
+    for (const LookBinding& binding : LookBindings(ConfigurationFileName(folder)))
+        bindings.append({binding.graphId, binding.name});
+    return bindings;
+}
+
+void BindGraph(const QString& folder, const QString& graphId, const QString& name) {
+    const QString location = ConfigurationFileName(folder);
+    RequireLook(location, name);
+    BindLook(location, graphId.trimmed().toUpper(), name);
+}
+
+QByteArray ExportLook(const QString& folder, const QString& name) {
+    const QString location = ConfigurationFileName(folder);
+    RequireLook(location, name);
+    return WriteLookJson({name, ReadStored(location, name)});
+}
+
+QString ImportLook(const QString& folder, const QByteArray& look, const QString& name) {
+    const NamedLook named = ReadLookJson(look);
+    const QString kept = name.isEmpty() ? named.name : name;
+    if (kept.isEmpty())
+        throw RuntimeError(ErrorNumber::InvalidFileFormat,
+                           QStringLiteral("the look has no name; give it one, or a field \"%1\"")
+                               .arg(QLatin1String(LookNameField)));
+    const Look complete = Complete(named.look);
+    Database database(ConfigurationFileName(folder), ConfigurationSchema());
+    StoredLook stored(database, kept);
+    Database::Writing writing(database, ChartLook().name);
+    CopyLook(complete, stored);
+    writing.Finish();
+    return kept;
+}
+
+CopiedStore CopyLookStore(const QString& from, const QString& to) {
+    const CopiedLooks copied = CopyLooks(ConfigurationFileName(from), ConfigurationFileName(to));
+    return {copied.looks, copied.bindings};
+}
+
+void UseLook(const QString& graphId, const QByteArray& look) {
+    const NamedLook named = ReadLookJson(look);
+    (void)Complete(named.look); // what means nothing is told here, not in the middle of a chart
+    SetLookOverride(graphId, named.look);
+}
+
+void SetChartSize(int width, int height) {
+    constexpr int Largest = 16384;
+    const bool none = width == 0 && height == 0;
+    if (!none && (width < 1 || height < 1 || width > Largest || height > Largest))
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("a chart is from 1 to %1 pixels wide and high, not %2 by %3")
+                               .arg(Largest)
+                               .arg(width)
+                               .arg(height));
+    SetSizeOfNewCharts(none ? std::nullopt : std::optional(QSize(width, height)));
+}
+
+} // namespace QmChart6

@@ -1,0 +1,140 @@
+#include "config/Catalogue.h"
+
+#include "config/ConfigurationSchema.h"
+#include "config/LookFields.h"
+#include "database/Database.h"
+
+#include <algorithm>
+
+namespace QmChart6 {
+
+namespace {
+
+QString TextOf(Recordset& records, const char* field) {
+    return std::get<QString>(records.Value(QLatin1String(field)));
+}
+
+void SeekByKey(Recordset& records, const std::vector<FieldValue>& key) {
+    records.SetIndex(QLatin1String(PrimaryKeyName));
+    records.Seek(key);
+}
+
+Recordset OpenBindings(Database& database) {
+    return database.OpenRecordset(QLatin1String(BindingsTable));
+}
+
+/// Copies the records of one table and gives their number.
+int CopyTable(Database& from, Database& to, const TableDescription& table) {
+    Recordset source = from.OpenRecordset(table.name);
+    Recordset target = to.OpenRecordset(table.name);
+    int count = 0;
+    source.SetIndex(QLatin1String(PrimaryKeyName));
+    for (; !source.EndOfFile(); source.MoveNext()) {
+        std::vector<FieldValue> key;
+        for (const QString& field : table.PrimaryKey().fields) key.push_back(source.Value(field));
+        SeekByKey(target, key);
+        if (target.NoMatch())
+            target.AddNew();
+        else
+            target.Edit();
+        for (const FieldDescription& field : table.fields)
+            target.SetValue(field.name, source.Value(field.name));
+        target.Update();
+        ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+void BindLook(const QString& location, const QString& graphId, const QString& name) {
+    Database database(location, ConfigurationSchema());
+    Recordset bindings = OpenBindings(database);
+    Database::Writing writing(database, QLatin1String(BindingsTable));
+    SeekByKey(bindings, {graphId});
+    if (bindings.NoMatch()) {
+        bindings.AddNew();
+        bindings.SetValue(QLatin1String(ChartIdField), graphId);
+    } else {
+        bindings.Edit();
+    }
+    bindings.SetValue(QLatin1String(LookNameField), name);
+    bindings.Update();
+    writing.Finish();
+}
+
+std::optional<QString> BoundLook(const QString& location, const QString& graphId) {
+    Database database(location, ConfigurationSchema());
+    Recordset bindings = OpenBindings(database);
+    SeekByKey(bindings, {graphId});
+    if (bindings.NoMatch()) return std::nullopt;
+    return TextOf(bindings, LookNameField);
+}
+
+QList<LookBinding> LookBindings(const QString& location) {
+    Database database(location, ConfigurationSchema());
+    Recordset bindings = OpenBindings(database);
+    bindings.SetIndex(QLatin1String(PrimaryKeyName));
+    QList<LookBinding> all;
+    for (; !bindings.EndOfFile(); bindings.MoveNext())
+        all.append({TextOf(bindings, ChartIdField), TextOf(bindings, LookNameField)});
+    return all;
+}
+
+void DeleteLook(const QString& location, const QString& name) {
+    Database database(location, ConfigurationSchema());
+    // All are opened before a record is deleted, so that a table that is missing leaves everything.
+    Recordset bindings = OpenBindings(database);
+    Recordset charts = database.OpenRecordset(ChartLook().name);
+    Recordset axes = database.OpenRecordset(AxesLook().name);
+    Recordset series = database.OpenRecordset(SeriesLook().name);
+    Recordset columns = database.OpenRecordset(ColumnsLook().name);
+    Database::Writing writing(database, QLatin1String(BindingsTable));
+    for (Recordset* records : {&columns, &series, &axes, &bindings}) {
+        records->SetIndex(QLatin1String(LookIndexName));
+        for (records->Seek({name}); !records->NoMatch(); records->Seek({name})) records->Delete();
+    }
+    SeekByKey(charts, {name});
+    if (!charts.NoMatch()) charts.Delete();
+    writing.Finish();
+}
+
+bool LookExists(const QString& location, const QString& name) {
+    Database database(location, ConfigurationSchema());
+    Recordset looks = database.OpenRecordset(ChartLook().name);
+    SeekByKey(looks, {name});
+    return !looks.NoMatch();
+}
+
+void ListLooks(const QString& location, QStringList& names) {
+    Database database(location, ConfigurationSchema());
+    Recordset looks = database.OpenRecordset(ChartLook().name);
+    if (looks.RecordCount() == 0) return;
+    looks.SetIndex(QLatin1String(PrimaryKeyName));
+    for (; !looks.EndOfFile(); looks.MoveNext()) names.append(TextOf(looks, LookNameField));
+}
+
+CopiedLooks CopyLooks(const QString& from, const QString& to) {
+    Database source(from, ConfigurationSchema());
+    Database target(to, ConfigurationSchema());
+    const Database::Reading reading(source);
+    Database::Writing writing(target, QLatin1String(BindingsTable));
+    CopiedLooks copied;
+    for (const TableDescription& table : ConfigurationSchema()) {
+        const int count = CopyTable(source, target, table);
+        if (table.name == QLatin1String(BindingsTable)) copied.bindings = count;
+        if (table.name == ChartLook().name) copied.looks = count;
+    }
+    writing.Finish();
+    return copied;
+}
+
+bool EqualNames(const QString& a, const QString& b) {
+    const auto fold = [](QChar letter) {
+        return letter >= u'A' && letter <= u'Z' ? QChar(letter.unicode() + (u'a' - u'A')) : letter;
+    };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [fold](QChar one, QChar other) { return fold(one) == fold(other); });
+}
+
+} // namespace QmChart6

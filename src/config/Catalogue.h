@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace QmChart6 {
+
+// What a configuration database knows of its looks. Each function opens the database at a place, a file or a
+// server's schema, and closes it; errors are those of Database.
+
+struct LookBinding {
+    QString graphId;
+    QString name;
+};
+
+/// Binds a chart to a look, in place of the one before.
+void BindLook(const QString& location, const QString& graphId, const QString& name);
+/// The look that a chart is bound to; nothing where it is bound to none.
+std::optional<QString> BoundLook(const QString& location, const QString& graphId);
+/// All bindings, in the order of the graph ids.
+QList<LookBinding> LookBindings(const QString& location);
+
+/// Deletes a look and every binding to it; an unknown name does nothing.
+void DeleteLook(const QString& location, const QString& name);
+[[nodiscard]] bool LookExists(const QString& location, const QString& name);
+/// The names of all looks in key order, added to `names` one by one.
+void ListLooks(const QString& location, QStringList& names);
+
+struct CopiedLooks {
+    int looks = 0;
+    int bindings = 0;
+};
+/// Copies all looks and bindings into another database that is there already. A look of the same name is
+/// replaced record by record.
+CopiedLooks CopyLooks(const QString& from, const QString& to);
+
+/// Whether two names are the same key.
+[[nodiscard]] bool EqualNames(const QString& a, const QString& b);
+
+} // namespace QmChart6

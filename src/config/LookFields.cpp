@@ -1,0 +1,272 @@
+#include "config/LookFields.h"
+
+#include "chart/ChartFunctions.h"
+#include "chartcontrol/widget/ChartControl.h"
+#include "config/FieldBuilder.h"
+#include "config/Viewer.h"
+
+#include <cmath>
+
+namespace QmChart6 {
+
+namespace {
+
+using Part = const LookPart&;
+
+Chart& ChartOf(Part part) {
+    return part.viewer.ChartImage().Model();
+}
+Plot& PlotOf(Part part) {
+    return ChartOf(part).Plot;
+}
+Series& SeriesOf(Part part) {
+    return PlotOf(part).SeriesCollection(part.number);
+}
+DataPoint& AllPointsOf(Part part) {
+    return SeriesOf(part).DataPoints.Item(DataPoints::All);
+}
+Axis& AxisOf(Part part) {
+    return PlotOf(part).Axis(part.number);
+}
+
+Truth ToTruth(bool on) {
+    return on ? True : False;
+}
+
+std::vector<LookField> WindowFields() {
+    return {
+        Boolean(
+            "ChartMaximized", [](Part part) { return part.viewer.WindowState() == 2; },
+            [](Part part, bool maximized) {
+                if (maximized) part.viewer.SetWindowState(2);
+            }),
+        Real(
+            "ChartHeight", [](Part part) { return part.viewer.Height(); },
+            [](Part part, double twips) { part.viewer.SetHeight(static_cast<int>(std::lround(twips))); }),
+        Real(
+            "ChartWidth", [](Part part) { return part.viewer.Width(); },
+            [](Part part, double twips) { part.viewer.SetWidth(static_cast<int>(std::lround(twips))); }),
+        Boolean(
+            "ControlBar", [](Part part) { return part.viewer.ControlBar(); },
+            [](Part part, bool shown) { part.viewer.SetControlBar(shown); }),
+    };
+}
+
+std::vector<LookField> OptionFields() {
+    return {
+        Integer(
+            "Lines", [](Part part) { return part.viewer.Lines(); },
+            [](Part part, std::int16_t state) {
+                SetSeriesLines(ChartOf(part), state);
+                part.viewer.SetLines(state);
+            }),
+        Integer(
+            "Markers", [](Part part) { return part.viewer.Markers(); },
+            [](Part part, std::int16_t state) {
+                SetSeriesMarkers(ChartOf(part), state);
+                part.viewer.SetMarkers(state);
+            }),
+        Integer(
+            "Stacked", [](Part part) { return part.viewer.Stacked(); },
+            [](Part part, std::int16_t state) {
+                SetStacked(ChartOf(part), state);
+                part.viewer.SetStacked(state);
+            }),
+        Integer(
+            "FullStacked", [](Part part) { return part.viewer.FullStacked(); },
+            [](Part part, std::int16_t state) {
+                SetFullStacked(ChartOf(part), state);
+                part.viewer.SetFullStacked(state);
+            }),
+        Long(
+            "chartType", [](Part part) { return static_cast<int>(ChartOf(part).chartType()); },
+            [](Part part, int type) { ChartOf(part).SetChartType(ToChartType(type)); }),
+        Boolean(
+            "Legend", [](Part part) { return ChartOf(part).ShowLegend; },
+            [](Part part, bool shown) { SetLegendVisible(ChartOf(part), ToTruth(shown)); }),
+    };
+}
+
+std::vector<LookField> PlotFields() {
+    return {
+        Enumeration(
+            "Projection", [](Part part) -> auto& { return PlotOf(part).Projection; }, ToProjection),
+        Boolean(
+            "Flipped", [](Part part) { return PlotOf(part).DataSeriesInRow; },
+            [](Part part, bool inRows) { SetSeriesInRows(ChartOf(part), ToTruth(inRows)); }),
+        Long(
+            "PieLabelPos", [](Part part) { return static_cast<int>(PlotOf(part).SubPlotLabelPosition); },
+            [](Part part, int position) { SetPieLabelPosition(ChartOf(part), position); }),
+        BooleanMember(
+            "PlotAutoLayout", [](Part part) -> auto& { return PlotOf(part).AutoLayout; }),
+    };
+}
+
+std::vector<LookField> ViewFields() {
+    // The plot's angles are in degrees wherever a look is kept.
+    const auto degrees = [](Part part) -> View3d& {
+        PlotOf(part).AngleUnit = AngleUnit::Degrees;
+        return PlotOf(part).View3d;
+    };
+    return {
+        RealMember(
+            "Rotation", [degrees](Part part) -> auto& { return degrees(part).Rotation; }),
+        RealMember(
+            "Elevation", [degrees](Part part) -> auto& { return degrees(part).Elevation; }),
+    };
+}
+
+std::vector<LookField> TitleFields() {
+    const auto layout = [](Part part) -> TextLayout& { return ChartOf(part).Title.TextLayout; };
+    return {
+        Enumeration(
+            "TitleOrientation", [layout](Part part) -> auto& { return layout(part).Orientation; },
+            ToOrientation),
+        Enumeration(
+            "TitleHorzAlignment", [layout](Part part) -> auto& { return layout(part).HorzAlignment; },
+            ToHorizontalAlignment),
+        Enumeration(
+            "TitleVertAlignment", [layout](Part part) -> auto& { return layout(part).VertAlignment; },
+            ToVerticalAlignment),
+    };
+}
+
+LookTable MakeChartLook() {
+    LookTable look{
+        .name = QStringLiteral("ChartConfigurations"), .partsName = {}, .numberField = {}, .fields = {}};
+    std::vector<LookField>& fields = look.fields;
+    Append(fields, WindowFields());
+    Append(fields, OptionFields());
+    Append(fields,
+           ColourFields(
+               "BackColor", [](Part part) -> auto& { return ChartOf(part).Backdrop.Fill.Brush.FillColor; }));
+    Append(fields, PlotFields());
+    Append(fields, RectFields(
+                       "Plot", [](Part part) -> auto& { return PlotOf(part).LocationRect; }));
+    Append(fields, ViewFields());
+    fields.push_back(TextMember(
+        "TitleText", [](Part part) -> auto& { return ChartOf(part).Title.Text; }));
+    Append(fields, LocationFields(
+                       "Title", [](Part part) -> auto& { return ChartOf(part).Title.Location; }));
+    Append(fields, TitleFields());
+    Append(fields, FontFields(
+                       "Title", [](Part part) -> auto& { return ChartOf(part).Title.VtFont; }));
+    Append(fields, LocationFields(
+                       "Legend", [](Part part) -> auto& { return ChartOf(part).Legend.Location; }));
+    Append(fields, FontFields(
+                       "Legend", [](Part part) -> auto& { return ChartOf(part).Legend.VtFont; }));
+    return look;
+}
+
+LookTable MakeColumnsLook() {
+    LookTable look{.name = QStringLiteral("ColumnsConfigurations"),
+                   .partsName = QStringLiteral("Columns"),
+                   .numberField = QStringLiteral("ColumnId"),
+                   .fields = {}};
+    // The column asked for becomes the current one.
+    look.fields.push_back(Text(
+        "ColumnName",
+        [](Part part) {
+            ChartOf(part).Column = part.number;
+            return ChartOf(part).ColumnLabel();
+        },
+        [](Part part, const QString& label) {
+            ChartOf(part).Column = part.number;
+            ChartOf(part).SetColumnLabel(label);
+        }));
+    return look;
+}
+
+LookTable MakeSeriesLook() {
+    const auto brush = [](Part part) -> Brush& { return AllPointsOf(part).Brush; };
+    const auto label = [](Part part) -> DataPointLabel& { return AllPointsOf(part).DataPointLabel; };
+    LookTable look{.name = QStringLiteral("SeriesConfigurations"),
+                   .partsName = QStringLiteral("Series"),
+                   .numberField = QStringLiteral("SeriesId"),
+                   .fields = {}};
+    std::vector<LookField>& fields = look.fields;
+    fields.push_back(Enumeration(
+        "SeriesType", [](Part part) -> auto& { return SeriesOf(part).SeriesType; }, ToSeriesType));
+    fields.push_back(IntegerMember(
+        "SeriesStatLine", [](Part part) -> auto& { return SeriesOf(part).StatLine.Flag; }));
+    fields.push_back(Enumeration(
+        "SeriesStyle", [brush](Part part) -> auto& { return brush(part).Style; }, ToBrushStyle));
+    fields.push_back(LongMember(
+        "SeriesIndex", [brush](Part part) -> auto& { return brush(part).Index; }));
+    Append(fields, ColourFields(
+                       "SeriesColor", [brush](Part part) -> auto& { return brush(part).FillColor; }));
+    Append(fields, ColourFields(
+                       "SeriesStyleColor", [brush](Part part) -> auto& { return brush(part).PatternColor; }));
+    fields.push_back(Enumeration(
+        "SeriesLabelOrientation", [label](Part part) -> auto& { return label(part).TextLayout.Orientation; },
+        ToOrientation));
+    fields.push_back(Enumeration(
+        "SeriesLabelLocation", [label](Part part) -> auto& { return label(part).LocationType; },
+        ToLabelLocation));
+    fields.push_back(Enumeration(
+        "SeriesLabelLineStyle", [label](Part part) -> auto& { return label(part).LineStyle; },
+        ToLabelLineStyle));
+    fields.push_back(IntegerMember(
+        "SeriesLabelComponents", [label](Part part) -> auto& { return label(part).Component; }));
+    Append(fields, FontFields(
+                       "SeriesLabel", [label](Part part) -> auto& { return label(part).VtFont; }));
+    return look;
+}
+
+LookTable MakeAxesLook() {
+    LookTable look{.name = QStringLiteral("AxesConfigurations"),
+                   .partsName = QStringLiteral("Axes"),
+                   .numberField = QStringLiteral("AxisId"),
+                   .fields = {}};
+    const auto title = [](Part part) -> AxisTitle& { return AxisOf(part).AxisTitle; };
+    std::vector<LookField>& fields = look.fields;
+    fields.push_back(Boolean(
+        "AxisScaleVisible", [](Part part) { return !AxisOf(part).AxisScale.Hide; },
+        [](Part part, bool visible) { AxisOf(part).AxisScale.Hide = !visible; }));
+    fields.push_back(Enumeration(
+        "AxisGridStyle", [](Part part) -> auto& { return AxisOf(part).AxisGrid.MajorPen.Style; },
+        ToPenStyle));
+    fields.push_back(TextMember(
+        "AxisTitleText", [title](Part part) -> auto& { return title(part).Text; }));
+    fields.push_back(BooleanMember(
+        "AxisTitleVisible", [title](Part part) -> auto& { return title(part).Visible; }));
+    fields.push_back(Enumeration(
+        "AxisTitleOrientation", [title](Part part) -> auto& { return title(part).TextLayout.Orientation; },
+        ToOrientation));
+    Append(fields, FontFields(
+                       "AxisTitle", [title](Part part) -> auto& { return title(part).VtFont; }));
+    Append(fields, FontFields(
+                       "AxisLabels", [](Part part) -> auto& { return AxisOf(part).Labels.Item(1).VtFont; }));
+    return look;
+}
+
+} // namespace
+
+const LookField& LookTable::Field(const QString& field) const {
+    for (const LookField& one : fields)
+        if (one.name == field) return one;
+    throw RuntimeError(ErrorNumber::FieldNotFound,
+                       QStringLiteral("\"%1\" has no field \"%2\"").arg(name, field));
+}
+
+const LookTable& ChartLook() {
+    static const LookTable look = MakeChartLook();
+    return look;
+}
+
+const LookTable& ColumnsLook() {
+    static const LookTable look = MakeColumnsLook();
+    return look;
+}
+
+const LookTable& SeriesLook() {
+    static const LookTable look = MakeSeriesLook();
+    return look;
+}
+
+const LookTable& AxesLook() {
+    static const LookTable look = MakeAxesLook();
+    return look;
+}
+
+} // namespace QmChart6

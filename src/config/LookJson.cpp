@@ -1,0 +1,149 @@
+#include "config/LookJson.h"
+
+#include "qmchart6/RuntimeError.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <limits>
+#include <type_traits>
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr int LastAxis = 3;
+
+/// A single-precision number by its shortest digits, not by those of its double.
+double ShortestDouble(float number) {
+    return QString::number(number, 'g', QLocale::FloatingPointShortest).toDouble();
+}
+
+QJsonValue ToJson(const FieldValue& value) {
+    return std::visit(
+        [](const auto& held) -> QJsonValue {
+            using Held = std::decay_t<decltype(held)>;
+            if constexpr (std::is_same_v<Held, float>)
+                return ShortestDouble(held);
+            else if constexpr (std::is_integral_v<Held> && !std::is_same_v<Held, bool>)
+                return static_cast<int>(held);
+            else
+                return held;
+        },
+        value);
+}
+
+QJsonObject ToJson(const Look::Record& record) {
+    QJsonObject object;
+    for (const auto& [name, value] : record) object.insert(name, ToJson(value));
+    return object;
+}
+
+[[noreturn]] void RaiseMalformed(const QString& detail) {
+    throw RuntimeError(ErrorNumber::InvalidFileFormat, QStringLiteral("this is no look: ") + detail);
+}
+
+FieldValue FromJson(const QJsonValue& json, FieldKind kind, const QString& field) {
+    switch (json.type()) {
+    case QJsonValue::String:
+        return ToKind(json.toString(), kind, field);
+    case QJsonValue::Bool:
+        return ToKind(json.toBool(), kind, field);
+    case QJsonValue::Double:
+        if (kind != FieldKind::Boolean) return FromDriver(json.toDouble(), kind, field);
+        break;
+    default:
+        break;
+    }
+    throw RuntimeError(
+        ErrorNumber::TypeMismatch,
+        QStringLiteral("field \"%1\" takes a text, a number, true or false as its kind is").arg(field));
+}
+
+void ReadRecord(const QJsonObject& object, const LookTable& table, int number, Look& look) {
+    look.Start(table, number);
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        if (member.key() == table.numberField) continue;
+        const LookField& field = table.Field(member.key());
+        look.Set(table, field, FromJson(member.value(), field.kind, field.name));
+    }
+    look.Finish(table);
+}
+
+int NumberOf(const QJsonObject& object, const LookTable& table, int place) {
+    const bool axes = &table == &AxesLook();
+    const QJsonValue given = object.value(table.numberField);
+    if (given.isUndefined()) return axes ? place : place + 1;
+    const int number = std::get<std::int16_t>(FromJson(given, FieldKind::Integer, table.numberField));
+    if (number < (axes ? 0 : 1) || (axes && number > LastAxis))
+        throw RuntimeError(
+            ErrorNumber::InvalidPropertyValue,
+            QStringLiteral("%1 is %2, not %3")
+                .arg(table.numberField, axes ? QStringLiteral("0 to 3") : QStringLiteral("1 or more"))
+                .arg(number));
+    return number;
+}
+
+void ReadRecords(const QJsonValue& list, const LookTable& table, Look& look) {
+    if (!list.isArray()) RaiseMalformed(QStringLiteral("\"%1\" is not a list").arg(table.partsName));
+    int place = 0;
+    for (const QJsonValue& element : list.toArray()) {
+        if (!element.isObject())
+            RaiseMalformed(QStringLiteral("\"%1\" holds something else than objects").arg(table.partsName));
+        const int number = NumberOf(element.toObject(), table, place++);
+        if (look.Of(table).contains(number))
+            throw RuntimeError(ErrorNumber::DuplicateKey,
+                               QStringLiteral("%1 %2 is there twice").arg(table.numberField).arg(number));
+        ReadRecord(element.toObject(), table, number, look);
+    }
+}
+
+const LookTable* PartsOf(const QString& name) {
+    for (const LookTable* table : LookTables())
+        if (!table->partsName.isEmpty() && table->partsName == name) return table;
+    return nullptr;
+}
+
+} // namespace
+
+QByteArray WriteLookJson(const NamedLook& named) {
+    QJsonObject object;
+    for (const auto& [number, record] : named.look.Of(ChartLook())) object = ToJson(record);
+    if (!named.name.isEmpty()) object.insert(QLatin1String(LookNameField), named.name);
+    for (const LookTable* table : LookTables()) {
+        if (table->partsName.isEmpty()) continue;
+        QJsonArray list;
+        for (const auto& [number, record] : named.look.Of(*table)) {
+            QJsonObject part = ToJson(record);
+            part.insert(table->numberField, number);
+            list.append(part);
+        }
+        if (!list.isEmpty()) object.insert(table->partsName, list);
+    }
+    return QJsonDocument(object).toJson(QJsonDocument::Indented);
+}
+
+NamedLook ReadLookJson(const QByteArray& json) {
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    if (error.error != QJsonParseError::NoError)
+        RaiseMalformed(QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset));
+    if (!document.isObject()) RaiseMalformed(QStringLiteral("it is not an object"));
+    NamedLook named;
+    QJsonObject whole = document.object();
+    const QJsonObject all = whole;
+    for (auto member = all.begin(); member != all.end(); ++member) {
+        if (const LookTable* table = PartsOf(member.key())) {
+            ReadRecords(member.value(), *table, named.look);
+            whole.remove(member.key());
+        }
+    }
+    if (whole.contains(QLatin1String(LookNameField)))
+        named.name = std::get<QString>(FromJson(whole.take(QLatin1String(LookNameField)), FieldKind::Text,
+                                                QLatin1String(LookNameField)));
+    ReadRecord(whole, ChartLook(), 0, named.look);
+    return named;
+}
+
+} // namespace QmChart6

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "config/Look.h"
+#include "database/Database.h"
+
+#include <map>
+
+namespace QmChart6 {
+
+/// The records of looks in the configuration database, opened together.
+class StoredLook : public LookReader, public LookWriter {
+public:
+    /// The look of that name, which need not be there.
+    StoredLook(Database& database, QString name);
+
+    bool Find(const LookTable& table, int number) override;
+    std::optional<FieldValue> Value(const LookTable& table, const LookField& field) override;
+    /// Adds the record, or edits it where it is there; its key stays as it was first written.
+    void Start(const LookTable& table, int number) override;
+    void Set(const LookTable& table, const LookField& field, const FieldValue& value) override;
+    void Finish(const LookTable& table) override;
+
+private:
+    [[nodiscard]] Recordset& Of(const LookTable& table) { return recordsets_.at(table.name); }
+
+    QString name_;
+    std::map<QString, Recordset> recordsets_;
+};
+
+/// The whole look of that name as it is stored; empty where there is none.
+Look ReadLook(Database& database, const QString& name);
+
+} // namespace QmChart6

@@ -1,0 +1,36 @@
+#include "database/Database.h"
+
+#include "database/Location.h"
+
+namespace QmChart6 {
+
+Database::Database(const QString& location, const Schema& schema)
+    : schema_(schema), connection_(std::make_unique<Connection>(DialectFor(ParseLocation(location)))) {}
+
+Recordset Database::OpenRecordset(const QString& table) {
+    return {*connection_, TableOf(schema_, table)};
+}
+
+Database::Writing::Writing(Database& database, const QString& firstTable)
+    : connection_(*database.connection_) {
+    connection_.BeginWriting(TableOf(database.schema_, firstTable));
+}
+
+Database::Writing::~Writing() {
+    if (open_) connection_.CommitQuietly();
+}
+
+void Database::Writing::Finish() {
+    open_ = false;
+    connection_.Commit();
+}
+
+Database::Reading::Reading(Database& database) : connection_(*database.connection_) {
+    connection_.BeginReading();
+}
+
+Database::Reading::~Reading() {
+    connection_.CommitQuietly();
+}
+
+} // namespace QmChart6
