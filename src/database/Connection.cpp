@@ -47,7 +47,7 @@ void Connection::Open() {
     dialect_->Prepare(connection);
     if (!connection.open()) throw dialect_->Translate(connection.lastError());
     for (const QString& statement : dialect_->Greeting()) Execute(statement);
-    if (!Run(dialect_->ProbeQuery(), dialect_->ProbeParameters()).next())
+    if (!Next(Run(dialect_->ProbeQuery(), dialect_->ProbeParameters())))
         throw RuntimeError(
             ErrorNumber::DatabaseFileNotFound,
             QStringLiteral("there is no schema for the looks; \"qmchart config init\" makes one"));
@@ -78,6 +78,12 @@ QSqlQuery& Connection::Run(const QString& statement, const QVariantList& values)
         return query.exec() ? QSqlError() : query.lastError();
     });
     return query;
+}
+
+bool Connection::Next(QSqlQuery& query) const {
+    if (query.next()) return true;
+    if (query.lastError().type() != QSqlError::NoError) throw dialect_->Translate(query.lastError());
+    return false;
 }
 
 int Connection::Write(const QString& statement, const QVariantList& values) {

@@ -24,6 +24,8 @@ public:
     /// Runs a statement; it is kept prepared for the next time. The query is good until the same statement
     /// runs again.
     QSqlQuery& Run(const QString& statement, const QVariantList& values = {});
+    /// Goes to a query's next row; false behind the last.
+    bool Next(QSqlQuery& query) const;
     /// Runs a statement that changes one record and gives the number of records that it changed.
     int Write(const QString& statement, const QVariantList& values);
     /// Runs a statement once.

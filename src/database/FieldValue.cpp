@@ -31,8 +31,10 @@ Whole ToWhole(double number, const QString& field) {
 }
 
 float ToReal(double number, const QString& field) {
-    if (!(std::fabs(number) <= std::numeric_limits<float>::max())) RaiseOverflow(field, number);
-    return static_cast<float>(number);
+    // A server writes the greatest number a little greater than it is.
+    const auto real = static_cast<float>(number);
+    if (!std::isfinite(real)) RaiseOverflow(field, number);
+    return real;
 }
 
 FieldValue ToNumberKind(double number, FieldKind kind, const QString& field) {

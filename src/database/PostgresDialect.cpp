@@ -61,7 +61,8 @@ void PostgresDialect::Prepare(QSqlDatabase& connection) const {
 }
 
 QStringList PostgresDialect::Greeting() const {
-    return {QStringLiteral("SET lock_timeout = '5s'"), QStringLiteral("SET synchronous_commit = on")};
+    return {QStringLiteral("SET client_min_messages = warning"), QStringLiteral("SET lock_timeout = '5s'"),
+            QStringLiteral("SET synchronous_commit = on")};
 }
 
 QString PostgresDialect::Table(const QString& table) const {

@@ -13,7 +13,7 @@ namespace {
 QSet<QString> Names(Connection& connection, const QString& statement, const QVariantList& parameters) {
     QSet<QString> names;
     QSqlQuery& query = connection.Run(statement, parameters);
-    while (query.next()) names.insert(query.value(0).toString().toLower());
+    while (connection.Next(query)) names.insert(query.value(0).toString().toLower());
     query.finish();
     return names;
 }
@@ -114,7 +114,7 @@ void Recordset::Seek(const std::vector<FieldValue>& keys) {
     Leave(true);
     QSqlQuery& query = connection_->Run(
         SelectKeys() + Where(*index_) + OrderBy() + QStringLiteral(" LIMIT 1"), ToDriver(sought));
-    if (query.next()) current_ = ReadKey(query);
+    if (connection_->Next(query)) current_ = ReadKey(query);
     query.finish();
     noMatch_ = lost_ = !current_;
 }
@@ -124,7 +124,7 @@ void Recordset::FetchKeys() {
     if (index_ == nullptr) index_ = &table_->PrimaryKey();
     QSqlQuery& query = connection_->Run(SelectKeys() + OrderBy());
     keys_.emplace();
-    while (query.next()) keys_->push_back(ReadKey(query));
+    while (connection_->Next(query)) keys_->push_back(ReadKey(query));
     query.finish();
     position_ = 0;
 }
@@ -149,7 +149,7 @@ void Recordset::MoveNext() {
 int Recordset::RecordCount() {
     QSqlQuery& query = connection_->Run(
         QStringLiteral("SELECT count(*) FROM %1").arg(connection_->Engine().Table(table_->name)));
-    const int count = query.next() ? query.value(0).toInt() : 0;
+    const int count = connection_->Next(query) ? query.value(0).toInt() : 0;
     query.finish();
     return count;
 }
@@ -178,7 +178,7 @@ void Recordset::FetchRecord() {
                 .arg(columns.join(QStringLiteral(", ")), connection_->Engine().Table(table_->name)) +
             Where(table_->PrimaryKey()),
         ToDriver(CurrentKey()));
-    const bool found = query.next();
+    const bool found = connection_->Next(query);
     for (qsizetype i = 0; found && i < names.size(); ++i)
         record_.insert(names[i], query.value(static_cast<int>(i)));
     query.finish();

@@ -1,11 +1,13 @@
 #include "automation/ViewerList.h"
 #include "base/Twips.h"
 #include "chartcontrol/widget/ChartControl.h"
-#include "config/ConfigurationStore.h"
+#include "config/ConfigurationFolder.h"
+#include "config/ConfigurationSchema.h"
 #include "desktop/QtDesktop.h"
 #include "qmchart6/Host.h"
 #include "qmchart6/QMChartArray.h"
 #include "support/Person.h"
+#include "support/TestStore.h"
 #include "support/Samples.h"
 #include "text/LocalText.h"
 #include "viewer/GraphForm.h"
@@ -43,7 +45,7 @@ protected:
         viewer = FindViewer(id).get();
     }
     ~ViewerWindowTest() override {
-        InstallConfigurationStore(nullptr);
+        SetConfigurationFolder({});
         if (!viewer.isNull()) viewer->SetModified(false);
         CloseViewer(QStringLiteral("sales"));
     }
@@ -76,13 +78,6 @@ protected:
     QtDesktop desktop;
     ScopedDesktop scope{desktop};
     QPointer<GraphForm> viewer;
-};
-
-class RecordingStore : public ConfigurationStore {
-public:
-    void SaveConfiguration(Viewer& /*viewer*/) override { ++saved; }
-    void LoadChartConfiguration(Viewer& /*viewer*/, bool /*loadTitles*/) override {}
-    int saved = 0;
 };
 
 } // namespace
@@ -229,8 +224,8 @@ TEST_F(ViewerWindowTest, ClosingAnUnchangedWindowAsksNothing) {
 }
 
 TEST_F(ViewerWindowTest, ClosingAModifiedWindowAsksAndSavesOnYes) {
-    RecordingStore store;
-    InstallConfigurationStore(&store);
+    const TestStore store(Engine::Sqlite, ConfigurationSchema());
+    SetConfigurationFolder(store.Folder());
     viewer->SetModified(true);
     QString text;
     QString title;
@@ -243,20 +238,20 @@ TEST_F(ViewerWindowTest, ClosingAModifiedWindowAsksAndSavesOnYes) {
     EXPECT_TRUE(person.WasAsked());
     EXPECT_EQ(text, "Save Current Configuration?");
     EXPECT_EQ(title, "Save Configuration");
-    EXPECT_EQ(store.saved, 1);
+    EXPECT_EQ(store.Count(QStringLiteral("ChartConfigurations")), 1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return viewer.isNull(); }));
 }
 
 TEST_F(ViewerWindowTest, AnswerNoClosesWithoutSaving) {
-    RecordingStore store;
-    InstallConfigurationStore(&store);
+    const TestStore store(Engine::Sqlite, ConfigurationSchema());
+    SetConfigurationFolder(store.Folder());
     viewer->SetModified(true);
     Person<QMessageBox> person([](QMessageBox& box) {
         QTest::mouseClick(static_cast<QWidget*>(box.button(QMessageBox::No)), Qt::LeftButton);
     });
     viewer->close();
     EXPECT_TRUE(person.WasAsked());
-    EXPECT_EQ(store.saved, 0);
+    EXPECT_EQ(store.Count(QStringLiteral("ChartConfigurations")), 0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return viewer.isNull(); }));
 }
 

@@ -3,7 +3,6 @@
 #include "automation/ViewerList.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationFolder.h"
-#include "config/ConfigurationStore.h"
 #include "qmchart6/QMChartArray.h"
 #include "support/Raises.h"
 #include "support/Samples.h"
@@ -16,7 +15,6 @@ class AutomationTest : public testing::Test {
 protected:
     AutomationTest() { QmChart6::SetLanguageCode(0); }
     ~AutomationTest() override {
-        QmChart6::InstallConfigurationStore(nullptr);
         for (int place = QmChart6::Viewers().LowerBound(); place <= QmChart6::Viewers().UpperBound(); ++place)
             QmChart6::Viewers().Release(place);
         QmChart6::SetLanguageCode(0);

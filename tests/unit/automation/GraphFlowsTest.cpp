@@ -1,6 +1,9 @@
 #include "AutomationTest.h"
 
 #include "chart/ValueLabelFormat.h"
+#include "config/ConfigurationSchema.h"
+#include "config/ConfigurationStore.h"
+#include "support/TestStore.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -25,23 +28,21 @@ protected:
     }
     [[nodiscard]] QString InFolder(const char* name) const { return folder.filePath(QLatin1String(name)); }
 
-    QTemporaryDir folder;
-};
-
-/// Tells what the viewer is like when its look is asked for, and leaves it hidden.
-class WatchingStore : public ConfigurationStore {
-public:
-    void SaveConfiguration(QmChart6::Viewer& /*viewer*/) override {}
-    void LoadChartConfiguration(QmChart6::Viewer& viewer, bool loadTitles) override {
-        titles.append(loadTitles);
-        rows = viewer.ChartImage().Model().RowCount();
-        caption = viewer.ChartImage().window()->windowTitle();
-        format = ValueLabelFormat();
+    /// Stores a line chart titled "Stored" and binds it to a graph that is closed again.
+    void StoreLook(const QString& id) {
+        store = std::make_unique<TestStore>(Engine::Sqlite, ConfigurationSchema());
+        charts.SetQmChartConfigPath(store->Folder());
+        Make(id);
+        Viewer(id)->ChartImage().Model().SetChartType(ChartType::Line2D);
+        Viewer(id)->ChartImage().Model().Title.Text = QStringLiteral("Stored");
+        Viewer(id)->SetQmConfig(QStringLiteral("Look"));
+        SaveConfiguration(*Viewer(id));
+        charts.QmKillGraph(id);
     }
-    QList<bool> titles;
-    int rows = -1;
-    QString caption;
-    QString format;
+    void TearDown() override { SetConfigurationFolder({}); }
+
+    QTemporaryDir folder;
+    std::unique_ptr<TestStore> store;
 };
 
 } // namespace
@@ -97,25 +98,26 @@ TEST_F(GraphFlowsTest, AMaximizedViewerStaysMaximized) {
     EXPECT_EQ(Viewer(QStringLiteral("a"))->WindowState(), 2);
 }
 
-TEST_F(GraphFlowsTest, AStoredLookIsAskedForWithTitlesForTheExactValue2Only) {
-    WatchingStore store;
-    InstallConfigurationStore(&store);
-    for (const int useConfig : {1, 2, 3, 255})
-        Make(QStringLiteral("a"), std::int16_t{1}, static_cast<std::uint8_t>(useConfig));
-    EXPECT_EQ(store.titles, QList<bool>({false, true, false, false}));
-    EXPECT_EQ(store.rows, 3);
-    EXPECT_EQ(store.caption, QStringLiteral("Viewer do Gráfico"));
-    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
-    EXPECT_NE(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
+TEST_F(GraphFlowsTest, AStoredLookIsLoadedWithItsTitlesForTheExactValue2Only) {
+    StoreLook(QStringLiteral("a"));
+    for (const int useConfig : {1, 2, 3, 255}) {
+        Make(QStringLiteral("a"), std::int16_t{0}, static_cast<std::uint8_t>(useConfig));
+        const Chart& chart = ChartOf(QStringLiteral("a"));
+        EXPECT_EQ(chart.Title.Text, useConfig == 2 ? "Stored" : "Title") << useConfig;
+        EXPECT_EQ(chart.chartType(), ChartType::Line2D) << useConfig;
+        charts.QmKillGraph(QStringLiteral("a"));
+    }
+    Make(QStringLiteral("a"));
+    EXPECT_EQ(ChartOf(QStringLiteral("a")).chartType(), ChartType::Bar2D);
 }
 
-TEST_F(GraphFlowsTest, WithoutAStoreAMessageTellsSoAndTheDefaultLookIsShown) {
+TEST_F(GraphFlowsTest, WithoutADatabaseAMessageTellsSoAndTheChartIsShown) {
+    SetConfigurationFolder(folder.path() + u'/');
     Make(QStringLiteral("a"), std::int16_t{0}, 2);
     ASSERT_EQ(desktop.messages.size(), 1);
-    EXPECT_EQ(desktop.messages.front().text,
-              "Error 445: Object doesn't support this action: this build keeps no stored looks");
+    EXPECT_TRUE(desktop.messages.front().text.startsWith(QStringLiteral("Error 3024: ")));
     EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
-    EXPECT_EQ(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
+    EXPECT_FALSE(QFile::exists(InFolder("QmConfig.mdb")));
 }
 
 TEST_F(GraphFlowsTest, TheValueLabelFormatFollowsTheData) {
@@ -202,13 +204,14 @@ TEST_F(GraphFlowsTest, AFailedSaveKeepsTheViewerWithItsCaptionAndLook) {
     EXPECT_TRUE(viewer->isVisible());
 }
 
-TEST_F(GraphFlowsTest, SavingWithAStoredLookAsksTheStore) {
-    WatchingStore store;
-    InstallConfigurationStore(&store);
-    QString name = InFolder("chart.bmp");
-    Save(QStringLiteral("a"), name, 1);
-    EXPECT_EQ(store.titles, QList<bool>({false}));
-    EXPECT_EQ(store.caption, "A - Graph Viewer");
+TEST_F(GraphFlowsTest, SavingWithAStoredLookGivesAnotherPicture) {
+    StoreLook(QStringLiteral("a"));
+    QString plain = InFolder("plain.bmp");
+    QString looked = InFolder("looked.bmp");
+    Save(QStringLiteral("a"), plain, 0);
+    Save(QStringLiteral("a"), looked, 1);
+    EXPECT_TRUE(desktop.messages.isEmpty());
+    EXPECT_NE(QImage(plain), QImage(looked));
 }
 
 TEST_F(GraphFlowsTest, PrintingClosesTheViewerThatWasOpen) {

@@ -2,9 +2,12 @@
 
 #include "base/Twips.h"
 #include "chartcontrol/widget/ChartControl.h"
+#include "config/ConfigurationFolder.h"
+#include "config/ConfigurationSchema.h"
 #include "config/ConfigurationStore.h"
 #include "support/Raises.h"
 #include "support/ScriptedDesktop.h"
+#include "support/TestStore.h"
 #include "text/LocalText.h"
 #include "viewer/ViewerStatusBar.h"
 #include "viewer/ViewerToolBar.h"
@@ -23,23 +26,12 @@ class GraphFormTest : public testing::Test {
 protected:
     void SetUp() override { SetLanguageCode(0); }
     void TearDown() override {
-        InstallConfigurationStore(nullptr);
+        SetConfigurationFolder({});
         SetLanguageCode(0);
     }
 
     ScriptedDesktop desktop;
     ScopedDesktop scope{desktop};
-};
-
-/// A store that keeps nothing but which viewers it was asked for.
-class RecordingStore : public ConfigurationStore {
-public:
-    void SaveConfiguration(Viewer& viewer) override { saved.append(viewer.QmConfig()); }
-    void LoadChartConfiguration(Viewer& viewer, bool /*loadTitles*/) override {
-        loaded.append(viewer.GraphId());
-    }
-    QStringList saved;
-    QStringList loaded;
 };
 
 ViewerStatusBar& StatusBarOf(const GraphForm& form) {
@@ -270,8 +262,8 @@ TEST_F(GraphFormTest, ClosingAnUnchangedWindowAsksNothing) {
 }
 
 TEST_F(GraphFormTest, ClosingAModifiedWindowAsksAndSavesOnYes) {
-    RecordingStore store;
-    InstallConfigurationStore(&store);
+    const TestStore store(Engine::Sqlite, ConfigurationSchema());
+    SetConfigurationFolder(store.Folder());
     GraphForm form;
     form.SetQmConfig(QStringLiteral("Quarterly"));
     form.SetModified(true);
@@ -282,19 +274,19 @@ TEST_F(GraphFormTest, ClosingAModifiedWindowAsksAndSavesOnYes) {
     EXPECT_EQ(desktop.messages.front().text, "Save Current Configuration?");
     EXPECT_EQ(desktop.messages.front().title, "Save Configuration");
     EXPECT_EQ(desktop.messages.front().buttons, MessageButtons::YesNo);
-    EXPECT_EQ(store.saved, QStringList(QStringLiteral("Quarterly")));
+    EXPECT_EQ(FillConfigurationList({}).names, QStringList(QStringLiteral("Quarterly")));
     EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(GraphFormTest, ClosingAModifiedWindowSavesNothingOnNo) {
-    RecordingStore store;
-    InstallConfigurationStore(&store);
+    const TestStore store(Engine::Sqlite, ConfigurationSchema());
+    SetConfigurationFolder(store.Folder());
     GraphForm form;
     form.SetModified(true);
     form.show();
     form.close();
     EXPECT_EQ(desktop.messages.size(), 1);
-    EXPECT_TRUE(store.saved.isEmpty());
+    EXPECT_TRUE(FillConfigurationList({}).names.isEmpty());
     EXPECT_FALSE(form.isVisible());
 }
 
@@ -305,7 +297,7 @@ TEST_F(GraphFormTest, TheWindowClosesAllTheSameWhereNothingCanBeSaved) {
     form.show();
     form.close();
     ASSERT_EQ(desktop.messages.size(), 2);
-    EXPECT_TRUE(desktop.messages.at(1).text.startsWith(QStringLiteral("Error 445: ")));
+    EXPECT_TRUE(desktop.messages.at(1).text.startsWith(QStringLiteral("Error 3024: ")));
     EXPECT_FALSE(form.isVisible());
 }
 
