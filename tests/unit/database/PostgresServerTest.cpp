@@ -2,9 +2,9 @@
 #include "database/Database.h"
 #include "database/Location.h"
 
-#include "unit/database/SampleSchema.h"
 #include "support/Raises.h"
 #include "support/TestStore.h"
+#include "unit/database/SampleSchema.h"
 
 using namespace QmChart6;
 

@@ -1,8 +1,8 @@
 #include "database/Database.h"
 
-#include "unit/database/SampleSchema.h"
 #include "support/Raises.h"
 #include "support/TestStore.h"
+#include "unit/database/SampleSchema.h"
 
 #include <cmath>
 #include <limits>

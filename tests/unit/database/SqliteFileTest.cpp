@@ -1,9 +1,9 @@
 #include "database/CreateDatabase.h"
 #include "database/Database.h"
 
-#include "unit/database/SampleSchema.h"
 #include "support/Raises.h"
 #include "support/TestStore.h"
+#include "unit/database/SampleSchema.h"
 
 #include <QDir>
 #include <QFile>
