@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -38,6 +39,7 @@ FontPicker::FontPicker(const FontChoice& start, const FontPickerTexts& texts, QW
     // The toolkit's own font dialog without its frame and buttons; it knows no colours.
     fonts_->setWindowFlags(Qt::Widget);
     fonts_->setOptions(QFontDialog::DontUseNativeDialog | QFontDialog::NoButtons);
+    fonts_->setSizeGripEnabled(false);
     fonts_->setCurrentFont(FontOf(start));
     shownFirst_ = fonts_->currentFont();
     btnColour_->setObjectName(QStringLiteral("btnColour"));
@@ -86,6 +88,12 @@ void FontPicker::PickColour() {
 void FontPicker::ShowColour() {
     btnColour_->setIcon(
         Swatch(colour_, palette().color(QPalette::Mid), btnColour_->iconSize(), devicePixelRatioF()));
+    // The sample's text, where this toolkit's dialog has it under this name.
+    if (auto* sample = fonts_->findChild<QLineEdit*>(QStringLiteral("qt_fontDialog_sampleEdit"))) {
+        QPalette palette = sample->palette();
+        palette.setColor(QPalette::Text, colour_);
+        sample->setPalette(palette);
+    }
 }
 
 } // namespace QmChart6

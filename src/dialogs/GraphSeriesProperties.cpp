@@ -61,6 +61,7 @@ GraphSeriesProperties::GraphSeriesProperties(QWidget* owner)
     tabSeries_->addTab(MakeLabels(), LocalText(32));
     tabSeries_->addTab(MakeStyle(), LocalText(88));
     tabSeries_->addTab(MakeStatistics(), LocalText(92));
+    tabSeries_->setUsesScrollButtons(false); // the form is as wide as its tabs
     Body().addWidget(tabSeries_);
     Finish();
     SetFirstText(*txtName_);
@@ -118,8 +119,11 @@ QWidget* GraphSeriesProperties::MakeStyle() {
     Describe(*btnStyleColor, "btnStyleColor", LocalText(ColorKey), LocalText(88));
     pbStyleColor_ = new ColourBox(page);
     Describe(*pbStyleColor_, "pbStyleColor", LocalText(ColorKey), LocalText(88));
-    grid->addWidget(btnStyleColor, 0, 0);
-    grid->addWidget(pbStyleColor_, 0, 1);
+    auto* row = new QHBoxLayout;
+    row->addWidget(btnStyleColor);
+    row->addWidget(pbStyleColor_);
+    row->addStretch(1);
+    grid->addLayout(row, 0, 0, 1, 2);
     picStyle_ = new PatternPicker(page);
     Describe(*picStyle_, "picStyle", LocalText(88));
     grid->addWidget(picStyle_, 1, 0, 1, 2, Qt::AlignLeft);

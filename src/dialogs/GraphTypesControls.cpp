@@ -88,7 +88,7 @@ GraphTypesControls::GraphTypesControls(QWidget* dialog) {
     TabTypes->addTab(MakeGrid(), LocalText(31));
     TabTypes->addTab(MakeLabels(), LocalText(32));
     TabTypes->addTab(MakeDesign(), LocalText(103));
-    TabTypes->setUsesScrollButtons(false);
+    TabTypes->setUsesScrollButtons(false); // the form is as wide as its tabs
     SampleChart = new ChartControl(dialog);
     Describe(*SampleChart, "SampleChart", LocalText(33));
     SampleChart->setMinimumSize(SampleSize);

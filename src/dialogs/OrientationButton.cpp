@@ -13,17 +13,17 @@ namespace {
 /// Three letters one after another, or one above another, round the origin, `size` logical pixels at most.
 QPainterPath Letters(const QFont& like, bool stacked, double size) {
     QFont font(like);
-    font.setPixelSize(48);
+    constexpr int Height = 48;
+    constexpr double LineHeight = 42;
+    font.setPixelSize(Height);
     font.setBold(true);
-    QPainterPath path;
     const QString letters = QStringLiteral("ABC");
-    for (int at = 0; at < letters.size(); ++at) {
+    QPainterPath path;
+    if (!stacked) path.addText(0, 0, font, letters);
+    for (int at = 0; stacked && at < letters.size(); ++at) {
         QPainterPath letter;
-        letter.addText(0, 0, font, QString(letters[at]));
-        const QRectF box = letter.boundingRect();
-        const double step = at * 58.0;
-        letter.translate(stacked ? -box.center().x() : step - box.center().x(), stacked ? step : 0);
-        path.addPath(letter);
+        letter.addText(0, at * LineHeight, font, QString(letters[at]));
+        path.addPath(letter.translated(-letter.boundingRect().center().x(), 0));
     }
     const QRectF box = path.boundingRect();
     const double scale = size / std::max(box.width(), box.height());
@@ -74,7 +74,7 @@ void OrientationButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF(rect()).center());
     painter.rotate(AngleOf(orientation_));
-    painter.fillPath(Letters(font(), orientation_ == Orientation::Vertical, 26),
+    painter.fillPath(Letters(font(), orientation_ == Orientation::Vertical, 28),
                      isChecked() ? QColor(Qt::white) : palette().color(QPalette::ButtonText));
 }
 
