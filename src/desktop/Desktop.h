@@ -31,7 +31,7 @@ struct FontChoice {
     bool italic = false;
     bool strikethrough = false;
     bool underline = false;
-    QColor colour;
+    QColor colour{};
 
     friend bool operator==(const FontChoice&, const FontChoice&) = default;
 };

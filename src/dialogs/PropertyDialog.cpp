@@ -11,6 +11,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -75,6 +77,12 @@ void PropertyDialog::AddButtons(Buttons buttons) {
 
 void PropertyDialog::Finish() {
     GiveMnemonics(*this);
+    for (QTabWidget* tabs : findChildren<QTabWidget*>()) {
+        tabs->setAccessibleName(windowTitle());
+        tabs->tabBar()->setAccessibleName(windowTitle());
+        tabs->setFocusPolicy(Qt::NoFocus); // its bar takes the focus
+        tabs->tabBar()->setFocusPolicy(Qt::TabFocus);
+    }
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     btnOK_->setDefault(true);
 }
