@@ -61,7 +61,7 @@ private:
     bool Place(int caption, Keys& visited) {
         for (const int place : PlacesOf(texts_[caption])) {
             const QChar key = texts_[caption][place].toLower();
-            if (taken_.count(key) != 0 || !visited.insert(key).second) continue;
+            if (taken_.contains(key) || !visited.insert(key).second) continue;
             const auto holder = holders_.find(key);
             if (holder != holders_.end() && !Place(holder->second, visited)) continue;
             holders_[key] = caption;
@@ -149,6 +149,7 @@ struct Place {
 
 std::vector<Place> PlacesOfTabs(QTabWidget& tabs) {
     std::vector<Place> places;
+    places.reserve(static_cast<std::size_t>(tabs.count()));
     for (int tab = 0; tab < tabs.count(); ++tab)
         places.push_back(
             {tabs.tabText(tab), [&tabs, tab](const QString& text) { tabs.setTabText(tab, text); }});

@@ -143,35 +143,34 @@ void PatternPicker::mousePressEvent(QMouseEvent* event) {
     if (box != NoBox) Choose(box);
 }
 
-void PatternPicker::keyPressEvent(QKeyEvent* event) {
+/// Where a key leads from a box; nothing for a key that leads nowhere.
+std::optional<int> PatternPicker::BoxByKey(int key, int from) const {
     const int last = static_cast<int>(boxes_.size()) - 1;
-    const int selected = SelectedBox();
-    const int from = std::max(0, selected);
-    int to = from;
-    switch (event->key()) {
+    switch (key) {
     case Qt::Key_Left:
-        to = std::max(0, from - 1);
-        break;
+        return std::max(0, from - 1);
     case Qt::Key_Right:
-        to = std::min(last, from + 1);
-        break;
+        return std::min(last, from + 1);
     case Qt::Key_Up:
-        to = BoxBeside(from, {0, -1});
-        break;
+        return BoxBeside(from, {0, -1});
     case Qt::Key_Down:
-        to = BoxBeside(from, {0, 1});
-        break;
+        return BoxBeside(from, {0, 1});
     case Qt::Key_Home:
-        to = 0;
-        break;
+        return 0;
     case Qt::Key_End:
-        to = last;
-        break;
+        return last;
     default:
-        QWidget::keyPressEvent(event);
-        return;
+        return std::nullopt;
     }
-    if (to != selected) Choose(to);
+}
+
+void PatternPicker::keyPressEvent(QKeyEvent* event) {
+    const int selected = SelectedBox();
+    const std::optional<int> to = BoxByKey(event->key(), std::max(0, selected));
+    if (!to)
+        QWidget::keyPressEvent(event);
+    else if (*to != selected)
+        Choose(*to);
 }
 
 /// The boxes' insides as a chart would be filled, in device pixels.

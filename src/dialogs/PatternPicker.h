@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace QmChart6 {
@@ -57,6 +58,7 @@ private:
     [[nodiscard]] int SelectedBox() const;
     [[nodiscard]] int BoxAt(QPoint place) const;
     [[nodiscard]] int BoxBeside(int box, QPoint direction) const;
+    [[nodiscard]] std::optional<int> BoxByKey(int key, int from) const;
     void Choose(int box);
     [[nodiscard]] QImage Swatches(double pixelRatio) const;
 

@@ -91,7 +91,7 @@ void PropertyDialog::RunLoop(const std::function<void()>& writeBack) {
     applyPressed_ = true;
     while (applyPressed_) {
         cancelled_ = true; // what counts where the dialog is left in no way at all
-        if (!ownerGone_) CurrentDesktop().RunModal(*this);
+        CurrentDesktop().RunModal(*this);
         if (cancelled_) {
             applyPressed_ = false;
             return;
@@ -120,10 +120,12 @@ void PropertyDialog::Apply() {
 }
 
 void PropertyDialog::OwnerWentAway() {
-    ownerGone_ = true;
     for (QDialog* opened : findChildren<QDialog*>())
         if (opened->isWindow()) opened->reject();
     if (isVisible()) reject();
+    // OK or Apply may have been pressed, and nothing be written yet.
+    cancelled_ = true;
+    applyPressed_ = false;
 }
 
 bool PropertyDialog::eventFilter(QObject* watched, QEvent* event) {

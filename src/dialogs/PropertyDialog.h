@@ -44,8 +44,8 @@ protected:
     /// Where the dialog's own controls go, above the buttons.
     [[nodiscard]] QVBoxLayout& Body() { return *body_; }
     [[nodiscard]] QDialogButtonBox& ButtonBox() { return *buttonBox_; }
-    /// Ends the making of a dialog: gives captions their Alt keys and keeps what is narrower than its text
-    /// from being made so.
+    /// Ends the making of a dialog: gives captions their Alt keys and the tabs their name, and makes OK the
+    /// only default button.
     void Finish();
     /// The text box that has the focus when the dialog is first shown, all selected, if it is enabled.
     void SetFirstText(QLineEdit& text) { firstText_ = &text; }
@@ -67,7 +67,6 @@ private:
     [[nodiscard]] bool TakesKey(QObject* watched, QEvent* event);
 
     QPointer<QWidget> owner_;
-    bool ownerGone_ = false;
     QVBoxLayout* body_;
     QDialogButtonBox* buttonBox_;
     QPushButton* btnOK_ = nullptr;

@@ -207,6 +207,33 @@ TEST_F(PropertyDialogTest, ItsPickerEndsWithItWhenTheOwnerGoesAway) {
     EXPECT_TRUE(cancelled);
 }
 
+TEST_F(PropertyDialogTest, WritesNothingWhenTheOwnerGoesAwayRightAfterOk) {
+    auto owner = std::make_unique<QWidget>();
+    owner->show();
+    desktop.deals = {[&](QDialog& form) {
+        The<QLineEdit>(form, "TText").setText(QStringLiteral("New"));
+        Ok(form);
+        owner.reset();
+    }};
+    EditTitle(owner.get());
+    EXPECT_TRUE(cancelled);
+    EXPECT_EQ(viewer.Model().Title.Text, "Title");
+}
+
+TEST_F(PropertyDialogTest, StandsOverItsOwner) {
+    QWidget owner;
+    owner.setGeometry(300, 200, 400, 300);
+    owner.show();
+    QApplication::processEvents();
+    desktop.deals = {[&](QDialog& form) {
+        const QPoint off = form.geometry().center() - owner.geometry().center();
+        EXPECT_LT(std::abs(off.x()), 20);
+        EXPECT_LT(std::abs(off.y()), 40);
+    }};
+    EditTitle(&owner);
+    EXPECT_EQ(desktop.shown, 1);
+}
+
 TEST_F(PropertyDialogTest, WritesNothingMoreWhenTheOwnerGoesAwayOnceApplyHasWritten) {
     auto owner = std::make_unique<QWidget>();
     owner->show();
