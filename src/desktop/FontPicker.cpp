@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -22,6 +23,8 @@ QFont FontOf(const FontChoice& choice) {
     return font;
 }
 
+constexpr QSize MinimumFontsSize{460, 320}; // logical pixels
+
 QIcon Swatch(const QColor& colour, const QColor& frame, QSize size, double pixelRatio) {
     QPixmap picture(size * pixelRatio);
     picture.setDevicePixelRatio(pixelRatio);
@@ -40,6 +43,9 @@ FontPicker::FontPicker(const FontChoice& start, const FontPickerTexts& texts, QW
     fonts_->setWindowFlags(Qt::Widget);
     fonts_->setOptions(QFontDialog::DontUseNativeDialog | QFontDialog::NoButtons);
     fonts_->setSizeGripEnabled(false);
+    fonts_->setMinimumSize(MinimumFontsSize);
+    fonts_->layout()->setContentsMargins({});
+    fonts_->installEventFilter(this);
     fonts_->setCurrentFont(FontOf(start));
     shownFirst_ = fonts_->currentFont();
     btnColour_->setObjectName(QStringLiteral("btnColour"));
@@ -63,6 +69,18 @@ FontPicker::FontPicker(const FontChoice& start, const FontPickerTexts& texts, QW
     column->addWidget(fonts_, 1);
     column->addLayout(foot);
     ShowColour();
+}
+
+/// A dialog without buttons would keep Enter for itself.
+bool FontPicker::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<const QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            accept();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 FontChoice FontPicker::Choice() const {

@@ -21,6 +21,9 @@ public:
     /// something else for it: a font that is not installed, or a size with a fraction.
     [[nodiscard]] FontChoice Choice() const;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void PickColour();
     void ShowColour();

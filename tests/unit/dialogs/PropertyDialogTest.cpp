@@ -347,6 +347,29 @@ TEST(FontPicker, GivesTheColourAndTheEffectsThatWereChosen) {
     EXPECT_EQ(desktop.colourStarts[0], QColor(Qt::blue));
 }
 
+TEST(FontPicker, EnterActsAsOkAndEscapeAsCancelWhereverTheFocusIs) {
+    for (const auto& [key, result] :
+         {std::pair(Qt::Key_Return, QDialog::Accepted), std::pair(Qt::Key_Escape, QDialog::Rejected)}) {
+        FontPicker picker(FontChoice(), {.title = {}, .colour = "Color", .ok = "OK", .cancel = "Cancel"},
+                          nullptr);
+        int tried = 0;
+        for (QWidget* control : picker.findChildren<QWidget*>()) {
+            const bool inDialog = control->window() == &picker && control->focusPolicy() != Qt::NoFocus;
+            if (!inDialog || qobject_cast<QPushButton*>(control) != nullptr) continue;
+            picker.show();
+            QApplication::setActiveWindow(&picker);
+            if (!control->isVisible()) continue;
+            ++tried;
+            picker.setResult(99);
+            PressKey(*control, key);
+            EXPECT_EQ(picker.result(), result) << control->metaObject()->className();
+            EXPECT_FALSE(picker.isVisible()) << control->metaObject()->className();
+            picker.findChild<QFontDialog*>()->show();
+        }
+        EXPECT_GE(tried, 8);
+    }
+}
+
 TEST(QtDesktop, APickerThatIsEscapedGivesNothing) {
     QtDesktop desktop;
     const Person<FontPicker> fonts([](FontPicker& picker) { QTest::keyClick(&picker, Qt::Key_Escape); });
