@@ -8,6 +8,10 @@ namespace QmChart6 {
 inline constexpr int TwipsPerPixel = 15;
 inline constexpr double PointsPerPixel = 0.75;
 
+/// What a window's frame adds to its inside, in twips; the same on every desktop, so that sizes are too.
+inline constexpr int NominalFrameWidth = 120;
+inline constexpr int NominalFrameHeight = 405;
+
 inline int PixelsOfTwips(int twips) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / TwipsPerPixel));
 }

@@ -155,16 +155,17 @@ void SetProjection(Chart& chart, int projection) {
     chart.Plot.Projection = ToProjection(projection);
 }
 
+LabelLocation FittedLocation(ChartType type, LabelLocation location) {
+    if (location == LabelLocation::None) return location;
+    if (type == ChartType::Pie2D) return FittedToPie(location);
+    if (type == ChartType::XY2D) return FittedToXY(location);
+    return FittedToAxes(location);
+}
+
 void FitDataLabelLocations(Chart& chart) {
     for (int number = 1; number <= chart.Plot.SeriesCollection.Count(); ++number) {
         LabelLocation& location = AllPoints(chart, number).DataPointLabel.LocationType;
-        if (location == LabelLocation::None) continue;
-        if (chart.chartType() == ChartType::Pie2D)
-            location = FittedToPie(location);
-        else if (chart.chartType() == ChartType::XY2D)
-            location = FittedToXY(location);
-        else
-            location = FittedToAxes(location);
+        location = FittedLocation(chart.chartType(), location);
     }
 }
 

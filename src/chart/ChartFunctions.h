@@ -37,6 +37,9 @@ void SetPieLabelPosition(Chart& chart, int position);
 void SetBackgroundColor(Chart& chart, std::int32_t colour);
 void SetProjection(Chart& chart, int projection);
 
+/// The location that stands for `location` in charts of a type; itself where they have it.
+LabelLocation FittedLocation(ChartType type, LabelLocation location);
+
 /// Moves data labels to a location that the present type of chart has.
 void FitDataLabelLocations(Chart& chart);
 

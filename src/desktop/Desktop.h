@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QColor>
 #include <QString>
 
 #include <memory>
 #include <optional>
 
+class QDialog;
 class QMimeData;
 class QPrinter;
 class QWidget;
@@ -21,6 +23,27 @@ struct SaveFileRequest {
     QString suffix;
 };
 
+/// A font as a person chooses it. `size` in points.
+struct FontChoice {
+    QString family;
+    double size = 9;
+    bool bold = false;
+    bool italic = false;
+    bool strikethrough = false;
+    bool underline = false;
+    QColor colour{};
+
+    friend bool operator==(const FontChoice&, const FontChoice&) = default;
+};
+
+/// The words of a font picker; a mnemonic is marked by "&".
+struct FontPickerTexts {
+    QString title;
+    QString colour;
+    QString ok;
+    QString cancel;
+};
+
 /// What the product asks of a desktop. Everything that would wait for a person goes through here, so that
 /// each flow runs unattended too.
 class Desktop {
@@ -34,6 +57,17 @@ public:
     /// The file that the person chose to write to, asked once more before an existing one is overwritten;
     /// nothing when cancelled.
     virtual std::optional<QString> PickSaveFile(QWidget* owner, const SaveFileRequest& request) = 0;
+
+    /// Shows a dialog and waits until it is accepted or rejected.
+    virtual void RunModal(QDialog& dialog) = 0;
+
+    /// The colour that the person chose; nothing when cancelled. `owner` may be null.
+    virtual std::optional<QColor> PickColour(QWidget* owner, const QColor& start, const QString& title) = 0;
+
+    /// The font that the person chose; nothing when cancelled. What they did not touch stays as in `start`,
+    /// a font that is not installed too. `owner` may be null.
+    virtual std::optional<FontChoice> PickFont(QWidget* owner, const FontChoice& start,
+                                               const FontPickerTexts& texts) = 0;
 
     virtual void SetClipboard(std::unique_ptr<QMimeData> content) = 0;
     /// What the clipboard holds; owned by the clipboard. May be null.

@@ -1,5 +1,7 @@
 #include "desktop/HeadlessDesktop.h"
 
+#include <QDialog>
+
 #include <cstdio>
 
 namespace QmChart6 {
@@ -12,6 +14,20 @@ Answer HeadlessDesktop::ShowMessage(QWidget* /*owner*/, const QString& text, con
 }
 
 std::optional<QString> HeadlessDesktop::PickSaveFile(QWidget* /*owner*/, const SaveFileRequest& /*request*/) {
+    return std::nullopt;
+}
+
+void HeadlessDesktop::RunModal(QDialog& dialog) {
+    dialog.reject();
+}
+
+std::optional<QColor> HeadlessDesktop::PickColour(QWidget* /*owner*/, const QColor& /*start*/,
+                                                  const QString& /*title*/) {
+    return std::nullopt;
+}
+
+std::optional<FontChoice> HeadlessDesktop::PickFont(QWidget* /*owner*/, const FontChoice& /*start*/,
+                                                    const FontPickerTexts& /*texts*/) {
     return std::nullopt;
 }
 

@@ -1,6 +1,9 @@
 #include "desktop/QtDesktop.h"
 
+#include "desktop/FontPicker.h"
+
 #include <QClipboard>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -58,6 +61,25 @@ std::optional<QString> QtDesktop::PickSaveFile(QWidget* owner, const SaveFileReq
     dialog->setDefaultSuffix(request.suffix);
     if (Run(dialog) != QDialog::Accepted || dialog->selectedFiles().isEmpty()) return std::nullopt;
     return dialog->selectedFiles().front();
+}
+
+void QtDesktop::RunModal(QDialog& dialog) {
+    dialog.exec();
+}
+
+std::optional<QColor> QtDesktop::PickColour(QWidget* owner, const QColor& start, const QString& title) {
+    const DialogScope picker(new QColorDialog(start, owner));
+    const QPointer<QColorDialog>& dialog = picker.Get();
+    dialog->setWindowTitle(title);
+    if (Run(dialog) != QDialog::Accepted || !dialog->selectedColor().isValid()) return std::nullopt;
+    return dialog->selectedColor();
+}
+
+std::optional<FontChoice> QtDesktop::PickFont(QWidget* owner, const FontChoice& start,
+                                              const FontPickerTexts& texts) {
+    const DialogScope picker(new FontPicker(start, texts, owner));
+    if (Run(picker.Get()) != QDialog::Accepted) return std::nullopt;
+    return picker.Get()->Choice();
 }
 
 void QtDesktop::SetClipboard(std::unique_ptr<QMimeData> content) {

@@ -10,6 +10,10 @@ public:
     Answer ShowMessage(QWidget* owner, const QString& text, const QString& title,
                        MessageButtons buttons) override;
     std::optional<QString> PickSaveFile(QWidget* owner, const SaveFileRequest& request) override;
+    void RunModal(QDialog& dialog) override;
+    std::optional<QColor> PickColour(QWidget* owner, const QColor& start, const QString& title) override;
+    std::optional<FontChoice> PickFont(QWidget* owner, const FontChoice& start,
+                                       const FontPickerTexts& texts) override;
     void SetClipboard(std::unique_ptr<QMimeData> content) override;
     [[nodiscard]] const QMimeData* Clipboard() const override;
     void ClearClipboard() override;

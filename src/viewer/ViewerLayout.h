@@ -1,13 +1,13 @@
 #pragma once
 
+#include "base/Twips.h"
+
 #include <optional>
 
 namespace QmChart6 {
 
 // Where things stand in a viewer, in twips. A window's width and height are those of its client area plus a
 // nominal frame, whatever the desktop's real frame is, so that the chart's margins come out even.
-inline constexpr int NominalFrameWidth = 120;
-inline constexpr int NominalFrameHeight = 405;
 
 // What a window's width and height hold beside the chart and the bars: that frame, and the chart's margins.
 inline constexpr int ReservedWidth = 180;

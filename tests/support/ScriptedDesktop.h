@@ -18,14 +18,18 @@ public:
 
     /// The answers to messages in turn; OK or No when there are none left.
     std::deque<QmChart6::Answer> answers;
-    /// What the picker gives in turn; nothing when there are none left.
+    /// What the pickers give in turn; nothing when there are none left.
     std::deque<QString> files;
+    std::deque<QColor> colours;
+    std::deque<QmChart6::FontChoice> fonts;
     /// The default printer's name, and the PDF file that it prints into.
     std::optional<QString> printer;
     QString printerFile;
 
     QList<Message> messages;
     QList<QmChart6::SaveFileRequest> pickers;
+    QList<QColor> colourStarts;
+    QList<QmChart6::FontChoice> fontStarts;
 
     QmChart6::Answer ShowMessage(QWidget* /*owner*/, const QString& text, const QString& title,
                                  QmChart6::MessageButtons buttons) override {
@@ -41,10 +45,19 @@ public:
     std::optional<QString> PickSaveFile(QWidget* /*owner*/,
                                         const QmChart6::SaveFileRequest& request) override {
         pickers.append(request);
-        if (files.empty()) return std::nullopt;
-        const QString file = files.front();
-        files.pop_front();
-        return file;
+        return Next(files);
+    }
+
+    std::optional<QColor> PickColour(QWidget* /*owner*/, const QColor& start,
+                                     const QString& /*title*/) override {
+        colourStarts.append(start);
+        return Next(colours);
+    }
+
+    std::optional<QmChart6::FontChoice> PickFont(QWidget* /*owner*/, const QmChart6::FontChoice& start,
+                                                 const QmChart6::FontPickerTexts& /*texts*/) override {
+        fontStarts.append(start);
+        return Next(fonts);
     }
 
     [[nodiscard]] std::optional<QString> DefaultPrinter() const override { return printer; }
@@ -54,5 +67,14 @@ public:
         page->setOutputFormat(QPrinter::PdfFormat);
         page->setOutputFileName(printerFile);
         return page;
+    }
+
+private:
+    template<class Item>
+    static std::optional<Item> Next(std::deque<Item>& queue) {
+        if (queue.empty()) return std::nullopt;
+        const Item item = queue.front();
+        queue.pop_front();
+        return item;
     }
 };

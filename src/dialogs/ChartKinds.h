@@ -1,0 +1,31 @@
+#pragma once
+
+#include "chartcontrol/model/Enumerations.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace QmChart6 {
+
+/// The kinds of chart in a dimension, in the order of the list that offers them, for a chart with one data
+/// column or more.
+std::vector<ChartType> ChartKinds(bool threeD, bool oneColumn);
+
+/// What a kind is called in that list, in the process' language.
+QString ChartKindText(ChartType kind);
+
+/// The data-label locations that charts of a type have, in the order of the list that offers them.
+std::vector<LabelLocation> LabelLocations(ChartType type);
+
+/// What the locations are called, in that order.
+QStringList LabelLocationTexts(ChartType type);
+
+/// Where a location stands in that list; one that charts of the type do not have stands where the one that
+/// takes its place does.
+int IndexOfLabelLocation(ChartType type, LabelLocation location);
+
+/// The label line styles by their number, in the process' language.
+QStringList LabelLineTexts();
+
+} // namespace QmChart6

@@ -1,0 +1,39 @@
+#include "dialogs/ColourBox.h"
+
+#include "desktop/Desktop.h"
+
+#include <QPainter>
+
+namespace QmChart6 {
+
+std::int32_t NumberOf(const QColor& colour) {
+    return colour.red() | colour.green() << 8 | colour.blue() << 16;
+}
+
+ColourBox::ColourBox(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void ColourBox::SetBackColor(const QColor& colour) {
+    colour_ = colour;
+    setAccessibleDescription(colour.name());
+    setToolTip(colour.name());
+    update();
+}
+
+bool ColourBox::Pick(const QString& title) {
+    const auto picked = CurrentDesktop().PickColour(window(), colour_, title);
+    if (picked) SetBackColor(*picked);
+    return picked.has_value();
+}
+
+void ColourBox::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    QColor frame = palette().color(QPalette::WindowText);
+    frame.setAlphaF(0.5F);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.fillRect(rect(), frame);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), colour_);
+}
+
+} // namespace QmChart6

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "chartcontrol/model/Drawing.h"
+
+#include <QColor>
+#include <QWidget>
+
+#include <cstdint>
+
+namespace QmChart6 {
+
+/// A colour as one number: red in the low byte, then green, then blue.
+std::int32_t NumberOf(const QColor& colour);
+
+/// A small framed box that shows a colour, and holds it.
+class ColourBox : public QWidget {
+public:
+    explicit ColourBox(QWidget* parent = nullptr);
+
+    [[nodiscard]] const QColor& BackColor() const { return colour_; }
+    void SetBackColor(const QColor& colour);
+
+    [[nodiscard]] QSize sizeHint() const override { return {48, 22}; }
+
+    /// Asks the person for another colour, starting from the one that is held; cancelled, it stays. Says
+    /// whether there is another one.
+    bool Pick(const QString& title);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor colour_{Qt::white};
+};
+
+} // namespace QmChart6

@@ -1,0 +1,289 @@
+#include "dialogs/GraphSeriesProperties.h"
+
+#include "chartcontrol/paint/QtColour.h"
+#include "dialogs/Captions.h"
+#include "dialogs/ChartKinds.h"
+#include "dialogs/ColourBox.h"
+#include "dialogs/PatternPicker.h"
+#include "qmchart6/RuntimeError.h"
+#include "text/LocalText.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr int ColorKey = 91;
+constexpr int MinimumListWidth = 180; // logical pixels
+
+/// The types in the order of cbType, as 2D series have them.
+constexpr std::array TypesInOrder{SeriesType::Bar2D,  SeriesType::Line2D, SeriesType::Area2D,
+                                  SeriesType::Step2D, SeriesType::XY2D,   SeriesType::Pie2D};
+
+Series& Resolved(const SeriesTarget& target) {
+    Series* series = target ? target() : nullptr;
+    if (series == nullptr)
+        throw RuntimeError(ErrorNumber::ObjectNotSet,
+                           QStringLiteral("The series to edit is gone from the chart."));
+    return *series;
+}
+
+int Bit(const QCheckBox& box, int bit) {
+    return box.isChecked() ? bit : 0;
+}
+
+/// A page whose controls stand in rows of a caption and what it is for, at the top.
+QGridLayout* NewGrid(QWidget* page) {
+    auto* column = new QVBoxLayout(page);
+    auto* grid = new QGridLayout;
+    column->addLayout(grid);
+    column->addStretch(1);
+    grid->setColumnStretch(1, 1);
+    return grid;
+}
+
+} // namespace
+
+GraphSeriesProperties::GraphSeriesProperties(QWidget* owner)
+    : PropertyDialog(owner, Buttons::OkCancelApply), tabSeries_(new QTabWidget(this)) {
+    setObjectName(QStringLiteral("GraphSeriesProperties"));
+    setWindowTitle(LocalText(7));
+    tabSeries_->setObjectName(QStringLiteral("tabSeries"));
+    tabSeries_->addTab(MakeGeneral(), LocalText(29));
+    tabSeries_->addTab(MakeLabels(), LocalText(32));
+    tabSeries_->addTab(MakeStyle(), LocalText(88));
+    tabSeries_->addTab(MakeStatistics(), LocalText(92));
+    tabSeries_->setUsesScrollButtons(false); // the form is as wide as its tabs
+    Body().addWidget(tabSeries_);
+    Finish();
+    SetFirstText(*txtName_);
+}
+
+QWidget* GraphSeriesProperties::MakeGeneral() {
+    auto* page = new QWidget(this);
+    QGridLayout* grid = NewGrid(page);
+    txtName_ = new QLineEdit(page);
+    txtName_->setObjectName(QStringLiteral("txtName"));
+    grid->addWidget(NewLabel(page, "lblName", LocalText(89), *txtName_), 0, 0);
+    grid->addWidget(txtName_, 0, 1);
+    cbType_ = new QComboBox(page);
+    cbType_->setObjectName(QStringLiteral("cbType"));
+    cbType_->setMinimumWidth(MinimumListWidth);
+    grid->addWidget(NewLabel(page, "lblType", LocalText(90), *cbType_), 1, 0);
+    grid->addWidget(cbType_, 1, 1);
+    auto* btnColor = new QPushButton(WithDots(LocalText(ColorKey)), page);
+    Describe(*btnColor, "btnColor", LocalText(ColorKey), LocalText(29));
+    pbColor_ = new ColourBox(page);
+    Describe(*pbColor_, "pbColor", LocalText(ColorKey));
+    grid->addWidget(btnColor, 2, 0);
+    grid->addWidget(pbColor_, 2, 1);
+    const QString title = LocalText(ColorKey);
+    connect(btnColor, &QPushButton::clicked, this, [this, title] {
+        if (pbColor_->Pick(title)) ShowColours();
+    });
+    return page;
+}
+
+QWidget* GraphSeriesProperties::MakeLabels() {
+    auto* page = new QWidget(this);
+    QGridLayout* grid = NewGrid(page);
+    cbLabels_ = new QComboBox(page);
+    cbLabels_->setObjectName(QStringLiteral("cbLabels"));
+    grid->addWidget(NewLabel(page, "lblDataLabels", LocalText(60), *cbLabels_), 0, 0);
+    grid->addWidget(cbLabels_, 0, 1);
+    cbLines_ = new QComboBox(page);
+    cbLines_->setObjectName(QStringLiteral("cbLines"));
+    grid->addWidget(NewLabel(page, "lblLabelLines", LocalText(61), *cbLines_), 1, 0);
+    grid->addWidget(cbLines_, 1, 1);
+    constexpr std::array Keys{63, 64, 62};
+    constexpr std::array Names{"chkComponent0", "chkComponent1", "chkComponent2"};
+    for (std::size_t bit = 0; bit < ComponentCount; ++bit) {
+        chkComponent_[bit] = NewBox(page, Names[bit], Keys[bit]);
+        grid->addWidget(chkComponent_[bit], static_cast<int>(bit) + 2, 0, 1, 2);
+    }
+    return page;
+}
+
+QWidget* GraphSeriesProperties::MakeStyle() {
+    auto* page = new QWidget(this);
+    QGridLayout* grid = NewGrid(page);
+    auto* btnStyleColor = new QPushButton(WithDots(LocalText(ColorKey)), page);
+    Describe(*btnStyleColor, "btnStyleColor", LocalText(ColorKey), LocalText(88));
+    pbStyleColor_ = new ColourBox(page);
+    Describe(*pbStyleColor_, "pbStyleColor", LocalText(ColorKey), LocalText(88));
+    auto* row = new QHBoxLayout;
+    row->addWidget(btnStyleColor);
+    row->addWidget(pbStyleColor_);
+    row->addStretch(1);
+    grid->addLayout(row, 0, 0, 1, 2);
+    picStyle_ = new PatternPicker(page);
+    Describe(*picStyle_, "picStyle", LocalText(88));
+    grid->addWidget(picStyle_, 1, 0, 1, 2, Qt::AlignLeft);
+    const QString title = LocalText(ColorKey);
+    connect(btnStyleColor, &QPushButton::clicked, this, [this, title] {
+        if (pbStyleColor_->Pick(title)) ShowColours();
+    });
+    return page;
+}
+
+QWidget* GraphSeriesProperties::MakeStatistics() {
+    auto* page = new QWidget(this);
+    auto* column = new QVBoxLayout(page);
+    column->addWidget(chkMin_ = NewBox(page, "chkMin", 93));
+    column->addWidget(chkMax_ = NewBox(page, "chkMax", 94));
+    column->addWidget(chkStdDev_ = NewBox(page, "chkStdDev", 95));
+    column->addWidget(chkMean_ = NewBox(page, "chkMean", 96));
+    column->addWidget(chkReg_ = NewBox(page, "chkReg", 97));
+    column->addStretch(1);
+    return page;
+}
+
+QCheckBox* GraphSeriesProperties::NewBox(QWidget* page, const char* name, int textKey) {
+    auto* box = new QCheckBox(LocalText(textKey), page);
+    Describe(*box, name, LocalText(textKey));
+    return box;
+}
+
+void GraphSeriesProperties::Execute(const SeriesTarget& QmSeries, ChartType QMChartType, QString& Label) {
+    chartType_ = QMChartType;
+    is3D_ = Is3D(QMChartType);
+    Fill(Resolved(QmSeries), Label);
+    RunLoop([&] { WriteBack(Resolved(QmSeries), Label); });
+}
+
+void GraphSeriesProperties::Fill(const Series& series, const QString& label) {
+    const DataPoint& points = series.DataPoints.Item(DataPoints::All);
+    txtName_->setText(label);
+    FillTypes();
+    cbLabels_->clear();
+    cbLabels_->addItems(LabelLocationTexts(chartType_));
+    cbLines_->clear();
+    cbLines_->addItems(LabelLineTexts());
+    cbLines_->setCurrentIndex(static_cast<int>(points.DataPointLabel.LineStyle));
+    for (std::size_t bit = 0; bit < ComponentCount; ++bit)
+        chkComponent_[bit]->setChecked((points.DataPointLabel.Component & (1 << bit)) != 0);
+    SetSeriesType(static_cast<std::int16_t>(series.SeriesType));
+    pbColor_->SetBackColor(QtColourOf(points.Brush.FillColor));
+    pbStyleColor_->SetBackColor(QtColourOf(points.Brush.PatternColor));
+    ShowColours();
+    SetQmStyle(static_cast<int>(points.Brush.Style));
+    SetQmIndex(points.Brush.Index);
+    SetQmLabels(static_cast<std::int16_t>(points.DataPointLabel.LocationType));
+    const int flag = series.StatLine.Flag;
+    chkMin_->setChecked((flag & StatMinimum) != 0);
+    chkMax_->setChecked((flag & StatMaximum) != 0);
+    chkMean_->setChecked((flag & StatMean) != 0);
+    chkStdDev_->setChecked((flag & StatStandardDeviation) != 0);
+    chkReg_->setChecked((flag & StatRegression) != 0);
+}
+
+/// A series has a type of its own only in a combination.
+void GraphSeriesProperties::FillTypes() {
+    const bool combination = IsCombination(chartType_);
+    cbType_->clear();
+    cbType_->addItems({LocalText(20), LocalText(21), LocalText(22), LocalText(23)});
+    if (!combination && !is3D_) cbType_->addItems({LocalText(87), LocalText(25)});
+    cbType_->setEnabled(combination);
+}
+
+void GraphSeriesProperties::WriteBack(Series& series, QString& label) const {
+    label = txtName_->text();
+    series.SeriesType = ToSeriesType(SeriesType());
+    const QColor& fill = pbColor_->BackColor();
+    series.StatLine.VtColor.Set(fill.red(), fill.green(), fill.blue());
+    series.StatLine.Flag = Bit(*chkReg_, StatRegression) + Bit(*chkStdDev_, StatStandardDeviation) +
+                           Bit(*chkMean_, StatMean) + Bit(*chkMax_, StatMaximum) + Bit(*chkMin_, StatMinimum);
+    DataPoint& points = series.DataPoints.Item(DataPoints::All);
+    WriteBrush(points.Brush);
+    WriteLabels(points.DataPointLabel);
+}
+
+void GraphSeriesProperties::WriteBrush(Brush& brush) const {
+    const QColor& fill = pbColor_->BackColor();
+    const QColor& pattern = pbStyleColor_->BackColor();
+    // Solid first, so that a control which fills nothing takes the fill colour too.
+    brush.Style = BrushStyle::Solid;
+    brush.FillColor.Set(fill.red(), fill.green(), fill.blue());
+    brush.Style = ToBrushStyle(QmStyle());
+    brush.Index = QmIndex();
+    brush.PatternColor.Set(pattern.red(), pattern.green(), pattern.blue());
+}
+
+void GraphSeriesProperties::WriteLabels(DataPointLabel& label) const {
+    label.ResetCustomLabel();
+    label.LocationType = ToLabelLocation(QmLabels());
+    label.LineStyle = ToLabelLineStyle(cbLines_->currentIndex());
+    label.PercentFormat = QStringLiteral("0.0%");
+    label.Component = 0;
+    for (std::size_t bit = 0; bit < ComponentCount; ++bit)
+        label.Component += Bit(*chkComponent_[bit], 1 << bit);
+}
+
+std::int16_t GraphSeriesProperties::QmLabels() const {
+    const std::vector<LabelLocation> locations = LabelLocations(chartType_);
+    return static_cast<std::int16_t>(locations.at(static_cast<std::size_t>(cbLabels_->currentIndex())));
+}
+
+void GraphSeriesProperties::SetQmLabels(std::int16_t code) {
+    cbLabels_->setCurrentIndex(IndexOfLabelLocation(chartType_, ToLabelLocation(code)));
+}
+
+int GraphSeriesProperties::QmStyle() const {
+    return static_cast<int>(picStyle_->Style());
+}
+
+void GraphSeriesProperties::SetQmStyle(int style) {
+    DrawBox(style, QmIndex());
+}
+
+int GraphSeriesProperties::QmIndex() const {
+    return picStyle_->Index();
+}
+
+void GraphSeriesProperties::SetQmIndex(int index) {
+    DrawBox(QmStyle(), index);
+}
+
+void GraphSeriesProperties::DrawBox(int style, int index) {
+    picStyle_->Select(ToBrushStyle(style), index);
+}
+
+std::int16_t GraphSeriesProperties::SeriesType() const {
+    const auto type = static_cast<int>(TypesInOrder.at(static_cast<std::size_t>(cbType_->currentIndex())));
+    return static_cast<std::int16_t>(is3D_ ? type - 1 : type);
+}
+
+void GraphSeriesProperties::SetSeriesType(std::int16_t type) {
+    ToSeriesType(type); // raises for what is none
+    // A 3D type stands right below its 2D one, and shares its place.
+    constexpr int PieIndex = 5;
+    int index = (type - 3) / 2;
+    if (type == static_cast<int>(QmChart6::SeriesType::Pie2D))
+        index = PieIndex;
+    else if (type <= static_cast<int>(QmChart6::SeriesType::Bar2D))
+        index = 0;
+    if (index >= cbType_->count())
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("The series' type must be one that its chart offers."));
+    cbType_->setCurrentIndex(index);
+}
+
+void GraphSeriesProperties::ShowColours() {
+    const QColor& fill = pbColor_->BackColor();
+    const QColor& pattern = pbStyleColor_->BackColor();
+    Colour fillColour;
+    Colour patternColour;
+    fillColour.Set(fill.red(), fill.green(), fill.blue());
+    patternColour.Set(pattern.red(), pattern.green(), pattern.blue());
+    picStyle_->SetColours(fillColour, patternColour);
+}
+
+} // namespace QmChart6

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "chartcontrol/model/Enumerations.h"
+#include "dialogs/GraphTypesControls.h"
+#include "dialogs/PropertyDialog.h"
+
+#include <QColor>
+
+#include <cstdint>
+
+namespace QmChart6 {
+
+struct Chart;
+struct DataPointLabel;
+class SeriesCollection;
+class Viewer;
+
+/// Edits the look of a viewer's whole chart, and shows each change at once on a sample of its own. The
+/// viewer's chart changes on OK and Apply only.
+class GraphTypes : public PropertyDialog {
+    Q_OBJECT
+
+public:
+    explicit GraphTypes(QWidget* owner);
+    ~GraphTypes() override;
+
+    /// Edits the chart of a viewer until the dialog is left. Opening it sets the size of every series'
+    /// markers to 10 points.
+    void Execute(Viewer& viewer);
+
+    /// The chart type that the type controls stand for. Writing a number that is none raises 380.
+    [[nodiscard]] std::int16_t Selected() const;
+    void SetSelected(std::int16_t type);
+
+    /// The data-label location that cbLabels stands for. A location that charts of the type do not have
+    /// selects the one that takes its place.
+    [[nodiscard]] std::int16_t QmLabels() const;
+    void SetQmLabels(std::int16_t code);
+
+private:
+    void Connect();
+    void ConnectOptions();
+    void ConnectAxes();
+
+    void MakeSample(const Chart& chart);
+    void Fill(Viewer& viewer);
+    void FillOptions(const Viewer& viewer, const Chart& chart);
+    void FillAxes(const Chart& chart);
+    void FillLabels(const SeriesCollection& series);
+
+    /// Fills the list of kinds for the dimension, and selects one of them.
+    void FillKinds(int index);
+    void ChooseDimension();
+    void ChooseKind();
+    void EnableForKind(ChartType kind);
+    void RefillLabels(ChartType kind);
+    void StackClicked();
+    void SeriesInRowsClicked();
+    void AxisClicked(std::size_t axis);
+    void PickBackColor();
+    [[nodiscard]] Chart& Sample();
+    void RefreshSample();
+    /// The sample has as many columns as the viewer's chart.
+    [[nodiscard]] bool SampleHasOneColumn() const;
+
+    void WriteBack(Viewer& viewer) const;
+    void WriteOptions(Chart& chart) const;
+    void WriteAxes(Chart& chart) const;
+    void WriteLabels(Chart& chart) const;
+    void WriteComponents(DataPointLabel& label) const;
+
+    GraphTypesControls form_;
+    /// The kind whose locations cbLabels offers.
+    ChartType labelsOf_ = ChartType::Bar2D;
+    bool filling_ = false;
+};
+
+} // namespace QmChart6

@@ -1,0 +1,179 @@
+// Grabs every dialog, each of its pages, in four languages into one picture a dialog: what a person looks
+// through after a change. Usage: contact_sheet FOLDER light|dark. QT_SCALE_FACTOR sets the scale.
+
+#include "chart/DefaultLook.h"
+#include "desktop/Application.h"
+#include "desktop/FontPicker.h"
+#include "desktop/QtDesktop.h"
+#include "dialogs/GraphSeriesProperties.h"
+#include "dialogs/GraphTextProperties.h"
+#include "dialogs/GraphTypes.h"
+#include "support/PlainViewer.h"
+#include "support/SampleCharts.h"
+#include "text/LocalText.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QTabWidget>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <string_view>
+#include <utility>
+
+using namespace QmChart6;
+
+namespace {
+
+constexpr int LanguageCount = 4;
+constexpr int Gap = 16;
+
+using Row = QList<QPixmap>;
+
+/// A desktop that looks at each dialog and lets it go.
+class GrabbingDesktop : public QtDesktop {
+public:
+    Row row;
+
+    void RunModal(QDialog& dialog) override {
+        dialog.show();
+        QApplication::processEvents();
+        if (auto* tabs = dialog.findChild<QTabWidget*>()) {
+            for (int tab = 0; tab < tabs->count(); ++tab) {
+                tabs->setCurrentIndex(tab);
+                QApplication::processEvents();
+                row.append(dialog.grab());
+            }
+        } else {
+            row.append(dialog.grab());
+        }
+        dialog.reject();
+    }
+
+    std::optional<FontChoice> PickFont(QWidget* owner, const FontChoice& start,
+                                       const FontPickerTexts& texts) override {
+        FontPicker picker(start, texts, owner);
+        RunModal(picker);
+        return std::nullopt;
+    }
+};
+
+QPixmap Sheet(const QList<Row>& rows) {
+    QSize size(Gap, Gap);
+    for (const Row& row : rows) {
+        int width = Gap;
+        int height = 0;
+        for (const QPixmap& picture : row) {
+            width += picture.deviceIndependentSize().toSize().width() + Gap;
+            height = std::max(height, picture.deviceIndependentSize().toSize().height());
+        }
+        size = QSize(std::max(size.width(), width), size.height() + height + Gap);
+    }
+    const double ratio = rows.front().front().devicePixelRatio();
+    QPixmap sheet(size * ratio);
+    sheet.setDevicePixelRatio(ratio);
+    sheet.fill(QColor(120, 150, 180));
+    QPainter painter(&sheet);
+    int top = Gap;
+    for (const Row& row : rows) {
+        int left = Gap;
+        int height = 0;
+        for (const QPixmap& picture : row) {
+            painter.drawPixmap(left, top, picture);
+            left += picture.deviceIndependentSize().toSize().width() + Gap;
+            height = std::max(height, picture.deviceIndependentSize().toSize().height());
+        }
+        top += height + Gap;
+    }
+    return sheet;
+}
+
+QPalette DarkPalette() {
+    QPalette palette(QColor(53, 53, 53));
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(53, 53, 53));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, Qt::white);
+        palette.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
+    }
+    return palette;
+}
+
+Chart SampleChart() {
+    Chart chart = Samples::ChartOf(12, 4, [](int row, int column) { return 3 * row + 7 * column % 5; });
+    ApplyDefaultLook(chart);
+    chart.Title.Text = QStringLiteral("Turnover");
+    return chart;
+}
+
+void ShowGraphTypes() {
+    PlainViewer viewer;
+    viewer.Model() = SampleChart();
+    GraphTypes(nullptr).Execute(viewer);
+}
+
+void ShowSeries() {
+    Chart chart = SampleChart();
+    chart.SetChartType(ChartType::Combination2D);
+    Brush& brush = chart.Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).Brush;
+    brush.Style = BrushStyle::Pattern;
+    brush.Index = 10;
+    QString name = QStringLiteral("North");
+    GraphSeriesProperties(nullptr).Execute([&] { return &chart.Plot.SeriesCollection(1); }, chart.chartType(),
+                                           name);
+}
+
+void ShowText() {
+    Chart chart = SampleChart();
+    const auto title = [&] {
+        return TextElement{&chart.Title.Text, &chart.Title.VtFont, &chart.Title.TextLayout};
+    };
+    const auto legend = [&] { return TextElement{nullptr, &chart.Legend.VtFont, &chart.Legend.TextLayout}; };
+    GraphTextProperties(nullptr).Execute(title, true, true, true);
+    GraphTextProperties(nullptr).Execute(legend, false, false, false);
+}
+
+void ShowFontPicker() {
+    const FontPickerTexts texts{LocalText(80), LocalText(91), LocalText(43), LocalText(44)};
+    CurrentDesktop().PickFont(
+        nullptr, {.family = QStringLiteral("Arial"), .size = 9, .colour = QColor(20, 60, 140)}, texts);
+}
+
+bool Make(const QString& file, const std::function<void()>& show) {
+    QList<Row> rows;
+    for (std::int16_t language = 0; language < LanguageCount; ++language) {
+        SetLanguageCode(language);
+        GrabbingDesktop desktop;
+        const ScopedDesktop scope(desktop);
+        show();
+        rows.append(desktop.row);
+    }
+    const bool saved = Sheet(rows).save(file);
+    if (!saved) std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+    return saved;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fputs("usage: contact_sheet FOLDER light|dark\n", stderr);
+        return 2;
+    }
+    EnsureApplication();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const bool dark = std::string_view(argv[2]) == "dark";
+    if (dark) QApplication::setPalette(DarkPalette());
+    const QString folder = QString::fromLocal8Bit(argv[1]) + u'/';
+    bool saved = true;
+    const std::pair<const char*, void (*)()> dialogs[] = {{"GraphTypes", ShowGraphTypes},
+                                                          {"GraphSeriesProperties", ShowSeries},
+                                                          {"GraphTextProperties", ShowText},
+                                                          {"FontPicker", ShowFontPicker}};
+    for (const auto& [name, show] : dialogs)
+        saved = Make(folder + QLatin1String(name) + QStringLiteral(".png"), show) && saved;
+    return saved ? 0 : 1;
+}
