@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -44,6 +45,14 @@ public:
     [[nodiscard]] virtual std::optional<QString> DefaultPrinter() const = 0;
     /// The printer of that name at its full resolution; null where there is none.
     [[nodiscard]] virtual std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const = 0;
+    /// The names of all printers, in the system's order.
+    [[nodiscard]] virtual QStringList PrinterNames() const = 0;
+    /// Whether the printer of that name takes jobs without printing them, or is not there at all.
+    [[nodiscard]] virtual bool IsPrinterStopped(const QString& name) const = 0;
+    /// Lets the person choose a printer and its settings, beginning with those of `settings`, which holds the
+    /// chosen ones then. Gives the printer's name; "" for a file in place of a printer; nothing when
+    /// cancelled.
+    [[nodiscard]] virtual std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) = 0;
 };
 
 /// The process' desktop: a person's where there is a display, otherwise one that answers by itself.

@@ -1,5 +1,7 @@
 #include "desktop/HeadlessDesktop.h"
 
+#include <QPrinter>
+
 #include <cstdio>
 
 namespace QmChart6 {
@@ -13,6 +15,10 @@ Answer HeadlessDesktop::ShowMessage(QWidget* /*owner*/, const QString& text, con
 
 std::optional<QString> HeadlessDesktop::PickSaveFile(QWidget* /*owner*/, const SaveFileRequest& /*request*/) {
     return std::nullopt;
+}
+
+std::optional<QString> HeadlessDesktop::PickPrinter(QWidget* /*owner*/, QPrinter& settings) {
+    return settings.printerName();
 }
 
 } // namespace QmChart6

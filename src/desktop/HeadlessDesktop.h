@@ -5,12 +5,14 @@
 namespace QmChart6 {
 
 /// A desktop with nobody at it: a message is one line on the error output and is answered OK or No, a picker
-/// gives nothing. Clipboard and printers are those of the process. Nothing waits.
+/// gives nothing, the print dialog what it would begin with. Clipboard and printers are those of the process.
+/// Nothing waits.
 class HeadlessDesktop : public QtDesktop {
 public:
     Answer ShowMessage(QWidget* owner, const QString& text, const QString& title,
                        MessageButtons buttons) override;
     std::optional<QString> PickSaveFile(QWidget* owner, const SaveFileRequest& request) override;
+    [[nodiscard]] std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) override;
 };
 
 } // namespace QmChart6
