@@ -13,7 +13,7 @@ namespace {
 
 void AddOptions(QCommandLineParser& parser) {
     for (const char* name : {"id", "title", "row-title", "column-title", "value-title", "language", "config",
-                             "use-config", "separator"})
+                             "use-config", "separator", "printer"})
         parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
     for (const char* name : {"no-header", "no-row-labels", "version"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
@@ -77,23 +77,49 @@ std::optional<QString> FolderOf(const QCommandLineParser& parser) {
     return folder;
 }
 
+/// A command's word, and how many operands it takes behind it.
+struct Word {
+    const char* text;
+    Command command;
+    int operands;
+    const char* takes;
+};
+constexpr std::array Words{Word{"show", Command::Show, 1, "one table"},
+                           Word{"save", Command::Save, 2, "a table and the picture's file name"},
+                           Word{"print", Command::Print, 1, "one table"},
+                           Word{"printers", Command::Printers, 0, "nothing"}};
+
+const Word& WordOf(const QStringList& operands) {
+    if (operands.isEmpty())
+        throw UsageError(QStringLiteral("a command is missing: show, save, print or printers"));
+    for (const Word& word : Words)
+        if (operands.front() == QLatin1String(word.text)) return word;
+    throw UsageError(QStringLiteral("there is no command \"%1\"; there are show, save, print and printers")
+                         .arg(operands.front()));
+}
+
 /// The command's word and its operands.
 void ReadOperands(const QStringList& operands, CommandLine& line) {
-    if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing: show or save"));
-    const QString& word = operands.front();
-    if (word != QLatin1String("show") && word != QLatin1String("save"))
-        throw UsageError(QStringLiteral("there is no command \"%1\"; there are show and save").arg(word));
-    line.command = word == QLatin1String("show") ? Command::Show : Command::Save;
-    const bool saves = line.command == Command::Save;
-    if (operands.size() != (saves ? 3 : 2))
-        throw UsageError(saves ? QStringLiteral("save takes a table and the picture's file name")
-                               : QStringLiteral("show takes one table"));
+    const Word& word = WordOf(operands);
+    line.command = word.command;
+    if (operands.size() != word.operands + 1)
+        throw UsageError(
+            QStringLiteral("%1 takes %2").arg(QLatin1String(word.text), QLatin1String(word.takes)));
+    if (word.operands == 0) return;
     line.table = operands[1];
     if (line.table.isEmpty()) throw UsageError(QStringLiteral("the table's file name is empty"));
-    if (!saves) return;
+    if (line.command != Command::Save) return;
     line.picture = operands[2];
     if (line.picture.isEmpty() || line.picture == QLatin1String("-"))
         throw UsageError(QStringLiteral("save writes a file; its name is missing"));
+}
+
+std::optional<QString> PrinterOf(const QCommandLineParser& parser, Command command) {
+    std::optional<QString> printer = Given(parser, "printer");
+    if (printer && command != Command::Print)
+        throw UsageError(QStringLiteral("--printer goes with print only"));
+    if (printer && printer->isEmpty()) throw UsageError(QStringLiteral("--printer takes a printer's name"));
+    return printer;
 }
 
 } // namespace
@@ -111,6 +137,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
         return line;
     }
     ReadOperands(parser.positionalArguments(), line);
+    line.printer = PrinterOf(parser, line.command);
     line.id = Given(parser, "id");
     line.title = Given(parser, "title");
     line.rowTitle = Given(parser, "row-title");
@@ -129,6 +156,8 @@ QString HelpText() {
     return QStringLiteral(R"(Usage:
   qmchart show TABLE [OPTION ...]          show the chart of a table until its window is closed
   qmchart save TABLE PICTURE [OPTION ...]  save its picture and print the file's name
+  qmchart print TABLE [OPTION ...]         print it on one page and print the printer's name
+  qmchart printers                         the printers' names, one to a line
   qmchart --help | --version
 
 TABLE is a file of separated values, or - for the standard input: one row to a category, one column to a
@@ -146,6 +175,7 @@ Options:
   --config FOLDER         the folder of the stored looks
   --use-config USE        no, no-titles or yes: use the look stored for the graph id
   --separator CHARACTER   what separates the cells, or the word tab (default: found out)
+  --printer NAME          print: the printer (default: the system's)
   --no-header             the first line is numbers already
   --no-row-labels         the first column is numbers already
   -h, --help              this text
