@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -47,8 +48,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const = 0;
     /// The names of all printers, in the system's order.
     [[nodiscard]] virtual QStringList PrinterNames() const = 0;
-    /// Whether the printer of that name takes jobs without printing them, or is not there at all.
-    [[nodiscard]] virtual bool IsPrinterStopped(const QString& name) const = 0;
+    /// As QueueProblem and WatchQueue tell it.
+    [[nodiscard]] virtual QString PrinterProblem(const QString& name) const = 0;
+    [[nodiscard]] virtual std::function<QString()> WatchPrinter(const QString& name) const = 0;
     /// Lets the person choose a printer and its settings, beginning with those of `settings`, which holds the
     /// chosen ones then. Gives the printer's name; "" for a file in place of a printer; nothing when
     /// cancelled.

@@ -16,7 +16,8 @@ public:
     [[nodiscard]] std::optional<QString> DefaultPrinter() const override;
     [[nodiscard]] std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const override;
     [[nodiscard]] QStringList PrinterNames() const override;
-    [[nodiscard]] bool IsPrinterStopped(const QString& name) const override;
+    [[nodiscard]] QString PrinterProblem(const QString& name) const override;
+    [[nodiscard]] std::function<QString()> WatchPrinter(const QString& name) const override;
     [[nodiscard]] std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) override;
 };
 

@@ -1,4 +1,5 @@
 // What the desktop knows of printers beyond opening one.
+#include "desktop/PrinterQueue.h"
 #include "desktop/QtDesktop.h"
 
 #include <QPointer>
@@ -12,9 +13,12 @@ QStringList QtDesktop::PrinterNames() const {
     return QPrinterInfo::availablePrinterNames();
 }
 
-bool QtDesktop::IsPrinterStopped(const QString& name) const {
-    const QPrinterInfo found = QPrinterInfo::printerInfo(name);
-    return found.isNull() || found.state() == QPrinter::Aborted || found.state() == QPrinter::Error;
+QString QtDesktop::PrinterProblem(const QString& name) const {
+    return QueueProblem(name);
+}
+
+std::function<QString()> QtDesktop::WatchPrinter(const QString& name) const {
+    return WatchQueue(name);
 }
 
 std::optional<QString> QtDesktop::PickPrinter(QWidget* owner, QPrinter& settings) {

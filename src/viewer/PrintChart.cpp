@@ -16,6 +16,7 @@
 #include <QPrinter>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 namespace QmChart6 {
@@ -28,16 +29,32 @@ constexpr double PageUnitsPerInch = 40;
     throw RuntimeError(ErrorNumber::PrinterError, detail);
 }
 
+void RaiseProblem(const QString& problem) {
+    if (!problem.isEmpty()) RaisePrinterError(problem);
+}
+
 bool Failed(const QPrinter& printer) {
     return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
 }
 
+void PrintPageOf(ChartControl& chart, QPrinter& printer) {
+    PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, printer);
+}
+
+/// A printer with a name has a queue, unless it is made to print into a file.
 void PrintOn(QPrinter& printer, Viewer& viewer) {
-    if (!printer.printerName().isEmpty() && CurrentDesktop().IsPrinterStopped(printer.printerName()))
-        RaisePrinterError(QStringLiteral("the printer \"%1\" is stopped").arg(printer.printerName()));
+    const QString name = printer.printerName();
+    const bool queued = printer.outputFileName().isEmpty();
+    if (queued) RaiseProblem(CurrentDesktop().PrinterProblem(name));
     ChartControl& chart = viewer.ChartImage();
     const GraphPrinting telling(chart.window());
-    PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, printer);
+    if (queued) {
+        const std::function<QString()> problem = CurrentDesktop().WatchPrinter(name);
+        PrintPageOf(chart, printer);
+        RaiseProblem(problem());
+    } else {
+        PrintPageOf(chart, printer);
+    }
     CurrentDesktop().ClearClipboard();
 }
 

@@ -1,10 +1,10 @@
 """A printing system of its own for a test: a scheduler on a free port of the loopback, with queues that keep their jobs."""
+import grp
 import os
 import pathlib
 import pwd
 import shutil
 import socket
-import stat
 import subprocess
 import tempfile
 import time
@@ -118,7 +118,7 @@ class PrintingService:
         for name in ("cache", "state", "spool", "temporary", "programs", "programs/backend", "jobs"):
             (self.folder / name).mkdir()
         self.jobs.chmod(0o777)
-        for name in ("filter", "daemon", "notifier", "driver"):
+        for name in ("filter", "daemon", "notifier"):
             (self.folder / "programs" / name).symlink_to(pathlib.Path("/usr/lib/cups") / name)
         backend = self.folder / "programs" / "backend" / "keep"
         backend.write_text(BACKEND)
@@ -129,7 +129,7 @@ class PrintingService:
         (self.folder / "cupsd.conf").write_text(SERVER.format(port=self.port))
         files = FILES.format(folder=self.folder)
         if os.geteuid() == 0:
-            files += f"User lp\nGroup {self.group_of('lp')}\n"
+            files += f"User lp\nGroup {grp.getgrgid(pwd.getpwnam('lp').pw_gid).gr_name}\n"
         (self.folder / "cups-files.conf").write_text(files)
         self.environment = {"CUPS_SERVER": f"127.0.0.1:{self.port}", "HOME": str(self.folder)}
         self.scheduler = subprocess.Popen(
@@ -140,11 +140,6 @@ class PrintingService:
         except BaseException:
             self.close()
             raise
-
-    @staticmethod
-    def group_of(user):
-        import grp
-        return grp.getgrgid(pwd.getpwnam(user).pw_gid).gr_name
 
     @staticmethod
     def program(name):
@@ -180,11 +175,14 @@ class PrintingService:
     def kept_jobs(self):
         return sorted(self.jobs.glob("*.pdf"))
 
-    def close(self):
+    def stop(self):
         self.scheduler.terminate()
         try:
             self.scheduler.wait(LIMIT)
         except subprocess.TimeoutExpired:
             self.scheduler.kill()
             self.scheduler.wait()
+
+    def close(self):
+        self.stop()
         shutil.rmtree(self.folder)

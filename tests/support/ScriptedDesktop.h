@@ -25,12 +25,13 @@ public:
     std::optional<QString> printer;
     QString printerFile;
 
-    /// The printers that there are, those that are stopped, and what the print dialog gives; it is cancelled
-    /// where that is nothing. The settings are set by `settle`.
+    /// The printers that there are, and what the print dialog gives; it is cancelled where that is nothing.
+    /// The settings are set by `settle`. The problem of every printer and of every page that it was given.
     QStringList printers;
-    QStringList stoppedPrinters;
     std::optional<QString> chosenPrinter;
     std::function<void(QPrinter& settings)> settle = [](QPrinter&) {};
+    QString printerProblem;
+    QString pageProblem;
     int printDialogs = 0;
     mutable QStringList openedPrinters;
 
@@ -67,8 +68,9 @@ public:
         return page;
     }
     [[nodiscard]] QStringList PrinterNames() const override { return printers; }
-    [[nodiscard]] bool IsPrinterStopped(const QString& name) const override {
-        return stoppedPrinters.contains(name);
+    [[nodiscard]] QString PrinterProblem(const QString& /*name*/) const override { return printerProblem; }
+    [[nodiscard]] std::function<QString()> WatchPrinter(const QString& /*name*/) const override {
+        return [this] { return pageProblem; };
     }
     [[nodiscard]] std::optional<QString> PickPrinter(QWidget* /*owner*/, QPrinter& settings) override {
         ++printDialogs;

@@ -105,6 +105,12 @@ TEST_F(PrintChartTest, AFailingPrinterRaises482AndLeavesTheChartAsItWas) {
     EXPECT_EQ(form.findChild<QWidget*>(QStringLiteral("GraphPrinting")), nullptr);
 }
 
+TEST_F(PrintChartTest, AFileHasNoQueueThatCouldHaveAProblem) {
+    desktop.printerProblem = desktop.pageProblem = QStringLiteral("the printer is stopped");
+    PrintChart(form);
+    EXPECT_TRUE(HasPage());
+}
+
 TEST_F(PrintChartTest, TheChosenPrinterIsTheOneFromThenOn) {
     desktop.chosenPrinter = QStringLiteral("lab");
     PrintChart(form);
