@@ -26,14 +26,15 @@ QImage Drawn(const QByteArray& svg, const QSize& pixels) {
 
 class BarIconEngine : public QIconEngine {
 public:
-    explicit BarIconEngine(QByteArray svg) : svg_(std::move(svg)) {}
+    BarIconEngine(QString file, const QColor& colour) : file_(std::move(file)), colour_(colour) {}
 
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State /*state*/) override {
         const double ratio = painter->device() != nullptr ? painter->device()->devicePixelRatioF() : 1;
-        const QImage image = Drawn(svg_, (QSizeF(place.size()) * ratio).toSize());
+        const QSize pixels = (QSizeF(place.size()) * ratio).toSize();
+        if (drawn_.size() != pixels) drawn_ = Drawn(Coloured(), pixels);
         painter->save();
         if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * DisabledOpacity);
-        painter->drawImage(place, image);
+        painter->drawImage(place, drawn_);
         painter->restore();
     }
 
@@ -50,18 +51,26 @@ public:
     }
 
 private:
-    QByteArray svg_;
+    [[nodiscard]] QByteArray Coloured() const {
+        QFile file(file_);
+        if (!file.open(QIODevice::ReadOnly)) return {};
+        return file.readAll().replace("currentColor", colour_.name().toLatin1());
+    }
+
+    QString file_;
+    QColor colour_;
+    QImage drawn_; // as it was painted last
 };
 
 } // namespace
 
 QIcon BarIcon(const QString& file, const QPalette& palette) {
-    QFile source(file);
-    if (!source.open(QIODevice::ReadOnly)) return {};
-    QByteArray svg = source.readAll();
-    svg.replace("currentColor", palette.color(QPalette::Active, QPalette::ButtonText).name().toLatin1());
-    if (Drawn(svg, {1, 1}).isNull()) return {};
-    return QIcon(std::make_unique<BarIconEngine>(std::move(svg)).release()); // the icon owns it
+    const QColor colour = palette.color(QPalette::Active, QPalette::ButtonText);
+    return QIcon(std::make_unique<BarIconEngine>(file, colour).release()); // the icon owns it
+}
+
+bool CanDrawBarIcons() {
+    return QImageReader::supportedImageFormats().contains("svg");
 }
 
 } // namespace QmChart6

@@ -78,12 +78,18 @@ void ViewerToolBar::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) FollowPalette();
 }
 
+void ViewerToolBar::showEvent(QShowEvent* event) {
+    QToolBar::showEvent(event);
+    // Without Qt's SVG plugin there are no pictures, and the buttons show their texts.
+    if (CanDrawBarIcons()) return;
+    for (QAction* action : actions()) action->setIcon({});
+}
+
 void ViewerToolBar::FollowPalette() {
     for (QAction* action : actions()) {
         if (action->isSeparator() || action->objectName().isEmpty()) continue;
         QString file = action->objectName();
         file.remove(u'%');
-        // Without Qt's SVG plugin there is no picture, and the button shows its text.
         action->setIcon(BarIcon(QStringLiteral(":/qmchart6/icons/%1.svg").arg(file), palette()));
     }
 }

@@ -1,6 +1,7 @@
 #include "desktop/PrinterQueue.h"
 
 #include <QDeadlineTimer>
+#include <QLibrary>
 #include <QThread>
 
 #include <algorithm>
@@ -18,6 +19,40 @@ constexpr int FollowTime = 2000; // milliseconds
 constexpr int LookTime = 20;
 constexpr int StoppedPrinter = 5; // of the printing protocol
 
+/// The calls into the printing system's library. It is loaded when something is printed, as it brings much
+/// along.
+struct Cups {
+    Cups() : library(QStringLiteral("cups"), 2) {
+        const bool complete = Find(GetNamedDest, "cupsGetNamedDest") && Find(FreeDests, "cupsFreeDests") &&
+                              Find(GetOption, "cupsGetOption") && Find(GetJobs2, "cupsGetJobs2") &&
+                              Find(FreeJobs, "cupsFreeJobs") && Find(LastError, "cupsLastError") &&
+                              Find(LastErrorString, "cupsLastErrorString");
+        isThere = complete;
+    }
+
+    QLibrary library;
+    bool isThere = false;
+    decltype(&cupsGetNamedDest) GetNamedDest = nullptr;
+    decltype(&cupsFreeDests) FreeDests = nullptr;
+    decltype(&cupsGetOption) GetOption = nullptr;
+    decltype(&cupsGetJobs2) GetJobs2 = nullptr;
+    decltype(&cupsFreeJobs) FreeJobs = nullptr;
+    decltype(&cupsLastError) LastError = nullptr;
+    decltype(&cupsLastErrorString) LastErrorString = nullptr;
+
+private:
+    template<class Function>
+    bool Find(Function& function, const char* name) {
+        function = reinterpret_cast<Function>(library.resolve(name)); // NOLINT(*-reinterpret-cast)
+        return function != nullptr;
+    }
+};
+
+const Cups& System() {
+    static const Cups system;
+    return system;
+}
+
 /// A queue, whose name has its set of options behind a slash where there is one.
 struct Destination {
     explicit Destination(const QString& printer)
@@ -28,7 +63,7 @@ struct Destination {
 };
 
 QByteArray Attribute(const cups_dest_t& queue, const char* name) {
-    return cupsGetOption(name, queue.num_options, queue.options);
+    return System().GetOption(name, queue.num_options, queue.options);
 }
 
 /// Does something with the process' own jobs on a printer.
@@ -36,9 +71,9 @@ template<class Use>
 auto WithJobs(const Destination& destination, Use&& use) {
     cups_job_t* jobs = nullptr;
     const int count =
-        cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, destination.name.constData(), 1, CUPS_WHICHJOBS_ALL);
+        System().GetJobs2(CUPS_HTTP_DEFAULT, &jobs, destination.name.constData(), 1, CUPS_WHICHJOBS_ALL);
     const auto result = use(std::span<const cups_job_t>(jobs, static_cast<std::size_t>(std::max(count, 0))));
-    cupsFreeJobs(count, jobs);
+    System().FreeJobs(count, jobs);
     return result;
 }
 
@@ -95,11 +130,12 @@ QString FollowJobAfter(int before, const QString& printer) {
 } // namespace
 
 QString QueueProblem(const QString& printer) {
+    if (!System().isThere) return {};
     const Destination destination(printer);
     const std::unique_ptr<cups_dest_t, void (*)(cups_dest_t*)> queue(
-        cupsGetNamedDest(CUPS_HTTP_DEFAULT, destination.name.constData(),
-                         destination.instance.isEmpty() ? nullptr : destination.instance.constData()),
-        [](cups_dest_t* found) { cupsFreeDests(1, found); });
+        System().GetNamedDest(CUPS_HTTP_DEFAULT, destination.name.constData(),
+                              destination.instance.isEmpty() ? nullptr : destination.instance.constData()),
+        [](cups_dest_t* found) { System().FreeDests(1, found); });
     if (!queue) return QStringLiteral("the printer \"%1\" cannot be reached").arg(printer);
     if (Attribute(*queue, "printer-is-accepting-jobs") == "false")
         return QStringLiteral("the printer \"%1\" takes no jobs").arg(printer);
@@ -109,11 +145,12 @@ QString QueueProblem(const QString& printer) {
 }
 
 std::function<QString()> WatchQueue(const QString& printer) {
+    if (!System().isThere) return [] { return QString(); };
     return [printer, before = NewestJob(Destination(printer))] {
         // The last answer that this thread got from the printing system is the one to the page.
-        if (cupsLastError() >= IPP_STATUS_REDIRECTION_OTHER_SITE)
+        if (System().LastError() >= IPP_STATUS_REDIRECTION_OTHER_SITE)
             return QStringLiteral("the printer \"%1\" did not take the page: %2")
-                .arg(printer, QString::fromUtf8(cupsLastErrorString()));
+                .arg(printer, QString::fromUtf8(System().LastErrorString()));
         return FollowJobAfter(before, printer);
     };
 }
