@@ -21,7 +21,7 @@ class ViewerToolBar;
 ///
 /// A form that a shared pointer owns stays alive while it handles an event of its own, whoever lets go of it
 /// meanwhile.
-class GraphForm : public QWidget, public Viewer, public std::enable_shared_from_this<GraphForm> {
+class GraphForm final : public QWidget, public Viewer, public std::enable_shared_from_this<GraphForm> {
     Q_OBJECT
 
 public:

@@ -1,3 +1,4 @@
+#include "automation/ViewerList.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "desktop/QtDesktop.h"
 #include "support/Person.h"
@@ -9,6 +10,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QTemporaryDir>
 #include <QTest>
@@ -81,4 +83,22 @@ TEST_F(PrintingTest, ACancelledPrintDialogChangesNothing) {
     EXPECT_EQ(Page(), QByteArray());
     EXPECT_EQ(form.ChartImage().Model(), before);
     EXPECT_EQ(desktop.Clipboard()->text(), "before");
+}
+
+TEST(PrintingViewer, MayBeKilledWhileItsPrintDialogIsOpen) {
+    QtDesktop desktop;
+    const ScopedDesktop scope(desktop);
+    const QPointer<GraphForm> viewer(CreateViewer(QStringLiteral("A")).get());
+    viewer->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(viewer.data()));
+    Person<QPrintDialog> person([](QPrintDialog& dialog) {
+        const QPointer<QPrintDialog> open(&dialog);
+        CloseViewer(QStringLiteral("A"));
+        QTest::qWait(0); // lets the dialog's own loop turn over
+        ASSERT_FALSE(open.isNull());
+        dialog.reject();
+    });
+    viewer->findChild<QAction*>(QStringLiteral("optPrint"))->trigger();
+    EXPECT_TRUE(person.WasAsked());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return viewer.isNull(); }));
 }
