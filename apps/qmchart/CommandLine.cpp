@@ -13,7 +13,7 @@ namespace {
 
 void AddOptions(QCommandLineParser& parser) {
     for (const char* name : {"id", "title", "row-title", "column-title", "value-title", "language", "config",
-                             "use-config", "separator", "look", "size", "as"})
+                             "use-config", "separator", "look", "size", "as", "printer"})
         parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
     for (const char* name : {"no-header", "no-row-labels", "version"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
@@ -95,29 +95,55 @@ std::optional<QSize> SizeOf(const QCommandLineParser& parser) {
     return size;
 }
 
+/// A command's word, and how many operands it takes behind it.
+struct Word {
+    const char* text;
+    Command command;
+    int operands;
+    const char* takes;
+};
+constexpr std::array Words{Word{"show", Command::Show, 1, "one table"},
+                           Word{"save", Command::Save, 2, "a table and the picture's file name"},
+                           Word{"print", Command::Print, 1, "one table"},
+                           Word{"printers", Command::Printers, 0, "nothing"},
+                           Word{"config", Command::Config, 0, "a command"}};
+
+const Word& WordOf(const QStringList& operands) {
+    if (operands.isEmpty())
+        throw UsageError(QStringLiteral("a command is missing: show, save, print, printers or config"));
+    for (const Word& word : Words)
+        if (operands.front() == QLatin1String(word.text)) return word;
+    throw UsageError(
+        QStringLiteral("there is no command \"%1\"; there are show, save, print, printers and config")
+            .arg(operands.front()));
+}
+
 /// The command's word and its operands.
 void ReadOperands(const QStringList& operands, CommandLine& line) {
-    if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing: show, save or config"));
-    const QString& word = operands.front();
-    if (word == QLatin1String("config")) {
-        line.command = Command::Config;
+    const Word& word = WordOf(operands);
+    line.command = word.command;
+    if (line.command == Command::Config) {
         line.operands = operands.mid(1);
         return;
     }
-    if (word != QLatin1String("show") && word != QLatin1String("save"))
+    if (operands.size() != word.operands + 1)
         throw UsageError(
-            QStringLiteral("there is no command \"%1\"; there are show, save and config").arg(word));
-    line.command = word == QLatin1String("show") ? Command::Show : Command::Save;
-    const bool saves = line.command == Command::Save;
-    if (operands.size() != (saves ? 3 : 2))
-        throw UsageError(saves ? QStringLiteral("save takes a table and the picture's file name")
-                               : QStringLiteral("show takes one table"));
+            QStringLiteral("%1 takes %2").arg(QLatin1String(word.text), QLatin1String(word.takes)));
+    if (word.operands == 0) return;
     line.table = operands[1];
     if (line.table.isEmpty()) throw UsageError(QStringLiteral("the table's file name is empty"));
-    if (!saves) return;
+    if (line.command != Command::Save) return;
     line.picture = operands[2];
     if (line.picture.isEmpty() || line.picture == QLatin1String("-"))
         throw UsageError(QStringLiteral("save writes a file; its name is missing"));
+}
+
+std::optional<QString> PrinterOf(const QCommandLineParser& parser, Command command) {
+    std::optional<QString> printer = Given(parser, "printer");
+    if (printer && command != Command::Print)
+        throw UsageError(QStringLiteral("--printer goes with print only"));
+    if (printer && printer->isEmpty()) throw UsageError(QStringLiteral("--printer takes a printer's name"));
+    return printer;
 }
 
 } // namespace
@@ -139,6 +165,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
         return line;
     }
     ReadOperands(parser.positionalArguments(), line);
+    line.printer = PrinterOf(parser, line.command);
     line.id = Given(parser, "id");
     line.title = Given(parser, "title");
     line.rowTitle = Given(parser, "row-title");
@@ -160,6 +187,8 @@ QString HelpText() {
     return QStringLiteral(R"(Usage:
   qmchart show TABLE [OPTION ...]          show the chart of a table until its window is closed
   qmchart save TABLE PICTURE [OPTION ...]  save its picture and print the file's name
+  qmchart print TABLE [OPTION ...]         print it on one page and print the printer's name
+  qmchart printers                         the printers' names, one to a line
   qmchart config COMMAND [--config FOLDER] look after stored looks, see below
   qmchart --help | --version
 
@@ -180,6 +209,7 @@ Options:
   --look LOOK             use this look: a stored one's name, or a file LOOK.json
   --size WIDTHxHEIGHT     the chart's size in pixels (default: as the look's window has it)
   --separator CHARACTER   what separates the cells, or the word tab (default: found out)
+  --printer NAME          print: the printer (default: the system's)
   --no-header             the first line is numbers already
   --no-row-labels         the first column is numbers already
   -h, --help              this text

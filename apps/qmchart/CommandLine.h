@@ -10,13 +10,14 @@
 
 namespace QmChart6 {
 
-enum class Command { Help, Version, Show, Save, Config };
+enum class Command { Help, Version, Show, Save, Print, Printers, Config };
 
 /// What the command line asks for. Texts that are not given have their defaults elsewhere.
 struct CommandLine {
     Command command = Command::Help;
     QString table;   ///< a file, or "-" for the standard input
     QString picture; ///< Save only
+    std::optional<QString> printer;
     std::optional<QString> id;
     std::optional<QString> title;
     std::optional<QString> rowTitle;

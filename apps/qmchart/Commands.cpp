@@ -71,6 +71,31 @@ QString Save(const CommandLine& line) {
     return picture + u'\n';
 }
 
+/// Nobody is asked: a command that prints is one that a script runs.
+QString Print(const CommandLine& line) {
+    const TitledTable titled = ReadTitledTable(line);
+    const Table& table = titled.table;
+    const QString printer = line.printer.value_or(DefaultPrinterName());
+    if (printer.isEmpty())
+        throw RuntimeError(
+            ErrorNumber::PrinterError,
+            QStringLiteral("there is no default printer; \"qmchart printers\" lists those that "
+                           "there are, --printer NAME chooses one"));
+    SetPrinter(printer);
+    Charts(line, titled).QmPrintGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels,
+                              table.columnLabels, titled.title, titled.rowTitle, line.columnTitle,
+                              line.valueTitle, line.useConfig);
+    return QStringLiteral("printed on %1\n").arg(printer);
+}
+
+QString Printers() {
+    QString text;
+    const QString byDefault = DefaultPrinterName();
+    for (const QString& name : PrinterNames())
+        text += name + (name == byDefault ? QStringLiteral(" (default)\n") : QStringLiteral("\n"));
+    return text;
+}
+
 } // namespace
 
 QString PresentableTitle(const QString& baseName) {
@@ -90,6 +115,10 @@ QString RunCommand(const CommandLine& line) {
         return Show(line);
     case Command::Save:
         return Save(line);
+    case Command::Print:
+        return Print(line);
+    case Command::Printers:
+        return Printers();
     case Command::Config:
         return RunConfigCommand(line);
     }

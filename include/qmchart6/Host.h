@@ -2,6 +2,9 @@
 
 #include "qmchart6/Export.h"
 
+#include <QString>
+#include <QStringList>
+
 namespace QmChart6 {
 
 // For hosts that run no event loop of their own.
@@ -16,5 +19,18 @@ QMCHART6_EXPORT void RunUntilViewersAreClosed();
 
 /// Handles events as they come, for so many milliseconds; 0 or less handles those that wait.
 QMCHART6_EXPORT void PumpEvents(int milliseconds);
+
+// For hosts that print.
+
+/// The names of all printers, in the system's order.
+QMCHART6_EXPORT QStringList PrinterNames();
+
+/// The name of the system's default printer; "" where there is none.
+QMCHART6_EXPORT QString DefaultPrinterName();
+
+/// From here on QmPrintGraph prints on the printer of that name and asks nobody. With "", as at first, the
+/// person at the desk chooses a printer each time; without a display it is the default printer. Raises 482
+/// for a name that no printer bears, and keeps what was set.
+QMCHART6_EXPORT void SetPrinter(const QString& name);
 
 } // namespace QmChart6

@@ -2,6 +2,7 @@
 
 #include "automation/ChartSize.h"
 #include "automation/FillChartData.h"
+#include "automation/Printers.h"
 #include "automation/ViewerList.h"
 #include "chart/ValueLabelFormat.h"
 #include "chartcontrol/widget/ChartControl.h"
@@ -95,7 +96,10 @@ void MakeGraph(const ChartRequest& request, const Variant& language) {
 void PrintGraph(const ChartRequest& request) {
     const ViewerPointer viewer = ViewerForOutput(request);
     viewer->update();
-    PrintChart(*viewer);
+    if (HostPrinter().isEmpty())
+        PrintChart(*viewer);
+    else
+        PrintChart(*viewer, HostPrinter());
     viewer->update();
     CloseViewer(viewer->GraphId());
 }

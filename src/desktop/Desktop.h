@@ -2,7 +2,9 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -78,6 +80,15 @@ public:
     [[nodiscard]] virtual std::optional<QString> DefaultPrinter() const = 0;
     /// The printer of that name at its full resolution; null where there is none.
     [[nodiscard]] virtual std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const = 0;
+    /// The names of all printers, in the system's order.
+    [[nodiscard]] virtual QStringList PrinterNames() const = 0;
+    /// As QueueProblem and WatchQueue tell it.
+    [[nodiscard]] virtual QString PrinterProblem(const QString& name) const = 0;
+    [[nodiscard]] virtual std::function<QString()> WatchPrinter(const QString& name) const = 0;
+    /// Lets the person choose a printer and its settings, beginning with those of `settings`, which holds the
+    /// chosen ones then. Gives the printer's name; "" for a file in place of a printer; nothing when
+    /// cancelled.
+    [[nodiscard]] virtual std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) = 0;
 };
 
 /// The process' desktop: a person's where there is a display, otherwise one that answers by itself.

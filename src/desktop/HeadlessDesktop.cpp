@@ -1,6 +1,7 @@
 #include "desktop/HeadlessDesktop.h"
 
 #include <QDialog>
+#include <QPrinter>
 
 #include <cstdio>
 
@@ -29,6 +30,10 @@ std::optional<QColor> HeadlessDesktop::PickColour(QWidget* /*owner*/, const QCol
 std::optional<FontChoice> HeadlessDesktop::PickFont(QWidget* /*owner*/, const FontChoice& /*start*/,
                                                     const FontPickerTexts& /*texts*/) {
     return std::nullopt;
+}
+
+std::optional<QString> HeadlessDesktop::PickPrinter(QWidget* /*owner*/, QPrinter& settings) {
+    return settings.printerName();
 }
 
 } // namespace QmChart6

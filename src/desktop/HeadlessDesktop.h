@@ -5,7 +5,8 @@
 namespace QmChart6 {
 
 /// A desktop with nobody at it: a message is one line on the error output and is answered OK or No, a picker
-/// gives nothing, a dialog is rejected. Clipboard and printers are those of the process. Nothing waits.
+/// gives nothing, a dialog is rejected, the print dialog gives what it would begin with. Clipboard and
+/// printers are those of the process. Nothing waits.
 class HeadlessDesktop : public QtDesktop {
 public:
     Answer ShowMessage(QWidget* owner, const QString& text, const QString& title,
@@ -15,6 +16,7 @@ public:
     std::optional<QColor> PickColour(QWidget* owner, const QColor& start, const QString& title) override;
     std::optional<FontChoice> PickFont(QWidget* owner, const FontChoice& start,
                                        const FontPickerTexts& texts) override;
+    [[nodiscard]] std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) override;
 };
 
 } // namespace QmChart6

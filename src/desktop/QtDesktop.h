@@ -19,6 +19,10 @@ public:
     void ClearClipboard() override;
     [[nodiscard]] std::optional<QString> DefaultPrinter() const override;
     [[nodiscard]] std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const override;
+    [[nodiscard]] QStringList PrinterNames() const override;
+    [[nodiscard]] QString PrinterProblem(const QString& name) const override;
+    [[nodiscard]] std::function<QString()> WatchPrinter(const QString& name) const override;
+    [[nodiscard]] std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) override;
 };
 
 } // namespace QmChart6

@@ -12,6 +12,12 @@ constexpr int CombinationKey = 24;
 constexpr int PieKey = 25;
 constexpr int XYKey = 26;
 
+// Where the types stand that do not come as a pair of 3D and 2D. Pie takes the place of the combination in
+// the list for one column.
+constexpr int PieIndexOfOneColumn = 4;
+constexpr int PieIndex = 5;
+constexpr int XYIndex = 6;
+
 } // namespace
 
 QStringList ChartTypeTexts(int columnCount, bool threeD) {
@@ -25,9 +31,16 @@ QStringList ChartTypeTexts(int columnCount, bool threeD) {
 }
 
 int IndexOfChartType(ChartType type, int columnCount) {
-    if (type == ChartType::XY2D) return 6;
-    if (type == ChartType::Pie2D) return columnCount == 1 ? 4 : 5;
+    if (type == ChartType::XY2D) return XYIndex;
+    if (type == ChartType::Pie2D) return columnCount == 1 ? PieIndexOfOneColumn : PieIndex;
     return static_cast<int>(type) / 2;
+}
+
+int ChartTypeAtIndex(int index, int columnCount, bool threeD) {
+    const bool pie = index == PieIndex || (index == PieIndexOfOneColumn && columnCount == 1);
+    if (pie) return static_cast<int>(ChartType::Pie2D);
+    if (index == XYIndex) return static_cast<int>(ChartType::XY2D);
+    return 2 * index + (threeD ? 0 : 1);
 }
 
 } // namespace QmChart6

@@ -10,7 +10,10 @@ namespace QmChart6 {
 /// data column; with one, pie is there only while 3D is off.
 QStringList ChartTypeTexts(int columnCount, bool threeD);
 
-/// Where a chart type stands in that list.
+/// Where a chart type stands in that list. The types that a list lacks have a number all the same.
 int IndexOfChartType(ChartType type, int columnCount);
+
+/// The number of the chart type at a place of that list: two dimensional unless `threeD`, pie and XY always.
+int ChartTypeAtIndex(int index, int columnCount, bool threeD);
 
 } // namespace QmChart6

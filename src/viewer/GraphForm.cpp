@@ -7,15 +7,13 @@
 #include "desktop/ShowErrors.h"
 #include "qmchart6/RuntimeError.h"
 #include "text/LocalText.h"
-#include "viewer/PrintChart.h"
-#include "viewer/Snapshot.h"
+#include "viewer/ControlBarCommands.h"
 #include "viewer/ViewerLayout.h"
 #include "viewer/ViewerMenu.h"
 #include "viewer/ViewerStatusBar.h"
 #include "viewer/ViewerToolBar.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QTimer>
@@ -63,8 +61,9 @@ private:
 
 GraphForm::GraphForm(QWidget* parent)
     : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)),
-      tbControlBar_(new ViewerToolBar(this)), sbGraph_(new ViewerStatusBar(this)),
-      mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)) {
+      tbControlBar_(new ViewerToolBar(this)),
+      commands_(std::make_unique<ControlBarCommands>(*this, *tbControlBar_)),
+      sbGraph_(new ViewerStatusBar(this)), mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)) {
     setObjectName(QStringLiteral("GraphForm"));
     // Closing the last chart must not end a host's event loop.
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -87,35 +86,9 @@ GraphForm::GraphForm(QWidget* parent)
 
 GraphForm::~GraphForm() = default;
 
-void GraphForm::ConnectCommands() {
-    // What comes with the control bar's and the dialogs' own work is there to be seen, not to be used.
-    for (const BarButton button : {BarButton::ThreeD, BarButton::Stack, BarButton::FullStack, BarButton::Flip,
-                                   BarButton::Legend, BarButton::Load, BarButton::Save})
-        tbControlBar_->Button(button)->setEnabled(false);
-    tbControlBar_->TypeSelector()->setEnabled(false);
-    for (QAction* entry :
-         {mProperties_->optGenericProperties, mProperties_->optChart, mProperties_->optLoadConfig,
-          mProperties_->optSaveConfig, mProperties_->optSaveConfigAs})
-        entry->setEnabled(false);
-
-    connect(timGraph_, &QTimer::timeout, this, [this] { sbGraph_->Panel(4).SetText({}); });
-    connect(mProperties_->optControlBar, &QAction::triggered, this, [this] { SetControlBar(!ControlBar()); });
-    const auto print = [this] { Do([](GraphForm& form) { PrintChart(form); }); };
-    connect(mProperties_->optPrint, &QAction::triggered, this, print);
-    connect(tbControlBar_->Button(BarButton::Print), &QAction::triggered, this, print);
-    connect(mProperties_->optSaveBMP, &QAction::triggered, this, [this] {
-        Do([](GraphForm& form) {
-            QString askForName;
-            SaveChartSnapshot(form, askForName);
-        });
-    });
-    connect(mProperties_->optCopy, &QAction::triggered, this,
-            [this] { Do([](GraphForm& form) { form.ChartImage().CopyToClipboard(); }); });
-}
-
-void GraphForm::Do(void (*command)(GraphForm& form)) {
+void GraphForm::Do(const std::function<void()>& command) {
     const OwnEvent event(*this);
-    ShowErrors(this, [&] { command(*this); });
+    ShowErrors(this, command);
 }
 
 QString GraphForm::GraphId() const {
@@ -200,11 +173,24 @@ void GraphForm::BringUp() {
     activateWindow();
 }
 
+bool GraphForm::Busy() const {
+    return commands_->Busy();
+}
+
+int GraphForm::Selected() const {
+    return commands_->Selected();
+}
+
+void GraphForm::SetSelected(int type) {
+    commands_->SetSelected(type);
+}
+
+void GraphForm::RefillChartTypeList() {
+    commands_->RefillChartTypeList();
+}
+
 void GraphForm::SyncControlBar() {
-    if (!ControlBar()) return;
-    busy_ = true;
-    tbControlBar_->Show(chartImage_->Model(), stacked_ != 0, fullStacked_ != 0);
-    busy_ = false;
+    if (ControlBar()) commands_->FollowChart();
 }
 
 void GraphForm::RefreshControlBar() {

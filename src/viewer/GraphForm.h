@@ -4,12 +4,14 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QTimer;
 
 namespace QmChart6 {
 
+class ControlBarCommands;
 class ViewerMenu;
 class ViewerStatusBar;
 class ViewerToolBar;
@@ -19,7 +21,7 @@ class ViewerToolBar;
 ///
 /// A form that a shared pointer owns stays alive while it handles an event of its own, whoever lets go of it
 /// meanwhile.
-class GraphForm : public QWidget, public Viewer, public std::enable_shared_from_this<GraphForm> {
+class GraphForm final : public QWidget, public Viewer, public std::enable_shared_from_this<GraphForm> {
     Q_OBJECT
 
 public:
@@ -61,12 +63,19 @@ public:
     [[nodiscard]] bool Modified() const { return modified_; }
     void SetModified(bool modified) { modified_ = modified; }
     /// The program itself sets the control bar's buttons.
-    [[nodiscard]] bool Busy() const { return busy_; }
+    [[nodiscard]] bool Busy() const;
     /// Nothing was painted yet, so the control bar has not been brought in step with the chart.
     [[nodiscard]] bool FirstPaintPending() const { return firstPaintPending_; }
 
     /// An event of its own is on the way, so it may not be deleted at once.
     [[nodiscard]] bool HandlesOwnEvent() const { return ownEvents_ > 0; }
+
+    /// The number of the chart type that the control bar stands for, and putting the bar and the chart there.
+    /// Raises 380 for a number that is no chart type, or one that the chart cannot be.
+    [[nodiscard]] int Selected() const;
+    void SetSelected(int type);
+    /// Lists anew the chart types that there are to choose from, and gives the chart the selected one.
+    void RefillChartTypeList();
 
     /// Brings the control bar in step with the chart; does nothing while the bar is hidden.
     void SyncControlBar();
@@ -94,10 +103,11 @@ private:
     void ShowMenu(const QPoint& globalPlace);
     void AskToSave();
     /// Does what a command of the window's own asks for.
-    void Do(void (*command)(GraphForm& form));
+    void Do(const std::function<void()>& command);
 
     ChartControl* chartImage_;
     ViewerToolBar* tbControlBar_;
+    std::unique_ptr<ControlBarCommands> commands_;
     ViewerStatusBar* sbGraph_;
     ViewerMenu* mProperties_;
     QTimer* timGraph_;
@@ -106,7 +116,6 @@ private:
     std::int16_t lines_ = 1;
     std::int16_t markers_ = 0;
     bool modified_ = false;
-    bool busy_ = false;
     bool firstPaintPending_ = true;
     int ownEvents_ = 0;
     bool closed_ = false;

@@ -8,51 +8,92 @@
 #include "config/Viewer.h"
 #include "desktop/Desktop.h"
 #include "qmchart6/RuntimeError.h"
+#include "viewer/ChartOnPaper.h"
+#include "viewer/GraphPrinting.h"
+#include "viewer/QmPrintDialog.h"
 
 #include <QPainter>
 #include <QPrinter>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 namespace QmChart6 {
 
 namespace {
 
+constexpr double PageUnitsPerInch = 40;
+
 [[noreturn]] void RaisePrinterError(const QString& detail) {
     throw RuntimeError(ErrorNumber::PrinterError, detail);
 }
 
+void RaiseProblem(const QString& problem) {
+    if (!problem.isEmpty()) RaisePrinterError(problem);
+}
+
+bool Failed(const QPrinter& printer) {
+    return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
+}
+
+void PrintPageOf(ChartControl& chart, QPrinter& printer) {
+    PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, printer);
+}
+
+/// A printer with a name has a queue, unless it is made to print into a file.
+void PrintOn(QPrinter& printer, Viewer& viewer) {
+    const QString name = printer.printerName();
+    const bool queued = printer.outputFileName().isEmpty();
+    if (queued) RaiseProblem(CurrentDesktop().PrinterProblem(name));
+    ChartControl& chart = viewer.ChartImage();
+    const GraphPrinting telling(chart.window());
+    if (queued) {
+        const std::function<QString()> problem = CurrentDesktop().WatchPrinter(name);
+        PrintPageOf(chart, printer);
+        RaiseProblem(problem());
+    } else {
+        PrintPageOf(chart, printer);
+    }
+    CurrentDesktop().ClearClipboard();
+}
+
 } // namespace
 
-Chart ChartOnPaper(Chart chart) {
-    chart.Backdrop.Fill.Style = FillStyle::Brush;
-    chart.Backdrop.Fill.Brush.Style = BrushStyle::Solid;
-    chart.Backdrop.Fill.Brush.FillColor = {255, 255, 255};
-    chart.Backdrop.Frame.Style = FrameStyle::None;
-    return chart;
+void RaiseNoPrinterNamed(const QString& name) {
+    const QStringList names = CurrentDesktop().PrinterNames();
+    RaisePrinterError(names.isEmpty() ? QStringLiteral("there is no printer")
+                                      : QStringLiteral("there is no printer named \"%1\"; there are %2")
+                                            .arg(name, names.join(QStringLiteral(", "))));
 }
 
 void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
+    const QRectF inches = printer.pageRect(QPrinter::Inch);
+    const double factor = PageFactor(inches.width() * PageUnitsPerInch, inches.height() * PageUnitsPerInch,
+                                     windowSize.width / PointsPerPixel);
+    const Size pageSize{windowSize.width * factor, windowSize.height * factor};
+
     QPainter painter;
     if (!painter.begin(&printer))
         RaisePrinterError(QStringLiteral("\"%1\" takes no page").arg(printer.printerName()));
     const QRectF page = printer.pageRect(QPrinter::DevicePixel);
-    const double scale = std::min(page.width() / windowSize.width, page.height() / windowSize.height);
-    const LayoutRequest request{.size = windowSize, .pixelsPerPoint = scale};
-    PaintScene(LayOut(ChartOnPaper(chart), request, QtTextMeasurer()), painter, scale, PaintTarget::Vector);
-    if (!painter.end() || printer.printerState() == QPrinter::Error ||
-        printer.printerState() == QPrinter::Aborted)
-        RaisePrinterError(QStringLiteral("\"%1\" did not finish its page").arg(printer.printerName()));
+    const double scale = std::min(page.width() / pageSize.width, page.height() / pageSize.height);
+    const LayoutRequest request{.size = pageSize, .pixelsPerPoint = scale};
+    PaintScene(LayOut(ChartOnPaper(chart, factor), request, QtTextMeasurer()), painter, scale,
+               PaintTarget::Vector);
+    if (!painter.end() || Failed(printer))
+        RaisePrinterError(QStringLiteral("\"%1\" did not take the page").arg(printer.printerName()));
 }
 
 void PrintChart(Viewer& viewer) {
-    const std::optional<QString> name = CurrentDesktop().DefaultPrinter();
-    if (!name) RaisePrinterError(QStringLiteral("there is no printer"));
-    const std::unique_ptr<QPrinter> printer = CurrentDesktop().OpenPrinter(*name);
-    if (!printer) RaisePrinterError(QStringLiteral("there is no printer named \"%1\"").arg(*name));
-    const ChartControl& chart = viewer.ChartImage();
-    PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, *printer);
+    const QmPrintDialog pdChart(viewer.ChartImage().window());
+    if (const std::unique_ptr<QPrinter> printer = pdChart.Execute()) PrintOn(*printer, viewer);
+}
+
+void PrintChart(Viewer& viewer, const QString& printerName) {
+    const std::unique_ptr<QPrinter> printer = CurrentDesktop().OpenPrinter(printerName);
+    if (!printer) RaiseNoPrinterNamed(printerName);
+    PrintOn(*printer, viewer);
 }
 
 } // namespace QmChart6

@@ -9,16 +9,19 @@ namespace QmChart6 {
 
 class Viewer;
 
-/// Prints the viewer's chart on one page of the default printer. Raises 482 where there is no printer, or
-/// where it fails.
+/// Prints the viewer's chart on one page of the printer that the person at the desk chooses, or of the
+/// process' printer where there is nobody. The clipboard is empty afterwards. When they cancel, nothing is
+/// done. Raises 482 where there is no printer, or where it fails; 6 where the page is too large to be
+/// measured. The chart is the same afterwards in any case.
 void PrintChart(Viewer& viewer);
-
-/// The chart as paper wants it: white ground, no frame.
-Chart ChartOnPaper(Chart chart);
+/// The same on the printer of that name, nobody being asked.
+void PrintChart(Viewer& viewer, const QString& printerName);
 
 /// Paints a chart that a window shows at `windowSize` (points) on the printer's page, as ChartOnPaper gives
-/// it, as large as the printable area allows in the window's proportions, fonts grown with it. Raises 482
-/// where the printer cannot print.
+/// it, as large as the printable area allows in the window's proportions. Raises as PrintChart.
 void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer);
+
+/// The error of a printer that is not there; its text tells the names that there are.
+[[noreturn]] void RaiseNoPrinterNamed(const QString& name);
 
 } // namespace QmChart6

@@ -2,9 +2,10 @@
 
 #include "base/Twips.h"
 #include "text/LocalText.h"
-#include "viewer/ChartTypeList.h"
+#include "viewer/BarIcon.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -40,6 +41,12 @@ ViewerToolBar::ViewerToolBar(QWidget* parent) : QToolBar(parent) {
     AddButton(QStringLiteral("Load"), 100, false);
     AddButton(QStringLiteral("Save"), 14, false);
     AddButton(QStringLiteral("Print"), 102, false);
+    for (int number = static_cast<int>(BarButton::ThreeD); number <= actions().size(); ++number) {
+        const auto button = static_cast<BarButton>(number);
+        connect(Button(button), &QAction::triggered, this, [this, button] { Q_EMIT ButtonClicked(button); });
+    }
+    connect(cbType_, &QComboBox::activated, this, &ViewerToolBar::TypeChosen);
+    FollowPalette();
 }
 
 void ViewerToolBar::AddTypeSelector() {
@@ -57,10 +64,7 @@ void ViewerToolBar::AddTypeSelector() {
 
 void ViewerToolBar::AddButton(const QString& key, int textKey, bool check) {
     const QString text = LocalText(textKey);
-    QString file = key;
-    file.remove(u'%');
-    // Without Qt's SVG plugin there is no picture, and the button shows its text.
-    QAction* action = addAction(QIcon(QStringLiteral(":/qmchart6/icons/%1.svg").arg(file)), text);
+    QAction* action = addAction(text);
     action->setObjectName(key);
     action->setToolTip(text);
     action->setCheckable(check);
@@ -69,16 +73,25 @@ void ViewerToolBar::AddButton(const QString& key, int textKey, bool check) {
     button->setAccessibleName(text);
 }
 
-void ViewerToolBar::Show(const Chart& chart, bool stacked, bool fullStacked) {
-    const bool threeD = Is3D(chart.chartType());
-    cbType_->clear();
-    cbType_->addItems(ChartTypeTexts(chart.ColumnCount(), threeD));
-    cbType_->setCurrentIndex(IndexOfChartType(chart.chartType(), chart.ColumnCount()));
-    Button(BarButton::ThreeD)->setChecked(threeD);
-    Button(BarButton::Stack)->setChecked(stacked);
-    Button(BarButton::FullStack)->setChecked(fullStacked);
-    Button(BarButton::Legend)->setChecked(chart.ShowLegend);
-    Button(BarButton::Flip)->setChecked(chart.Plot.DataSeriesInRow);
+void ViewerToolBar::changeEvent(QEvent* event) {
+    QToolBar::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) FollowPalette();
+}
+
+void ViewerToolBar::showEvent(QShowEvent* event) {
+    QToolBar::showEvent(event);
+    // Without Qt's SVG plugin there are no pictures, and the buttons show their texts.
+    if (CanDrawBarIcons()) return;
+    for (QAction* action : actions()) action->setIcon({});
+}
+
+void ViewerToolBar::FollowPalette() {
+    for (QAction* action : actions()) {
+        if (action->isSeparator() || action->objectName().isEmpty()) continue;
+        QString file = action->objectName();
+        file.remove(u'%');
+        action->setIcon(BarIcon(QStringLiteral(":/qmchart6/icons/%1.svg").arg(file), palette()));
+    }
 }
 
 } // namespace QmChart6

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "chartcontrol/model/Chart.h"
-
 #include <QToolBar>
 
 class QComboBox;
@@ -34,11 +32,22 @@ public:
     }
     [[nodiscard]] QComboBox* TypeSelector() const { return cbType_; }
 
-    /// Brings the selector and the check buttons in step with a chart and a viewer's stacking states.
-    void Show(const Chart& chart, bool stacked, bool fullStacked);
+    [[nodiscard]] bool IsPressed(BarButton button) const { return Button(button)->isChecked(); }
+    void Press(BarButton button, bool pressed) { Button(button)->setChecked(pressed); }
+
+Q_SIGNALS:
+    /// The person clicked a button, which is pressed or released by now.
+    void ButtonClicked(QmChart6::BarButton button);
+    /// The person chose a chart type, be it the one that was chosen already.
+    void TypeChosen();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void AddTypeSelector();
+    void FollowPalette();
     void AddButton(const QString& key, int textKey, bool check);
 
     QComboBox* cbType_ = nullptr;

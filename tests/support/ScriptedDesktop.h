@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <functional>
 
 /// The real desktop, but for what a person would answer: that is scripted, and what was asked is kept.
 class ScriptedDesktop : public QmChart6::QtDesktop {
@@ -25,6 +26,16 @@ public:
     /// The default printer's name, and the PDF file that it prints into.
     std::optional<QString> printer;
     QString printerFile;
+
+    /// The printers that there are, and what the print dialog gives; it is cancelled where that is nothing.
+    /// The settings are set by `settle`. The problem of every printer and of every page that it was given.
+    QStringList printers;
+    std::optional<QString> chosenPrinter;
+    std::function<void(QPrinter& settings)> settle = [](QPrinter&) {};
+    QString printerProblem;
+    QString pageProblem;
+    int printDialogs = 0;
+    mutable QStringList openedPrinters;
 
     QList<Message> messages;
     QList<QmChart6::SaveFileRequest> pickers;
@@ -62,11 +73,22 @@ public:
 
     [[nodiscard]] std::optional<QString> DefaultPrinter() const override { return printer; }
     [[nodiscard]] std::unique_ptr<QPrinter> OpenPrinter(const QString& name) const override {
+        openedPrinters.append(name);
         if (printerFile.isEmpty()) return QtDesktop::OpenPrinter(name);
         auto page = std::make_unique<QPrinter>(QPrinter::HighResolution);
         page->setOutputFormat(QPrinter::PdfFormat);
         page->setOutputFileName(printerFile);
         return page;
+    }
+    [[nodiscard]] QStringList PrinterNames() const override { return printers; }
+    [[nodiscard]] QString PrinterProblem(const QString& /*name*/) const override { return printerProblem; }
+    [[nodiscard]] std::function<QString()> WatchPrinter(const QString& /*name*/) const override {
+        return [this] { return pageProblem; };
+    }
+    [[nodiscard]] std::optional<QString> PickPrinter(QWidget* /*owner*/, QPrinter& settings) override {
+        ++printDialogs;
+        settle(settings);
+        return chosenPrinter;
     }
 
 private:

@@ -1,5 +1,7 @@
 #include "AutomationTest.h"
 
+#include "qmchart6/Host.h"
+
 #include "chart/ValueLabelFormat.h"
 #include "config/ConfigurationSchema.h"
 #include "config/ConfigurationStore.h"
@@ -25,6 +27,11 @@ protected:
     void Save(const QString& id, QString& name, std::uint8_t useConfig = 0) {
         charts.QmSaveGraph(id, 3, 2, data, rowLabels, columnLabels, title, rowTitle, columnTitle, valueTitle,
                            useConfig, name);
+    }
+    void UsePrinter() {
+        desktop.printer = desktop.chosenPrinter = QStringLiteral("paper");
+        desktop.printers = QStringList{QStringLiteral("paper"), QStringLiteral("lab")};
+        desktop.printerFile = InFolder("page.pdf");
     }
     [[nodiscard]] QString InFolder(const char* name) const { return folder.filePath(QLatin1String(name)); }
 
@@ -215,15 +222,50 @@ TEST_F(GraphFlowsTest, SavingWithAStoredLookGivesAnotherPicture) {
 }
 
 TEST_F(GraphFlowsTest, PrintingClosesTheViewerThatWasOpen) {
-    desktop.printer = QStringLiteral("paper");
-    desktop.printerFile = InFolder("page.pdf");
+    UsePrinter();
     Make(QStringLiteral("a"));
     Print(QStringLiteral("A"));
     EXPECT_GT(QFile(desktop.printerFile).size(), 0);
     EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
 }
 
+TEST_F(GraphFlowsTest, ACancelledPrintClosesTheViewerAllTheSame) {
+    UsePrinter();
+    desktop.chosenPrinter.reset();
+    Print(QStringLiteral("a"));
+    EXPECT_EQ(desktop.printDialogs, 1);
+    EXPECT_FALSE(QFile::exists(desktop.printerFile));
+    EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}
+
+TEST_F(GraphFlowsTest, OnAPrinterThatTheHostSetNobodyIsAsked) {
+    UsePrinter();
+    SetPrinter(QStringLiteral("lab"));
+    Print(QStringLiteral("a"));
+    EXPECT_EQ(desktop.printDialogs, 0);
+    EXPECT_EQ(desktop.openedPrinters, QStringList("lab"));
+    EXPECT_GT(QFile(desktop.printerFile).size(), 0);
+    SetPrinter(QString());
+    Print(QStringLiteral("a"));
+    EXPECT_EQ(desktop.printDialogs, 1);
+}
+
+TEST_F(GraphFlowsTest, AHostSetsPrintersThatThereAre) {
+    EXPECT_TRUE(PrinterNames().isEmpty());
+    EXPECT_EQ(DefaultPrinterName(), "");
+    EXPECT_RAISES(482, (SetPrinter(QStringLiteral("lab")), 0));
+    UsePrinter();
+    EXPECT_EQ(PrinterNames(), QStringList({"paper", "lab"}));
+    EXPECT_EQ(DefaultPrinterName(), "paper");
+    SetPrinter(QStringLiteral("lab"));
+    EXPECT_RAISES(482, (SetPrinter(QStringLiteral("cellar")), 0));
+    Print(QStringLiteral("a"));
+    EXPECT_EQ(desktop.openedPrinters, QStringList("lab"));
+    SetPrinter(QString());
+}
+
 TEST_F(GraphFlowsTest, PrintingWithoutAPrinterRaises482AndKeepsTheViewer) {
+    desktop.chosenPrinter = QString();
     EXPECT_RAISES(482, (Print(QStringLiteral("a")), 0));
     EXPECT_NE(Viewer(QStringLiteral("a")), nullptr);
     EXPECT_FALSE(AnyViewerShown());

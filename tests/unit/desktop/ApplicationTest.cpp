@@ -211,3 +211,12 @@ TEST(QtDesktop, HasNoPrinterOfANameThatNoneBears) {
     EnsureApplication();
     EXPECT_EQ(QtDesktop().OpenPrinter(QStringLiteral("no such printer")), nullptr);
 }
+
+TEST(HeadlessDesktop, ThePrintDialogIsAnsweredWithWhatItBeginsWith) {
+    EnsureApplication();
+    HeadlessDesktop desktop;
+    QPrinter settings(QPrinter::HighResolution);
+    const QPageLayout before = settings.pageLayout();
+    EXPECT_EQ(desktop.PickPrinter(nullptr, settings), std::optional(settings.printerName()));
+    EXPECT_EQ(settings.pageLayout(), before);
+}

@@ -40,6 +40,14 @@ TEST(CommandLine, SaveTakesATableAndAPictureAndOptionsAnywhere) {
     EXPECT_FALSE(line.hasHeader || line.hasRowLabels);
 }
 
+TEST(CommandLine, PrintTakesATableAndAPrinter) {
+    EXPECT_EQ(Parse({"print", "t"}).command, Command::Print);
+    EXPECT_EQ(Parse({"print", "t"}).table, "t");
+    EXPECT_EQ(Parse({"print", "t"}).printer, std::nullopt);
+    EXPECT_EQ(Parse({"--printer", "office", "print", "t"}).printer, std::optional<QString>("office"));
+    EXPECT_EQ(Parse({"printers"}).command, Command::Printers);
+}
+
 TEST(CommandLine, LanguagesAndUsesOfTheConfigurationHaveTheirNumbers) {
     EXPECT_EQ(Parse({"show", "t", "--language", "en"}).language, 0);
     EXPECT_EQ(Parse({"show", "t", "--language", "pt"}).language, 1);
@@ -92,7 +100,9 @@ INSTANTIATE_TEST_SUITE_P(
         QStringList{"show", "t", "--separator", "\""}, QStringList{"show", "t", "--separator", "7"},
         QStringList{"show", "t", "--separator", "."}, QStringList{"show", "t", "--separator", "\n"},
         QStringList{"show", "t", "--separator", QString(QChar(0xA7))},
-        QStringList{"show", "t", "--no-header=1"}));
+        QStringList{"show", "t", "--no-header=1"}, QStringList{"print"}, QStringList{"print", "t", "u"},
+        QStringList{"print", "t", "--printer", ""}, QStringList{"show", "t", "--printer", "office"},
+        QStringList{"printers", "t"}, QStringList{"printers", "--printer", "office"}));
 
 TEST(PresentableTitle, IsWordsThatBeginLikeASentence) {
     EXPECT_EQ(PresentableTitle("barley-by-site"), "Barley by site");

@@ -5,7 +5,13 @@
 #include "support/ScriptedDesktop.h"
 #include "viewer/GraphForm.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
 #include <QFile>
+#include <QLabel>
+#include <QMimeData>
+#include <QPageLayout>
 #include <QPrinter>
 #include <QTemporaryDir>
 
@@ -22,6 +28,7 @@ QByteArray BytesOf(const QString& name) {
 
 TEST(PrintChart, Raises482WhereThereIsNoPrinter) {
     ScriptedDesktop desktop;
+    desktop.chosenPrinter = QString();
     const ScopedDesktop scope(desktop);
     GraphForm form;
     EXPECT_RAISES(482, (PrintChart(form), 0));
@@ -30,21 +37,156 @@ TEST(PrintChart, Raises482WhereThereIsNoPrinter) {
 TEST(PrintChart, Raises482ForAPrinterThatIsNotThere) {
     ScriptedDesktop desktop;
     desktop.printer = QStringLiteral("no such printer");
+    desktop.chosenPrinter = QStringLiteral("no such printer");
     const ScopedDesktop scope(desktop);
     GraphForm form;
     EXPECT_RAISES(482, (PrintChart(form), 0));
 }
 
-TEST(ChartOnPaper, HasAWhiteGroundAndNoFrameAndIsTheSameOtherwise) {
-    Chart chart;
-    chart.SetGridSize(2, 2);
-    Chart expected = chart;
-    chart.Backdrop.Frame.Style = FrameStyle::ThickOuter;
-    chart.Backdrop.Fill.Brush.FillColor = {200, 220, 255};
-    chart.Backdrop.Fill.Brush.Style = BrushStyle::Hatch;
-    expected.Backdrop.Frame.Style = FrameStyle::None;
-    expected.Backdrop.Fill.Brush.FillColor = {255, 255, 255};
-    EXPECT_EQ(ChartOnPaper(chart), expected);
+namespace {
+
+/// Two printers that print into a file, and a viewer with something on every part.
+class PrintChartTest : public testing::Test {
+protected:
+    PrintChartTest() {
+        desktop.printers = {QStringLiteral("office"), QStringLiteral("lab")};
+        desktop.printer = QStringLiteral("office");
+        desktop.printerFile = folder.filePath(QStringLiteral("page.pdf"));
+        desktop.chosenPrinter = QStringLiteral("office");
+        Chart& chart = form.ChartImage().Model();
+        chart.SetGridSize(3, 2);
+        chart.Title.Text = QStringLiteral("Title");
+        chart.Title.Location.LocationType = LocationType::Bottom;
+        chart.Legend.Location.LocationType = LocationType::Left;
+        chart.Backdrop.Frame.Style = FrameStyle::ThickOuter;
+        chart.Backdrop.Fill.Brush.FillColor = {200, 220, 255};
+        desktop.SetClipboard(TextOnClipboard());
+    }
+    static std::unique_ptr<QMimeData> TextOnClipboard() {
+        auto content = std::make_unique<QMimeData>();
+        content->setText(QStringLiteral("before"));
+        return content;
+    }
+    [[nodiscard]] QString ClipboardText() const { return desktop.Clipboard()->text(); }
+    [[nodiscard]] bool HasPage() const { return BytesOf(desktop.printerFile).startsWith("%PDF"); }
+
+    const QTemporaryDir folder;
+    ScriptedDesktop desktop;
+    ScopedDesktop scope{desktop};
+    GraphForm form;
+};
+
+} // namespace
+
+TEST_F(PrintChartTest, TheChartIsTheSameAndTheClipboardEmptyAfterwards) {
+    const Chart before = form.ChartImage().Model();
+    PrintChart(form);
+    EXPECT_TRUE(HasPage());
+    EXPECT_EQ(desktop.printDialogs, 1);
+    EXPECT_EQ(form.ChartImage().Model(), before);
+    EXPECT_TRUE(desktop.Clipboard() == nullptr || desktop.Clipboard()->formats().isEmpty());
+    EXPECT_FALSE(form.Modified());
+}
+
+TEST_F(PrintChartTest, ACancelledDialogPrintsNothingAndChangesNothing) {
+    desktop.chosenPrinter.reset();
+    const Chart before = form.ChartImage().Model();
+    PrintChart(form);
+    EXPECT_FALSE(HasPage());
+    EXPECT_EQ(form.ChartImage().Model(), before);
+    EXPECT_EQ(ClipboardText(), "before");
+}
+
+TEST_F(PrintChartTest, AFailingPrinterRaises482AndLeavesTheChartAsItWas) {
+    desktop.printerFile = QStringLiteral("/nowhere/at/all/page.pdf");
+    const Chart before = form.ChartImage().Model();
+    EXPECT_RAISES(482, (PrintChart(form), 0));
+    EXPECT_EQ(form.ChartImage().Model(), before);
+    EXPECT_EQ(form.findChild<QWidget*>(QStringLiteral("GraphPrinting")), nullptr);
+}
+
+TEST_F(PrintChartTest, AFileHasNoQueueThatCouldHaveAProblem) {
+    desktop.printerProblem = desktop.pageProblem = QStringLiteral("the printer is stopped");
+    PrintChart(form);
+    EXPECT_TRUE(HasPage());
+}
+
+TEST_F(PrintChartTest, TheChosenPrinterIsTheOneFromThenOn) {
+    desktop.chosenPrinter = QStringLiteral("lab");
+    PrintChart(form);
+    EXPECT_EQ(desktop.openedPrinters, QStringList({"office", "lab"}));
+    desktop.openedPrinters.clear();
+    PrintChart(form);
+    EXPECT_EQ(desktop.openedPrinters.front(), "lab");
+    desktop.chosenPrinter = QStringLiteral("office");
+    PrintChart(form);
+}
+
+TEST_F(PrintChartTest, ANameThatNoPrinterBearsLeavesThePrinterThatThereIs) {
+    desktop.chosenPrinter = QStringLiteral("gone");
+    PrintChart(form);
+    EXPECT_EQ(desktop.openedPrinters.back(), "office");
+    EXPECT_TRUE(HasPage());
+}
+
+TEST_F(PrintChartTest, AChosenPrinterThatWasTakenAwayGivesWayToTheDefault) {
+    desktop.chosenPrinter = QStringLiteral("lab");
+    PrintChart(form);
+    desktop.printers = QStringList{QStringLiteral("office")};
+    desktop.chosenPrinter = QStringLiteral("office");
+    desktop.openedPrinters.clear();
+    PrintChart(form);
+    EXPECT_EQ(desktop.openedPrinters.front(), "office");
+}
+
+TEST_F(PrintChartTest, TheSettingsOfTheDialogReachThePage) {
+    desktop.settle = [](QPrinter& settings) { settings.setPageOrientation(QPageLayout::Landscape); };
+    PrintChart(form);
+    const QByteArray page = BytesOf(desktop.printerFile);
+    const int box = static_cast<int>(page.indexOf("/MediaBox [0 0 "));
+    ASSERT_GT(box, 0);
+    const QList<QByteArray> numbers = page.mid(box + 15, 30).split(']').front().simplified().split(' ');
+    EXPECT_GT(numbers.at(0).toDouble(), numbers.at(1).toDouble());
+}
+
+TEST_F(PrintChartTest, AFileInPlaceOfAPrinterIsPrintedInto) {
+    const QString other = folder.filePath(QStringLiteral("other.pdf"));
+    desktop.chosenPrinter = QString();
+    desktop.settle = [&](QPrinter& settings) { settings.setOutputFileName(other); };
+    PrintChart(form);
+    EXPECT_TRUE(BytesOf(other).startsWith("%PDF"));
+    EXPECT_FALSE(HasPage());
+}
+
+TEST_F(PrintChartTest, ByNameNobodyIsAsked) {
+    PrintChart(form, QStringLiteral("lab"));
+    EXPECT_EQ(desktop.printDialogs, 0);
+    EXPECT_EQ(desktop.openedPrinters, QStringList("lab"));
+    EXPECT_TRUE(HasPage());
+}
+
+TEST_F(PrintChartTest, AWindowTellsWhileItIsPrinted) {
+    class Watcher : public QObject {
+    public:
+        bool eventFilter(QObject* object, QEvent* event) override {
+            if (event->type() == QEvent::Show && object->objectName() == "GraphPrinting")
+                text = object->findChild<QLabel*>()->text();
+            return false;
+        }
+        QString text;
+    } watcher;
+    qApp->installEventFilter(&watcher);
+    PrintChart(form);
+    EXPECT_EQ(watcher.text, "Printing In Progress");
+    EXPECT_EQ(form.findChild<QWidget*>(QStringLiteral("GraphPrinting")), nullptr);
+}
+
+TEST_F(PrintChartTest, AnErrorOfTheButtonIsShownInABox) {
+    desktop.printer.reset();
+    desktop.printers.clear();
+    form.findChild<QAction*>(QStringLiteral("optPrint"))->trigger();
+    ASSERT_EQ(desktop.messages.size(), 1);
+    EXPECT_TRUE(desktop.messages.front().text.startsWith(QStringLiteral("Error 482: ")));
 }
 
 TEST(PrintPage, WritesOnePageAndLeavesTheChartAsItWas) {

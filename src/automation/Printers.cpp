@@ -1,0 +1,42 @@
+#include "automation/Printers.h"
+
+#include "desktop/Application.h"
+#include "desktop/Desktop.h"
+#include "qmchart6/Host.h"
+#include "viewer/PrintChart.h"
+
+namespace QmChart6 {
+
+namespace {
+
+QString& SetName() {
+    static QString name;
+    return name;
+}
+
+Desktop& HostDesktop() {
+    RequireFirstThread();
+    EnsureApplication();
+    return CurrentDesktop();
+}
+
+} // namespace
+
+const QString& HostPrinter() {
+    return SetName();
+}
+
+QStringList PrinterNames() {
+    return HostDesktop().PrinterNames();
+}
+
+QString DefaultPrinterName() {
+    return HostDesktop().DefaultPrinter().value_or(QString());
+}
+
+void SetPrinter(const QString& name) {
+    if (!name.isEmpty() && !HostDesktop().PrinterNames().contains(name)) RaiseNoPrinterNamed(name);
+    SetName() = name;
+}
+
+} // namespace QmChart6

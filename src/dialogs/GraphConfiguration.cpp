@@ -1,0 +1,128 @@
+#include "dialogs/GraphConfiguration.h"
+
+#include "chartcontrol/widget/ChartControl.h"
+#include "config/ConfigurationStore.h"
+#include "config/Viewer.h"
+#include "desktop/Desktop.h"
+#include "dialogs/Captions.h"
+#include "text/LocalText.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr int ListWidth = 300; // logical pixels
+constexpr int ListHeight = 200;
+
+QCheckBox* NewCheckBox(QWidget* parent, const char* name, int textKey) {
+    auto* box = new QCheckBox(LocalText(textKey), parent);
+    Describe(*box, name, LocalText(textKey));
+    return box;
+}
+
+/// A name may hold line ends; the list has one line for each.
+QString OnOneLine(QString name) {
+    return name.replace(u'\n', QChar(0x2424)).replace(u'\r', QChar(0x240d));
+}
+
+} // namespace
+
+GraphConfiguration::GraphConfiguration(QWidget* owner) : PropertyDialog(owner, Buttons::OkCancelApply) {
+    setObjectName(QStringLiteral("GraphConfiguration"));
+    setWindowTitle(LocalText(100));
+    MakeList();
+    MakeOptions();
+    Finish();
+}
+
+void GraphConfiguration::MakeList() {
+    lstConfig_ = new QListWidget(this);
+    lstConfig_->setObjectName(QStringLiteral("lstConfig"));
+    lstConfig_->setUniformItemSizes(true);
+    lstConfig_->setTextElideMode(Qt::ElideMiddle);
+    lstConfig_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lstConfig_->setMinimumSize(ListWidth, ListHeight);
+    auto* lblAvailable = NewLabel(this, "lblAvailable", LocalText(110), *lstConfig_);
+    btnDelete_ = new QPushButton(LocalText(109), this);
+    Describe(*btnDelete_, "btnDelete", LocalText(109));
+    connect(lstConfig_, &QListWidget::itemDoubleClicked, this, &GraphConfiguration::accept);
+    connect(lstConfig_, &QListWidget::itemSelectionChanged, this, &GraphConfiguration::AllowDelete);
+    connect(btnDelete_, &QPushButton::clicked, this, &GraphConfiguration::Delete);
+    auto* deleteKey = new QShortcut(QKeySequence::Delete, lstConfig_);
+    deleteKey->setContext(Qt::WidgetShortcut);
+    connect(deleteKey, &QShortcut::activated, btnDelete_, &QPushButton::click);
+
+    auto* beside = new QVBoxLayout;
+    beside->addWidget(btnDelete_);
+    beside->addStretch(1);
+    auto* row = new QHBoxLayout;
+    row->addWidget(lstConfig_, 1);
+    row->addLayout(beside);
+    Body().addWidget(lblAvailable);
+    Body().addLayout(row, 1);
+}
+
+void GraphConfiguration::MakeOptions() {
+    chkTitles_ = NewCheckBox(this, "chkTitles", 112);
+    chkDefault_ = NewCheckBox(this, "chkDefault", 111);
+    Body().addWidget(chkTitles_);
+    Body().addWidget(chkDefault_);
+}
+
+void GraphConfiguration::Execute(Viewer& viewer) {
+    viewer_ = &viewer;
+    FillList();
+    lstConfig_->setFocus();
+    RunLoop([this] { Load(); });
+}
+
+void GraphConfiguration::FillList() {
+    const ConfigurationList list = FillConfigurationList(viewer_->QmConfig());
+    lstConfig_->clear();
+    for (const QString& name : list.names) {
+        auto* item = new QListWidgetItem(OnOneLine(name), lstConfig_);
+        item->setData(Qt::UserRole, name);
+        item->setToolTip(name);
+    }
+    if (list.selected >= 0) {
+        lstConfig_->setCurrentRow(list.selected);
+        lstConfig_->scrollToItem(lstConfig_->currentItem(), QAbstractItemView::PositionAtCenter);
+    }
+    AllowDelete();
+}
+
+void GraphConfiguration::AllowDelete() {
+    btnDelete_->setEnabled(!lstConfig_->selectedItems().isEmpty());
+}
+
+QString GraphConfiguration::Selected() const {
+    const QList<QListWidgetItem*> selected = lstConfig_->selectedItems();
+    return selected.isEmpty() ? QString() : selected.front()->data(Qt::UserRole).toString();
+}
+
+void GraphConfiguration::Load() {
+    if (lstConfig_->count() == 0) return;
+    LoadConfiguration(*viewer_, Selected(), chkTitles_->isChecked());
+    if (chkDefault_->isChecked()) BindChartToConfiguration(*viewer_, Selected());
+    viewer_->ChartImage().Refresh();
+    viewer_->SetStatus(LocalText(118));
+}
+
+void GraphConfiguration::Delete() {
+    const QString name = Selected();
+    const Answer answer = CurrentDesktop().ShowMessage(this, LocalText(114) + u' ' + name + u'?',
+                                                       LocalText(109), MessageButtons::YesNo);
+    if (answer != Answer::Yes) return;
+    DeleteConfiguration(name);
+    FillList();
+}
+
+} // namespace QmChart6

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "dialogs/PropertyDialog.h"
+
+class QCheckBox;
+class QListWidget;
+
+namespace QmChart6 {
+
+class Viewer;
+
+/// Picks a stored look for a viewer: loads it with or without its texts, makes it what the chart is bound to,
+/// or deletes it.
+class GraphConfiguration : public PropertyDialog {
+    Q_OBJECT
+
+public:
+    explicit GraphConfiguration(QWidget* owner);
+
+    /// Shows the stored looks, the viewer's own selected, and loads what is chosen into the viewer. Without
+    /// chkDefault the viewer stays bound to the look that it had.
+    void Execute(Viewer& viewer);
+
+private:
+    void MakeList();
+    void MakeOptions();
+    void FillList();
+    void Load();
+    void Delete();
+    void AllowDelete();
+    /// The name that is selected; "" for none.
+    [[nodiscard]] QString Selected() const;
+
+    Viewer* viewer_ = nullptr;
+    QListWidget* lstConfig_ = nullptr;
+    QCheckBox* chkTitles_ = nullptr;
+    QCheckBox* chkDefault_ = nullptr;
+    QPushButton* btnDelete_ = nullptr;
+};
+
+} // namespace QmChart6

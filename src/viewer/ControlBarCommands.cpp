@@ -1,0 +1,157 @@
+#include "viewer/ControlBarCommands.h"
+
+#include "chart/ChartFunctions.h"
+#include "chartcontrol/widget/ChartControl.h"
+#include "config/ConfigurationStore.h"
+#include "dialogs/GraphConfiguration.h"
+#include "viewer/ChartTypeList.h"
+#include "viewer/GraphForm.h"
+#include "viewer/PrintChart.h"
+
+#include <QComboBox>
+
+namespace QmChart6 {
+
+namespace {
+
+/// Sets a flag for as long as it lives.
+class Raised {
+public:
+    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Raised() { flag_ = false; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+private:
+    bool& flag_;
+};
+
+constexpr Truth TruthOf(bool value) {
+    return value ? True : False;
+}
+
+} // namespace
+
+Chart& ControlBarCommands::Model() const {
+    return form_.ChartImage().Model();
+}
+
+int ControlBarCommands::Selected() const {
+    return ChartTypeAtIndex(bar_.TypeSelector()->currentIndex(), Model().ColumnCount(),
+                            bar_.IsPressed(BarButton::ThreeD));
+}
+
+void ControlBarCommands::SetSelected(int type) {
+    const ChartType wanted = ToChartType(type);
+    bar_.Press(BarButton::ThreeD, Is3D(wanted));
+    RefillChartTypeList();
+    SelectIndex(IndexOfChartType(wanted, Model().ColumnCount()));
+}
+
+void ControlBarCommands::RefillChartTypeList() {
+    QComboBox& selector = *bar_.TypeSelector();
+    const int before = selector.currentIndex();
+    selector.clear();
+    selector.addItems(ChartTypeTexts(Model().ColumnCount(), bar_.IsPressed(BarButton::ThreeD)));
+    SelectIndex(before >= 0 && before < selector.count() ? before : 0);
+}
+
+/// Selecting is choosing, whoever does it.
+void ControlBarCommands::SelectIndex(int index) {
+    bar_.TypeSelector()->setCurrentIndex(index);
+    ChooseType();
+}
+
+void ControlBarCommands::ChooseType() {
+    if (busy_) return;
+    Chart& chart = Model();
+    const ChartType before = chart.chartType();
+    chart.SetChartType(ToChartType(Selected()));
+    FitDataLabelLocations(chart);
+    if (chart.ColumnCount() == 1) {
+        // One column as a pie is one pie of its rows; nobody has to find that out by hand.
+        bar_.Press(BarButton::Flip, chart.chartType() == ChartType::Pie2D);
+        bar_.Button(BarButton::Flip)->setEnabled(false);
+        SwitchSeriesInRows();
+    }
+    if (chart.chartType() != before) form_.SetModified(true);
+    form_.ChartImage().Refresh();
+}
+
+void ControlBarCommands::FollowChart() {
+    const Raised busy(busy_);
+    const Chart& chart = Model();
+    SetSelected(static_cast<int>(chart.chartType()));
+    bar_.Press(BarButton::Stack, form_.Stacked() != 0);
+    bar_.Press(BarButton::FullStack, form_.FullStacked() != 0);
+    bar_.Press(BarButton::Legend, chart.ShowLegend);
+    bar_.Press(BarButton::Flip, chart.Plot.DataSeriesInRow);
+    AllowWhatCanBeSwitched();
+}
+
+void ControlBarCommands::AllowWhatCanBeSwitched() {
+    bar_.Button(BarButton::FullStack)->setEnabled(bar_.IsPressed(BarButton::Stack));
+    bar_.Button(BarButton::Flip)->setEnabled(Model().ColumnCount() != 1);
+}
+
+void ControlBarCommands::Click(BarButton button) {
+    if (busy_) return;
+    Act(button);
+    if (button >= BarButton::Load) return;
+    form_.SetModified(true);
+    form_.ChartImage().Refresh();
+}
+
+void ControlBarCommands::Act(BarButton button) {
+    switch (button) {
+    case BarButton::TypeSelector:
+    case BarButton::Separator:
+        return;
+    case BarButton::ThreeD:
+        return RefillChartTypeList();
+    case BarButton::Stack:
+        return SwitchStacking();
+    case BarButton::FullStack:
+        return SwitchFullStacking();
+    case BarButton::Flip:
+        return SwitchSeriesInRows();
+    case BarButton::Legend:
+        return SetLegendVisible(Model(), TruthOf(bar_.IsPressed(button)));
+    case BarButton::Load:
+        GraphConfiguration(&form_).Execute(form_);
+        return form_.SetModified(false);
+    case BarButton::Save:
+        SaveConfiguration(form_);
+        return form_.SetModified(false);
+    case BarButton::Print:
+        return PrintChart(form_);
+    }
+}
+
+/// Shares of a whole are there only while there is a whole: without "Stack" there is no "100%".
+void ControlBarCommands::SwitchStacking() {
+    const bool stacked = bar_.IsPressed(BarButton::Stack);
+    if (!stacked) {
+        bar_.Press(BarButton::FullStack, false);
+        SwitchFullStacking();
+    }
+    bar_.Button(BarButton::FullStack)->setEnabled(stacked);
+    QmChart6::SetStacked(Model(), TruthOf(stacked));
+    form_.SetStacked(stacked ? 1 : 0);
+}
+
+void ControlBarCommands::SwitchFullStacking() {
+    const bool on = bar_.IsPressed(BarButton::FullStack);
+    QmChart6::SetFullStacked(Model(), TruthOf(on));
+    form_.SetFullStacked(on ? 1 : 0);
+}
+
+/// Stacking is off meanwhile, so that the series are made anew unstacked.
+void ControlBarCommands::SwitchSeriesInRows() {
+    const bool stacked = bar_.IsPressed(BarButton::Stack);
+    if (stacked) Model().Stacking = false;
+    SetSeriesInRows(Model(), TruthOf(bar_.IsPressed(BarButton::Flip)));
+    if (stacked) Model().Stacking = true;
+}
+
+} // namespace QmChart6

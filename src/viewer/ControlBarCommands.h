@@ -1,0 +1,52 @@
+#pragma once
+
+#include "viewer/ViewerToolBar.h"
+
+namespace QmChart6 {
+
+class GraphForm;
+struct Chart;
+
+/// What the control bar does to a viewer's chart, and how the bar follows the chart. The check buttons are
+/// the viewer's memory of the options; Stacked and FullStacked of the viewer mirror theirs.
+class ControlBarCommands {
+public:
+    ControlBarCommands(GraphForm& form, ViewerToolBar& bar) : form_(form), bar_(bar) {}
+
+    /// The program itself sets buttons and selector: nothing that they do is done.
+    [[nodiscard]] bool Busy() const { return busy_; }
+
+    /// The number of the chart type that selector and "3D" stand for.
+    [[nodiscard]] int Selected() const;
+    /// Puts selector and "3D" in the state that stands for a chart type, and does what choosing it does.
+    /// Raises 380 for a number that is no chart type, or one that the chart cannot be.
+    void SetSelected(int type);
+
+    /// Lists the chart types that go with the chart's columns and "3D", keeping the place that is selected
+    /// where there still is one, and gives the chart the type at that place.
+    void RefillChartTypeList();
+
+    /// Brings buttons and selector in step with the chart, which stays as it is.
+    void FollowChart();
+
+    /// Does what a button does. An option's button makes the viewer modified, whether or not anything
+    /// changed.
+    void Click(BarButton button);
+    /// Gives the chart the selected type, with what goes with it.
+    void ChooseType();
+
+private:
+    void Act(BarButton button);
+    void SwitchStacking();
+    void SwitchFullStacking();
+    void SwitchSeriesInRows();
+    void SelectIndex(int index);
+    void AllowWhatCanBeSwitched();
+    [[nodiscard]] Chart& Model() const;
+
+    GraphForm& form_;
+    ViewerToolBar& bar_;
+    bool busy_ = false;
+};
+
+} // namespace QmChart6

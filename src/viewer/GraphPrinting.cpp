@@ -1,0 +1,40 @@
+#include "viewer/GraphPrinting.h"
+
+#include "text/LocalText.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr int PrintingKey = 120;
+
+// Logical pixels.
+constexpr int SideMargin = 32;
+constexpr int EdgeMargin = 24;
+
+} // namespace
+
+GraphPrinting::GraphPrinting(QWidget* owner)
+    : QWidget(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
+    setObjectName(QStringLiteral("GraphPrinting"));
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowTitle(LocalText(PrintingKey));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(SideMargin, EdgeMargin, SideMargin, EdgeMargin);
+    auto* text = new QLabel(LocalText(PrintingKey), this);
+    text->setTextFormat(Qt::PlainText);
+    text->setAlignment(Qt::AlignCenter);
+    column->addWidget(text);
+    adjustSize();
+    if (owner != nullptr) move(owner->frameGeometry().center() - rect().center());
+    show();
+    // So that it is seen before the work begins; clicks wait.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace QmChart6
