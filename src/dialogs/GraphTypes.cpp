@@ -1,12 +1,12 @@
 #include "dialogs/GraphTypes.h"
 
 #include "chart/ChartFunctions.h"
-#include "chart/ValueLabelFormat.h"
 #include "chartcontrol/paint/QtColour.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
 #include "dialogs/ChartKinds.h"
 #include "dialogs/ColourBox.h"
+#include "dialogs/SampleOf.h"
 #include "text/LocalText.h"
 
 #include <QCheckBox>
@@ -26,15 +26,10 @@ namespace QmChart6 {
 namespace {
 
 constexpr std::size_t ZAxis = 3;
-constexpr int MostSampleRows = 6;
 constexpr double MarkerSize = 10; // points
 
 Truth TruthOf(const QCheckBox& box) {
     return box.isChecked() ? True : False;
-}
-
-std::int16_t NumberOfBox(const QCheckBox& box) {
-    return box.isChecked() ? 1 : 0;
 }
 
 /// What all series have; the value of number 0 where they differ, or where there is none.
@@ -45,17 +40,6 @@ Value CommonTo(const SeriesCollection& series, Read read) {
     for (int number = 2; number <= series.Count(); ++number)
         if (read(series(number).DataPoints.Item(DataPoints::All).DataPointLabel) != first) return Value{};
     return first;
-}
-
-/// A label that leaves room for the chart in a small picture.
-QString Shortened(const QString& label) {
-    constexpr int Most = 12;
-    return label.size() > Most ? label.left(Most - 1) + u'…' : label;
-}
-
-/// A value that makes a sample look like a chart: positive, and uneven from one row and column to the next.
-double SampleValue(int row, int column) {
-    return 20 + (row * 37 + column * 53) % 61;
 }
 
 } // namespace
@@ -135,35 +119,13 @@ void GraphTypes::RefreshSample() {
     if (!filling_) form_.SampleChart->Refresh();
 }
 
-/// The sample has the chart's look, its number of columns and some of its rows, so that it offers the same
-/// kinds and is quickly drawn.
-void GraphTypes::MakeSample(const Chart& chart) {
-    Chart& sample = Sample();
-    sample = chart;
-    SetLegendVisible(sample, chart.ShowLegend ? True : False); // from here on a smaller grid changes nothing
-    sample.SetGridSize(std::min(chart.RowCount(), MostSampleRows), chart.ColumnCount());
-    for (int column = 1; column <= sample.ColumnCount(); ++column) {
-        sample.DataGrid.SetColumnLabel(column, Shortened(chart.DataGrid.ColumnLabel(column)));
-        for (int row = 1; row <= sample.RowCount(); ++row)
-            sample.DataGrid.SetValue(row, column, SampleValue(row, column));
-    }
-    for (int row = 1; row <= sample.RowCount(); ++row)
-        sample.DataGrid.SetRowLabel(row, Shortened(chart.DataGrid.RowLabel(row)));
-    sample.Title.Text.clear();
-    sample.Footnote.Text.clear();
-    // Places that were chosen for the chart's own size.
-    sample.Plot.AutoLayout = true;
-    if (sample.Legend.Location.LocationType == LocationType::Custom)
-        sample.Legend.Location.LocationType = LocationType::Right;
-}
-
 void GraphTypes::Fill(Viewer& viewer) {
     Chart& chart = viewer.ChartImage().Model();
     // Markers are given their size on every opening, whatever becomes of the dialog.
     for (Series& series : chart.Plot.SeriesCollection)
         series.DataPoints.Item(DataPoints::All).Marker.Size = MarkerSize;
     filling_ = true;
-    MakeSample(chart);
+    Sample() = SampleOf(chart);
     FillOptions(viewer, chart);
     FillAxes(chart);
     SetSelected(static_cast<std::int16_t>(chart.chartType()));
@@ -326,66 +288,6 @@ void GraphTypes::PickBackColor() {
     if (!form_.pbBackColor->Pick(form_.btnBackColor->accessibleName())) return;
     SetBackgroundColor(Sample(), NumberOf(form_.pbBackColor->BackColor()));
     RefreshSample();
-}
-
-void GraphTypes::WriteBack(Viewer& viewer) const {
-    Chart& chart = viewer.ChartImage().Model();
-    WriteOptions(chart);
-    WriteAxes(chart);
-    WriteLabels(chart);
-    viewer.SetMarkers(NumberOfBox(*form_.CShowMarkers));
-    viewer.SetLines(NumberOfBox(*form_.CShowLines));
-    viewer.SetStacked(NumberOfBox(*form_.CStackSeries));
-    viewer.SetFullStacked(NumberOfBox(*form_.C100));
-    viewer.ChartImage().Refresh();
-}
-
-void GraphTypes::WriteOptions(Chart& chart) const {
-    // The same type again would take the series' own types away.
-    const ChartType kind = ToChartType(Selected());
-    if (chart.chartType() != kind) chart.SetChartType(kind);
-    FitDataLabelLocations(chart);
-    SetLegendVisible(chart, TruthOf(*form_.CShowLegend));
-    SetStacked(chart, TruthOf(*form_.CStackSeries));
-    SetFullStacked(chart, TruthOf(*form_.C100));
-    SetSeriesInRows(chart, TruthOf(*form_.CSeriesInRows));
-    SetSeriesMarkers(chart, TruthOf(*form_.CShowMarkers));
-    SetSeriesLines(chart, TruthOf(*form_.CShowLines));
-}
-
-void GraphTypes::WriteAxes(Chart& chart) const {
-    constexpr int Count = static_cast<int>(GraphTypesControls::AxisCount);
-    for (int axis = 0; axis < Count; ++axis)
-        SetAxisVisible(chart, TruthOf(*form_.chkAxis[static_cast<std::size_t>(axis)]), axis);
-    for (int axis = 0; axis < Count; ++axis)
-        SetAxisTitleVisible(chart, TruthOf(*form_.chkAxisLab[static_cast<std::size_t>(axis)]), axis);
-    SetPieLabelPosition(chart, form_.cbPiePos->currentIndex());
-    SetBackgroundColor(chart, NumberOf(form_.pbBackColor->BackColor()));
-    SetProjection(chart, form_.cb3DPerspective->currentIndex());
-    for (int axis = 0; axis < Count; ++axis)
-        SetGridLineStyle(chart, form_.cbGridLines[static_cast<std::size_t>(axis)]->currentIndex(), axis);
-}
-
-void GraphTypes::WriteLabels(Chart& chart) const {
-    for (Series& series : chart.Plot.SeriesCollection) {
-        DataPointLabel& label = series.DataPoints.Item(DataPoints::All).DataPointLabel;
-        label.ResetCustomLabel();
-        label.LineStyle = ToLabelLineStyle(form_.cbLines->currentIndex());
-        label.LocationType = ToLabelLocation(QmLabels());
-        label.PercentFormat = QStringLiteral("0.0%");
-        label.ValueFormat = ValueLabelFormat();
-        WriteComponents(label);
-    }
-}
-
-/// A gray box leaves its component as each series has it.
-void GraphTypes::WriteComponents(DataPointLabel& label) const {
-    for (std::size_t bit = 0; bit < GraphTypesControls::ComponentCount; ++bit) {
-        const Qt::CheckState state = form_.chkComponent[bit]->checkState();
-        if (state == Qt::PartiallyChecked) continue;
-        label.Component &= ~(1 << bit);
-        if (state == Qt::Checked) label.Component |= 1 << bit;
-    }
 }
 
 bool GraphTypes::SampleHasOneColumn() const {

@@ -42,7 +42,6 @@ private:
     void ConnectOptions();
     void ConnectAxes();
 
-    void MakeSample(const Chart& chart);
     void Fill(Viewer& viewer);
     void FillOptions(const Viewer& viewer, const Chart& chart);
     void FillAxes(const Chart& chart);

@@ -5,6 +5,7 @@
 #include "support/ScriptedDesktop.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPrinter>
@@ -155,6 +156,13 @@ TEST(HeadlessDesktop, AnswersByItself) {
               Answer::No);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "Title: two lines\nsure?\n");
     EXPECT_FALSE(desktop.PickSaveFile(nullptr, {}).has_value());
+    EnsureApplication();
+    QDialog dialog;
+    dialog.setResult(QDialog::Accepted);
+    desktop.RunModal(dialog);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_FALSE(desktop.PickColour(nullptr, Qt::red, {}).has_value());
+    EXPECT_FALSE(desktop.PickFont(nullptr, {}, {}).has_value());
 }
 
 TEST(CurrentDesktop, IsWhatAScopePutsInPlace) {

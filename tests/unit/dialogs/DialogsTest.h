@@ -71,5 +71,5 @@ private:
     QmChart6::ScopedDesktop scope_{desktop};
 };
 
-/// A process-wide language for the length of a test's step.
+/// The languages that texts are in: their codes are below this.
 inline constexpr std::int16_t LanguageCount = 4;
