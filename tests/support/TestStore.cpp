@@ -17,7 +17,7 @@ namespace {
 
 /// The URL of the server that the test run has started.
 QString ServerUrl() {
-    QFile file(QString::fromLocal8Bit(qgetenv("QMCHART6_POSTGRES_FILE")));
+    QFile file(QStringLiteral(QMCHART6_POSTGRES_FILE));
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error(
             "no PostgreSQL server: run the tests with ctest, or set QMCHART6_POSTGRES_FILE to "
