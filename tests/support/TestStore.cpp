@@ -19,9 +19,8 @@ namespace {
 QString ServerUrl() {
     QFile file(QStringLiteral(QMCHART6_POSTGRES_FILE));
     if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error(
-            "no PostgreSQL server: run the tests with ctest, or set QMCHART6_POSTGRES_FILE to "
-            "the file that tests/support/postgres.py start wrote");
+        throw std::runtime_error("no PostgreSQL server: run the tests with ctest, or start it with "
+                                 "tests/support/postgres.py start " QMCHART6_POSTGRES_FILE);
     return QString::fromUtf8(file.readLine()).trimmed();
 }
 

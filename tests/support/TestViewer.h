@@ -43,6 +43,8 @@ public:
     [[nodiscard]] QmChart6::ChartControl& ChartImage() override { return chart; }
     void ShowViewer() override { shown = true; }
 
+    [[nodiscard]] QmChart6::Chart& Model() { return chart.Model(); }
+
     QString graphId = QStringLiteral("SALES");
     QString config;
     QString status;

@@ -8,8 +8,8 @@
 #include "dialogs/GraphSeriesProperties.h"
 #include "dialogs/GraphTextProperties.h"
 #include "dialogs/GraphTypes.h"
-#include "support/PlainViewer.h"
 #include "support/SampleCharts.h"
+#include "support/TestViewer.h"
 #include "text/LocalText.h"
 
 #include <QApplication>
@@ -110,7 +110,7 @@ Chart SampleChart() {
 }
 
 void ShowGraphTypes() {
-    PlainViewer viewer;
+    TestViewer viewer;
     viewer.Model() = SampleChart();
     GraphTypes(nullptr).Execute(viewer);
 }

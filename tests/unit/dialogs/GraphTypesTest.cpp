@@ -3,9 +3,9 @@
 #include "DialogsTest.h"
 #include "chart/ChartFunctions.h"
 #include "chart/ValueLabelFormat.h"
-#include "support/PlainViewer.h"
 #include "support/Raises.h"
 #include "support/SampleCharts.h"
+#include "support/TestViewer.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -49,7 +49,7 @@ protected:
         EXPECT_EQ(desktop.shown, expected);
     }
 
-    PlainViewer viewer;
+    TestViewer viewer;
     GraphTypes dialog{nullptr};
 };
 

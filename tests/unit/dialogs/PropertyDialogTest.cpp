@@ -9,8 +9,8 @@
 #include "dialogs/GraphTextProperties.h"
 #include "dialogs/GraphTypes.h"
 #include "support/Person.h"
-#include "support/PlainViewer.h"
 #include "support/SampleCharts.h"
+#include "support/TestViewer.h"
 
 #include <QFontDialog>
 #include <QLineEdit>
@@ -93,7 +93,7 @@ protected:
         return captions;
     }
 
-    PlainViewer viewer;
+    TestViewer viewer;
     bool cancelled = false;
 };
 
