@@ -6,7 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <limits>
+#include <array>
+#include <charconv>
 #include <type_traits>
 
 namespace QmChart6 {
@@ -17,7 +18,11 @@ constexpr int LastAxis = 3;
 
 /// A single-precision number by its shortest digits, not by those of its double.
 double ShortestDouble(float number) {
-    return QString::number(number, 'g', QLocale::FloatingPointShortest).toDouble();
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    double shortest = 0;
+    std::from_chars(digits.data(), end, shortest);
+    return shortest;
 }
 
 QJsonValue ToJson(const FieldValue& value) {
