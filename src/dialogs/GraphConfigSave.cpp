@@ -24,7 +24,6 @@ GraphConfigSave::GraphConfigSave(QWidget* owner)
     Describe(*txtConfig_, "txtConfig", LocalText(116));
     txtConfig_->setMinimumWidth(NameWidth);
     Body().addWidget(txtConfig_);
-    Body().addStretch(1);
     Finish();
     SetFirstText(*txtConfig_);
 }

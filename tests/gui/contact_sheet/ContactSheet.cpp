@@ -2,13 +2,19 @@
 // through after a change. Usage: contact_sheet FOLDER light|dark. QT_SCALE_FACTOR sets the scale.
 
 #include "chart/DefaultLook.h"
+#include "config/ConfigurationFolder.h"
+#include "config/ConfigurationSchema.h"
+#include "config/ConfigurationStore.h"
 #include "desktop/Application.h"
 #include "desktop/FontPicker.h"
 #include "desktop/QtDesktop.h"
+#include "dialogs/GraphConfigSave.h"
+#include "dialogs/GraphConfiguration.h"
 #include "dialogs/GraphSeriesProperties.h"
 #include "dialogs/GraphTextProperties.h"
 #include "dialogs/GraphTypes.h"
 #include "support/SampleCharts.h"
+#include "support/TestStore.h"
 #include "support/TestViewer.h"
 #include "text/LocalText.h"
 
@@ -142,6 +148,30 @@ void ShowFontPicker() {
         nullptr, {.family = QStringLiteral("Arial"), .size = 9, .colour = QColor(20, 60, 140)}, texts);
 }
 
+/// A viewer of which six looks are stored, one of them its own.
+void WithStoredLooks(const std::function<void(TestViewer& viewer)>& show) {
+    const TestStore store(Engine::Sqlite, ConfigurationSchema());
+    SetConfigurationFolder(store.Folder());
+    TestViewer viewer;
+    viewer.Model() = SampleChart();
+    for (const char* name : {"Annual report", "Black on white", "Board", "Draft",
+                             "Quarterly, with a name that is rather long", "Web"}) {
+        viewer.config = QLatin1String(name);
+        SaveConfiguration(viewer);
+    }
+    viewer.config = QStringLiteral("Board");
+    show(viewer);
+    SetConfigurationFolder({});
+}
+
+void ShowGraphConfiguration() {
+    WithStoredLooks([](TestViewer& viewer) { GraphConfiguration(nullptr).Execute(viewer); });
+}
+
+void ShowGraphConfigSave() {
+    WithStoredLooks([](TestViewer& viewer) { GraphConfigSave(nullptr).Execute(viewer); });
+}
+
 bool Make(const QString& file, const std::function<void()>& show) {
     QList<Row> rows;
     for (std::int16_t language = 0; language < LanguageCount; ++language) {
@@ -169,10 +199,10 @@ int main(int argc, char** argv) {
     if (dark) QApplication::setPalette(DarkPalette());
     const QString folder = QString::fromLocal8Bit(argv[1]) + u'/';
     bool saved = true;
-    const std::pair<const char*, void (*)()> dialogs[] = {{"GraphTypes", ShowGraphTypes},
-                                                          {"GraphSeriesProperties", ShowSeries},
-                                                          {"GraphTextProperties", ShowText},
-                                                          {"FontPicker", ShowFontPicker}};
+    const std::pair<const char*, void (*)()> dialogs[] = {
+        {"GraphTypes", ShowGraphTypes},           {"GraphSeriesProperties", ShowSeries},
+        {"GraphTextProperties", ShowText},        {"GraphConfiguration", ShowGraphConfiguration},
+        {"GraphConfigSave", ShowGraphConfigSave}, {"FontPicker", ShowFontPicker}};
     for (const auto& [name, show] : dialogs)
         saved = Make(folder + QLatin1String(name) + QStringLiteral(".png"), show) && saved;
     return saved ? 0 : 1;
