@@ -1,6 +1,7 @@
 #include "desktop/QtDesktop.h"
 
 #include "desktop/FontPicker.h"
+#include "desktop/QtTexts.h"
 
 #include <QClipboard>
 #include <QColorDialog>
@@ -43,6 +44,7 @@ private:
 
 Answer QtDesktop::ShowMessage(QWidget* owner, const QString& text, const QString& title,
                               MessageButtons buttons) {
+    const QtTexts texts;
     const bool asks = buttons == MessageButtons::YesNo;
     const DialogScope box(new QMessageBox(
         asks ? QMessageBox::Question : QMessageBox::Warning, title, text,
@@ -54,6 +56,7 @@ Answer QtDesktop::ShowMessage(QWidget* owner, const QString& text, const QString
 }
 
 std::optional<QString> QtDesktop::PickSaveFile(QWidget* owner, const SaveFileRequest& request) {
+    const QtTexts qtTexts;
     const DialogScope picker(new QFileDialog(owner, request.title, {}, request.filter));
     const QPointer<QFileDialog>& dialog = picker.Get();
     dialog->setAcceptMode(QFileDialog::AcceptSave); // which asks before an existing file is overwritten
@@ -64,10 +67,12 @@ std::optional<QString> QtDesktop::PickSaveFile(QWidget* owner, const SaveFileReq
 }
 
 void QtDesktop::RunModal(QDialog& dialog) {
+    const QtTexts texts;
     dialog.exec();
 }
 
 std::optional<QColor> QtDesktop::PickColour(QWidget* owner, const QColor& start, const QString& title) {
+    const QtTexts qtTexts;
     const DialogScope picker(new QColorDialog(start, owner));
     const QPointer<QColorDialog>& dialog = picker.Get();
     dialog->setWindowTitle(title);
@@ -77,6 +82,7 @@ std::optional<QColor> QtDesktop::PickColour(QWidget* owner, const QColor& start,
 
 std::optional<FontChoice> QtDesktop::PickFont(QWidget* owner, const FontChoice& start,
                                               const FontPickerTexts& texts) {
+    const QtTexts qtTexts;
     const DialogScope picker(new FontPicker(start, texts, owner));
     if (Run(picker.Get()) != QDialog::Accepted) return std::nullopt;
     return picker.Get()->Choice();

@@ -1,6 +1,7 @@
 // What the desktop knows of printers beyond opening one.
 #include "desktop/PrinterQueue.h"
 #include "desktop/QtDesktop.h"
+#include "desktop/QtTexts.h"
 
 #include <QPointer>
 #include <QPrintDialog>
@@ -22,6 +23,7 @@ std::function<QString()> QtDesktop::WatchPrinter(const QString& name) const {
 }
 
 std::optional<QString> QtDesktop::PickPrinter(QWidget* owner, QPrinter& settings) {
+    const QtTexts texts;
     // The owner may take the dialog along when it goes.
     const QPointer<QPrintDialog> dialog(new QPrintDialog(&settings, owner));
     dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
