@@ -146,6 +146,16 @@ std::optional<QString> PrinterOf(const QCommandLineParser& parser, Command comma
     return printer;
 }
 
+/// An option that its command does not heed would be missed only later.
+void RefuseStrayOptions(const CommandLine& line) {
+    const bool makesChart =
+        line.command == Command::Show || line.command == Command::Save || line.command == Command::Print;
+    if (!makesChart && (line.look || line.size))
+        throw UsageError(QStringLiteral("--look and --size go with show, save and print only"));
+    if (line.importName && line.operands.value(0) != QLatin1String("import"))
+        throw UsageError(QStringLiteral("--as goes with config import only"));
+}
+
 } // namespace
 
 QString AsFolder(const QString& folder) {
@@ -177,6 +187,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.look = Given(parser, "look");
     line.size = SizeOf(parser);
     line.importName = Given(parser, "as");
+    RefuseStrayOptions(line);
     line.separator = SeparatorOf(parser);
     line.hasHeader = !parser.isSet(QStringLiteral("no-header"));
     line.hasRowLabels = !parser.isSet(QStringLiteral("no-row-labels"));

@@ -82,9 +82,9 @@ QString Print(const CommandLine& line) {
             QStringLiteral("there is no default printer; \"qmchart printers\" lists those that "
                            "there are, --printer NAME chooses one"));
     SetPrinter(printer);
-    Charts(line, titled).QmPrintGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels,
-                              table.columnLabels, titled.title, titled.rowTitle, line.columnTitle,
-                              line.valueTitle, line.useConfig);
+    Charts(line, titled)
+        .QmPrintGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
+                      titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.useConfig);
     return QStringLiteral("printed on %1\n").arg(printer);
 }
 

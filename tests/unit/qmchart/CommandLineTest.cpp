@@ -1,5 +1,6 @@
 #include "qmchart/CommandLine.h"
 #include "qmchart/Commands.h"
+#include "qmchart/ConfigCommands.h"
 
 #include <gtest/gtest.h>
 
@@ -70,6 +71,46 @@ TEST(CommandLine, ASeparatorIsACharacterOrTheWordTab) {
     EXPECT_EQ(Parse({"show", "t", "--separator", "\t"}).separator, std::optional('\t'));
 }
 
+TEST(CommandLine, AServerIsAConfigurationFolderToo) {
+    EXPECT_EQ(Parse({"show", "a.csv", "--config", "postgresql://ann@db/team"}).configFolder,
+              std::optional<QString>("postgresql://ann@db/team/"));
+}
+
+TEST(CommandLine, ALookIsUsedWithTheCallersTitlesUnlessItIsSaidOtherwise) {
+    const CommandLine plain = Parse({"save", "a.csv", "a.png", "--look", "Board"});
+    EXPECT_EQ(plain.look, std::optional<QString>("Board"));
+    EXPECT_EQ(plain.useConfig, 1);
+    EXPECT_EQ(Parse({"save", "a.csv", "a.png", "--look", "Board", "--use-config", "yes"}).useConfig, 2);
+}
+
+TEST(CommandLine, ASizeIsTwoNumbersOfPixels) {
+    EXPECT_EQ(Parse({"save", "a.csv", "a.png", "--size", "800x500"}).size, std::optional(QSize(800, 500)));
+    EXPECT_FALSE(Parse({"save", "a.csv", "a.png"}).size);
+}
+
+TEST(CommandLine, ConfigKeepsItsOperands) {
+    const CommandLine line = Parse({"config", "import", "look.json", "--as", "Board", "--config", "looks"});
+    EXPECT_EQ(line.command, Command::Config);
+    EXPECT_EQ(line.operands, QStringList({"import", "look.json"}));
+    EXPECT_EQ(line.importName, std::optional<QString>("Board"));
+}
+
+TEST(CommandLine, AConfigCommandThatCannotBeUnderstoodIsAUsageErrorBeforeAnythingIsOpened) {
+    for (const QStringList& words :
+         {QStringList{}, QStringList{"make"}, QStringList{"init"}, QStringList{"list", "x"},
+          QStringList{"bind", "id"}, QStringList{"copy", "a"}, QStringList{"export", "a"}})
+        EXPECT_THROW(
+            RunConfigCommand(Parse(QStringList{"config"} + words + QStringList{"--config", "/nowhere"})),
+            UsageError)
+            << words.join(' ').toStdString();
+    EXPECT_THROW(RunConfigCommand(Parse({"config", "list"})), UsageError);
+}
+
+TEST(CommandLine, ANameStandsOnOneLine) {
+    EXPECT_EQ(OnOneLine("a\\b"), "a\\\\b");
+    EXPECT_EQ(OnOneLine(QString::fromLatin1("a\nb\tc\rd\x01")), "a\\nb\\tc\\rd\\x01");
+}
+
 TEST(CommandLine, HelpAndVersionNeedNothingElse) {
     EXPECT_EQ(Parse({"--help"}).command, Command::Help);
     EXPECT_EQ(Parse({"-h"}).command, Command::Help);
@@ -102,7 +143,11 @@ INSTANTIATE_TEST_SUITE_P(
         QStringList{"show", "t", "--separator", QString(QChar(0xA7))},
         QStringList{"show", "t", "--no-header=1"}, QStringList{"print"}, QStringList{"print", "t", "u"},
         QStringList{"print", "t", "--printer", ""}, QStringList{"show", "t", "--printer", "office"},
-        QStringList{"printers", "t"}, QStringList{"printers", "--printer", "office"}));
+        QStringList{"printers", "t"}, QStringList{"printers", "--printer", "office"},
+        QStringList{"show", "t", "--size", "800"}, QStringList{"show", "t", "--size", "0x5"},
+        QStringList{"show", "t", "--size", "8x5x3"}, QStringList{"show", "t", "--size", "axb"},
+        QStringList{"show", "t", "--look", "a", "--use-config", "no"}, QStringList{"show", "t", "--as", "a"},
+        QStringList{"config", "list", "--look", "a"}, QStringList{"config", "list", "--size", "8x5"}));
 
 TEST(PresentableTitle, IsWordsThatBeginLikeASentence) {
     EXPECT_EQ(PresentableTitle("barley-by-site"), "Barley by site");
