@@ -96,7 +96,7 @@ QByteArray ExportLook(const QString& folder, const QString& name) {
 
 QString ImportLook(const QString& folder, const QByteArray& look, const QString& name) {
     const NamedLook named = ReadLookJson(look);
-    const QString kept = name.isEmpty() ? named.name : name;
+    QString kept = name.isEmpty() ? named.name : name;
     if (kept.isEmpty())
         throw RuntimeError(ErrorNumber::InvalidFileFormat,
                            QStringLiteral("the look has no name; give it one, or a field \"%1\"")

@@ -93,7 +93,8 @@ int NumberOf(const QJsonObject& object, const LookTable& table, int place) {
 void ReadRecords(const QJsonValue& list, const LookTable& table, Look& look) {
     if (!list.isArray()) RaiseMalformed(QStringLiteral("\"%1\" is not a list").arg(table.partsName));
     int place = 0;
-    for (const QJsonValue& element : list.toArray()) {
+    const QJsonArray elements = list.toArray();
+    for (const auto& element : elements) {
         if (!element.isObject())
             RaiseMalformed(QStringLiteral("\"%1\" holds something else than objects").arg(table.partsName));
         const int number = NumberOf(element.toObject(), table, place++);
