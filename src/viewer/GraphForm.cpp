@@ -7,6 +7,7 @@
 #include "desktop/ShowErrors.h"
 #include "qmchart6/RuntimeError.h"
 #include "text/LocalText.h"
+#include "viewer/ChartVocabularies.h"
 #include "viewer/ControlBarCommands.h"
 #include "viewer/ViewerLayout.h"
 #include "viewer/ViewerMenu.h"
@@ -68,6 +69,7 @@ GraphForm::GraphForm(QWidget* parent)
     // Closing the last chart must not end a host's event loop.
     setAttribute(Qt::WA_QuitOnClose, false);
     chartImage_->setObjectName(QStringLiteral("ChartImage"));
+    chartImage_->SetVocabulary(VocabularyOf(LanguageCode()));
     sbGraph_->setObjectName(QStringLiteral("sbGraph"));
     timGraph_->setObjectName(QStringLiteral("timGraph"));
     timGraph_->setSingleShot(true);

@@ -56,7 +56,8 @@ public:
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         if (!isValid() || kind != QAccessible::Name) return {};
         const Chart& chart = std::as_const(*control_).Model();
-        return point_ == 0 ? SeriesWords(chart, series_) : PointWords(chart, {series_, point_});
+        const ChartVocabulary& words = control_->Vocabulary();
+        return point_ == 0 ? SeriesWords(words, chart, series_) : PointWords(words, chart, {series_, point_});
     }
     void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
     [[nodiscard]] QRect rect() const override;
@@ -96,9 +97,10 @@ public:
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Name) {
             const QString title = Model().Title.Text.simplified();
-            return title.isEmpty() ? QStringLiteral("Chart") : title;
+            return title.isEmpty() ? Words().chart : title;
         }
-        return kind == QAccessible::Description ? ChartWords(Model()) : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Description ? ChartWords(Words(), Model())
+                                                : QAccessibleWidget::text(kind);
     }
     [[nodiscard]] int childCount() const override { return isValid() ? DrawnBefore(SeriesCount() + 1) : 0; }
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
@@ -137,6 +139,9 @@ public:
 
 private:
     [[nodiscard]] ChartControl& Control() const { return *static_cast<ChartControl*>(object()); }
+    [[nodiscard]] const ChartVocabulary& Words() const {
+        return Control().Vocabulary();
+    }
     [[nodiscard]] const Chart& Model() const { return std::as_const(Control()).Model(); }
     [[nodiscard]] int SeriesCount() const { return Model().Plot.SeriesCollection.Count(); }
     [[nodiscard]] int DrawnBefore(int series) const {

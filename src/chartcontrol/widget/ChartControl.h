@@ -3,6 +3,7 @@
 #include "chartcontrol/model/Chart.h"
 #include "chartcontrol/scene/Scene.h"
 #include "chartcontrol/widget/ChartPart.h"
+#include "chartcontrol/widget/ChartVocabulary.h"
 
 #include <QImage>
 #include <QPoint>
@@ -28,6 +29,10 @@ public:
 
     [[nodiscard]] Chart& Model() { return chart_; }
     [[nodiscard]] const Chart& Model() const { return chart_; }
+
+    /// The words of tool tips and of what screen readers tell.
+    [[nodiscard]] const ChartVocabulary& Vocabulary() const { return vocabulary_; }
+    void SetVocabulary(const ChartVocabulary& words) { vocabulary_ = words; }
 
     /// While off, nothing is painted anew; switching it on refreshes.
     void SetRepaint(bool on);
@@ -91,6 +96,7 @@ private:
     [[nodiscard]] double PixelsPerPoint() const;
 
     Chart chart_;
+    ChartVocabulary vocabulary_;
     [[nodiscard]] const QImage& CurrentPicture();
 
     std::optional<Scene> scene_;

@@ -35,7 +35,7 @@ void ChartControl::ShowTip(const QPoint& place, const QPoint& globalPlace) {
         QToolTip::hideText();
         return;
     }
-    const QString tip = TipOf(chart_, point);
+    const QString tip = TipOf(vocabulary_, chart_, point);
     // A name that looks like markup is still only a name.
     QToolTip::showText(globalPlace, Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip, this,
                        QRect(place, QSize(1, 1)));

@@ -12,68 +12,38 @@ namespace QmChart6 {
 
 namespace {
 
-QString KindOf(ChartType type) {
-    switch (type) {
-    case ChartType::Bar3D:
-        return QStringLiteral("3D bar chart");
-    case ChartType::Bar2D:
-        return QStringLiteral("Bar chart");
-    case ChartType::Line3D:
-        return QStringLiteral("3D line chart");
-    case ChartType::Line2D:
-        return QStringLiteral("Line chart");
-    case ChartType::Area3D:
-        return QStringLiteral("3D area chart");
-    case ChartType::Area2D:
-        return QStringLiteral("Area chart");
-    case ChartType::Step3D:
-        return QStringLiteral("3D step chart");
-    case ChartType::Step2D:
-        return QStringLiteral("Step chart");
-    case ChartType::Combination3D:
-        return QStringLiteral("3D combination chart");
-    case ChartType::Combination2D:
-        return QStringLiteral("Combination chart");
-    case ChartType::Pie2D:
-        return QStringLiteral("Pie chart");
-    case ChartType::XY2D:
-        return QStringLiteral("XY chart");
-    }
-    return QStringLiteral("Chart");
+QString CountedWords(const ChartVocabulary::Counted& words, int count) {
+    return (count == 1 ? words.one : words.many).arg(count);
 }
 
-QString Counted(int count, const QString& one, const QString& many) {
-    return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? one : many);
-}
-
-QString NumberWords(double value) {
-    return std::isnan(value) ? QStringLiteral("no value") : TextOfDouble(value);
+QString NumberWords(const ChartVocabulary& words, double value) {
+    return std::isnan(value) ? words.noValue : TextOfDouble(value);
 }
 
 } // namespace
 
-QString SeriesWords(const Chart& chart, int series) {
+QString SeriesWords(const ChartVocabulary& words, const Chart& chart, int series) {
     const QString name = LegendName(chart, series).simplified();
-    return name.isEmpty() ? QStringLiteral("Series %1").arg(series) : name;
+    return name.isEmpty() ? words.seriesOfNumber.arg(series) : name;
 }
 
-QString PointWords(const Chart& chart, DataPointHit point) {
+QString PointWords(const ChartVocabulary& words, const Chart& chart, DataPointHit point) {
     if (chart.chartType() == ChartType::XY2D) {
         const XYPairs pairs(chart, point.series);
-        return QStringLiteral("%1; %2").arg(NumberWords(pairs.X(point.category - 1)),
-                                            NumberWords(pairs.Y(point.category - 1)));
+        return QStringLiteral("%1; %2").arg(NumberWords(words, pairs.X(point.category - 1)),
+                                            NumberWords(words, pairs.Y(point.category - 1)));
     }
     const QString name = chart.CategoryName(point.category).simplified();
     const QString category = name.isEmpty() ? QString::number(point.category) : name;
-    return QStringLiteral("%1: %2").arg(category,
-                                        NumberWords(chart.SeriesValues(point.series)[point.category - 1]));
+    return QStringLiteral("%1: %2").arg(
+        category, NumberWords(words, chart.SeriesValues(point.series)[point.category - 1]));
 }
 
-QString TipOf(const Chart& chart, DataPointHit point) {
-    return SeriesWords(chart, point.series) + u'\n' + PointWords(chart, point);
+QString TipOf(const ChartVocabulary& words, const Chart& chart, DataPointHit point) {
+    return SeriesWords(words, chart, point.series) + u'\n' + PointWords(words, chart, point);
 }
 
-QString ChartWords(const Chart& chart) {
+QString ChartWords(const ChartVocabulary& words, const Chart& chart) {
     int drawn = 0;
     double least = std::numeric_limits<double>::infinity();
     double greatest = -least;
@@ -88,14 +58,11 @@ QString ChartWords(const Chart& chart) {
     }
     const bool isXY = chart.chartType() == ChartType::XY2D;
     const QString what =
-        QStringLiteral("%1 with %2 and %3")
-            .arg(KindOf(chart.chartType()),
-                 Counted(drawn, QStringLiteral("series"), QStringLiteral("series")),
-                 isXY ? Counted(chart.CategoryCount(), QStringLiteral("point"), QStringLiteral("points"))
-                      : Counted(chart.CategoryCount(), QStringLiteral("category"),
-                                QStringLiteral("categories")));
-    if (least > greatest) return what + QStringLiteral(", without values.");
-    return what + QStringLiteral(", values from %1 to %2.").arg(TextOfDouble(least), TextOfDouble(greatest));
+        words.contents.arg(words.kinds.at(chart.chartType()), CountedWords(words.series, drawn),
+                           CountedWords(isXY ? words.points : words.categories, chart.CategoryCount()));
+    const QString values =
+        least > greatest ? words.withoutValues : words.range.arg(TextOfDouble(least), TextOfDouble(greatest));
+    return QStringLiteral("%1, %2.").arg(what, values);
 }
 
 } // namespace QmChart6

@@ -12,6 +12,7 @@
 #include "viewer/ViewerStatusBar.h"
 #include "viewer/ViewerToolBar.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QImage>
 #include <QMenu>
@@ -309,4 +310,20 @@ TEST_F(GraphFormTest, ClosingIsToldOnce) {
     form.close();
     form.close();
     EXPECT_EQ(told, 1);
+}
+
+TEST_F(GraphFormTest, TheChartIsToldInTheLanguageThatTheWindowWasMadeIn) {
+    QStringList told;
+    for (std::int16_t language = 0; language < 4; ++language) {
+        SetLanguageCode(language);
+        GraphForm form;
+        form.ChartImage().Model().SetGridSize(2, 1);
+        const QAccessibleInterface* chart = QAccessible::queryAccessibleInterface(&form.ChartImage());
+        told.append(chart->text(QAccessible::Description));
+    }
+    EXPECT_EQ(told,
+              QStringList({QStringLiteral("Bar chart with 1 series and 2 categories, without values."),
+                           QStringLiteral("Gráfico de barras com 1 série e 2 categorias, sem valores."),
+                           QStringLiteral("Gráfico de barras con 1 serie y 2 categorías, sin valores."),
+                           QStringLiteral("Grafico a barre con 1 serie e 2 categorie, senza valori.")}));
 }
