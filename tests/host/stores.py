@@ -16,13 +16,13 @@ _count = itertools.count(1)
 
 
 def environment(folder):
-    """The present one, without a display."""
+    """The present one, without a display; the folder is the user's own."""
     kept = {name: value for name, value in os.environ.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
     return kept | {"XDG_RUNTIME_DIR": str(folder), "QT_QPA_PLATFORM": "offscreen"}
 
 
 def make(folder):
-    subprocess.run([QMCHART, "config", "init", folder], check=True, capture_output=True, timeout=LIMIT)
+    subprocess.run([QMCHART, "config", "init", folder], check=True, stdout=subprocess.DEVNULL, timeout=LIMIT)
 
 
 class SqliteStore:

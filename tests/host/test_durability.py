@@ -1,7 +1,9 @@
 """Saves while savers are killed, and many at once: nothing that was saved is lost or torn."""
 import os
 import random
+import shutil
 import subprocess
+import tempfile
 import threading
 import time
 import unittest
@@ -10,6 +12,8 @@ import stores
 
 WRITER = os.environ["LOOK_WRITER"]
 SHARED = "Shared by all"
+RUNTIME = tempfile.mkdtemp()
+unittest.addModuleCleanup(shutil.rmtree, RUNTIME)
 KILLS = {"SQLite": 200, "PostgreSQL": 40}
 
 
@@ -22,7 +26,7 @@ class Writer:
         self.news = threading.Condition()
         self.process = subprocess.Popen([WRITER, store.folder, str(first), name, SHARED, *map(str, count)],
                                         stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
-                                        env=stores.environment("/tmp"))
+                                        env=stores.environment(RUNTIME))
         self.reader = threading.Thread(target=self._read, daemon=True)
         self.reader.start()
 
@@ -111,9 +115,9 @@ class Killed(unittest.TestCase):
                 life.writer.wait_for(lambda printed: len(printed) >= 2)
             for _ in range(kills):
                 dead, alive = chance.sample(lives, 2)
-                lines = chance.choice((0, 0, 1, 2))
+                lines = chance.choice((0, 1, 1, 2, 3))
                 dead.writer.wait_for(lambda printed, lines=lines: len(printed) >= lines)
-                time.sleep(chance.uniform(0, 0.03))
+                time.sleep(chance.uniform(0, 0.02))
                 under_way = dead.kill(self)
                 if chance.random() < 0.5:  # otherwise the other writer puts right what the dead one has left
                     self.check(store, dead, alive)
