@@ -190,11 +190,12 @@ class OnBothEngines:
 
     def test_a_missing_table_field_or_index(self):
         self.keep(self.store, "One")
-        for number, word, change in ((3265, "TitleText", "ALTER TABLE <ChartConfigurations> DROP COLUMN \"TitleText\""),
-                                     (3015, "PrimaryKey", self.drop_index("ChartConfigurations_PrimaryKey")),
-                                     (3078, "SeriesConfigurations", "DROP TABLE <SeriesConfigurations>")):
+        for number, word, command, change in (
+                (3265, "TitleText", ["show", "One"], 'ALTER TABLE <ChartConfigurations> DROP COLUMN "TitleText"'),
+                (3078, "SeriesConfigurations", ["show", "One"], "DROP TABLE <SeriesConfigurations>"),
+                (3015, "PrimaryKey", ["list"], self.drop_index("ChartConfigurations_PrimaryKey"))):
             self.store.run(change)
-            self.assertIn(word, self.fails(number, "config", "show", "One", "--config", self.store.folder))
+            self.assertIn(word, self.fails(number, "config", *command, "--config", self.store.folder))
 
     def test_a_saved_chart_has_its_look(self):
         self.keep(self.store, "Mine", TitleText="Stored title", BackColorRed=1, BackColorGreen=2, BackColorBlue=3)
@@ -225,7 +226,7 @@ class OnBothEngines:
         self.keep(self.store, "Odd")
         self.config(self.store, "bind", "sales", "Odd")
         whole, series, axes = "ChartConfigurations", "SeriesConfigurations", "AxesConfigurations"
-        reals = ("-1e30", "1e30", "0", "-5", "3e38", "1e-30")
+        reals = ("-1e30", "1e30", "0", "-5", "3e38", "1e-30", "1e6", "2e9")
         numbers = ("-32768", "32767", "99", "-1")
         cases = [(whole, field, value) for field in ("ChartHeight", "ChartWidth", "Rotation", "Elevation", "PlotMinX", "PlotMaxY",
                                                      "TitleMaxX", "LegendMinY", "TitleFontSize", "LegendFontSize") for value in reals]
@@ -282,7 +283,7 @@ class OnAFile(OnBothEngines, Commands):
     def test_another_program_sees_the_tables(self):
         text = subprocess.run(["sqlite3", str(self.store.file), ".schema"], capture_output=True, text=True, check=True).stdout
         found = {table: re.findall(r'^ *"(\w+)" (\w+)', body, re.MULTILINE)
-                 for table, body in re.findall(r'CREATE TABLE "(\w+)" \((.*?)\n\)', text, re.DOTALL)}
+                 for table, body in re.findall(r'CREATE TABLE (?:IF NOT EXISTS )?"(\w+)" \((.*?)\n\)', text, re.DOTALL)}
         self.assertEqual({table: dict(fields) for table, fields in found.items()},
                          {table: {name: FILE_TYPES[kind] for name, kind in fields} for table, fields in SCHEMA.items()})
         for table, fields in SCHEMA.items():
@@ -431,7 +432,10 @@ class OnAServer(OnBothEngines, Commands):
             text = self.store.psql(f'\\d "QmConfig.mdb"."{table}"')
             found = [tuple(line.split("|")[:2]) for line in text.splitlines() if "|" in line]
             self.assertEqual(found, [(name, SERVER_TYPES[kind]) for name, kind in fields])
-            indexes |= set(re.findall(r'"(\w+_(?:PrimaryKey|Config))"', text))
+            # Rows alone have no index: those stand below the table.
+            text = subprocess.run(["psql", "-X", "-d", self.store.url, "-c", f'\\d "QmConfig.mdb"."{table}"'], text=True,
+                                  capture_output=True, check=True, timeout=stores.LIMIT).stdout
+            indexes |= set(re.findall(r'^ +"(\w+)" ', text, re.MULTILINE))
         self.assertEqual(indexes, INDEXES)
 
     def test_places_where_nothing_is(self):
