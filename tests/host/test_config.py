@@ -238,7 +238,8 @@ class OnBothEngines:
             (whole, "TitleFontStyle"), (whole, "TitleFontEffect"), (series, "SeriesType"), (series, "SeriesIndex"),
             (series, "SeriesStatLine"), (series, "SeriesLabelComponents"), (series, "SeriesStyle"), (axes, "AxisGridStyle"),
             (axes, "AxisTitleOrientation")) for value in numbers]
-        cases += [(whole, "TitleText", "NULL"), (whole, "Rotation", "NULL"), (series, "SeriesColorRed", "NULL"), *self.alien_cases]
+        cases = cases[::self.every] + [(whole, "TitleText", "NULL"), (whole, "Rotation", "NULL"),
+                                       (series, "SeriesColorRed", "NULL"), *self.alien_cases]
         for table, field, value in cases:
             with self.subTest(field=field, value=value):
                 before = self.store.run(f'SELECT "{field}" FROM <{table}> LIMIT 1')[0][0]
@@ -268,6 +269,7 @@ def limit_memory():
 
 class OnAFile(OnBothEngines, Commands):
     engine = stores.SqliteStore
+    every = 1  # of so many odd values one is tried
     # A file takes any value in any field.
     alien_cases = [("ChartConfigurations", "Rotation", "'text'"), ("ChartConfigurations", "Lines", "1e30"),
                    ("ChartConfigurations", "TitleText", "x'00ff'"), ("SeriesConfigurations", "SeriesType", "9223372036854775807"),
@@ -416,6 +418,7 @@ class OnAFile(OnBothEngines, Commands):
 
 class OnAServer(OnBothEngines, Commands):
     engine = stores.PostgresStore
+    every = 10
     alien_cases = [("ChartConfigurations", "ChartWidth", "'Infinity'"), ("ChartConfigurations", "TitleFontSize", "'NaN'"),
                    ("ChartConfigurations", "TitleFontName", "repeat('F', 1000000)")]
 
