@@ -16,7 +16,8 @@
 #include <functional>
 #include <string>
 
-// The fixed works on our side: bench_charts WORK [ROWS], bench_charts S [SERVER]. Pictures are 1000 x 600, antialiased.
+// The fixed works on our side: bench_charts WORK [ROWS], bench_charts S [SERVER]. Pictures are 1000 x 600,
+// antialiased.
 
 namespace {
 

@@ -1,6 +1,6 @@
-// Saves look after look until it is killed or has saved so many: look_writer FOLDER FIRST NAME SHARED [COUNT].
-// Save k is kept under NAME where k is even, under SHARED where it is odd; every value in it depends on k alone, as
-// tests/host/stores.py expects it. Prints k once the save has returned without an error.
+// Saves look after look until it is killed or has saved so many: look_writer FOLDER FIRST NAME SHARED
+// [COUNT]. Save k is kept under NAME where k is even, under SHARED where it is odd; every value in it depends
+// on k alone, as tests/host/stores.py expects it. Prints k once the save has returned without an error.
 
 #include "chart/DefaultLook.h"
 #include "config/ConfigurationFolder.h"
