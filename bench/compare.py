@@ -21,6 +21,10 @@ GOALS = [
     ("W6", "chart_ms", ["chart_ms"], 0.3),
 ]
 
+# The store of looks has goals of its own: the end of a metric, and its CPU milliseconds. A server's own work is not in
+# them, as it may be on another machine.
+STORE_GOALS = {"_first_save_ms": None, "_save_ms": 20, "_load_ms": 10, "_list_ms": 100}
+
 
 def lines_of(command, **options):
     done = subprocess.run(command, capture_output=True, text=True, **options)
@@ -69,6 +73,18 @@ def theirs(peers, work):
     return figures
 
 
+def store(build):
+    """Prints the store's figures; BENCH_SERVER is the URL of an empty database on a server, if one is to be measured."""
+    server = [os.environ["BENCH_SERVER"]] if os.environ.get("BENCH_SERVER") else []
+    figures = ours(build, "S", *server)
+    if not figures or (server and not any(metric.startswith("server") for metric in figures)):
+        sys.exit("S failed")
+    for metric, value in figures.items():
+        goal = next(goal for end, goal in STORE_GOALS.items() if metric.endswith(end))
+        beside = f" (goal {goal}, {'met' if value <= goal else 'missed'})" if goal else ""
+        print(f"S {metric} {value:.2f}{beside}")
+
+
 def with_sums(figures):
     """Adds load+first, which some works are judged by."""
     sums = dict(figures)
@@ -82,6 +98,9 @@ def with_sums(figures):
 
 def main(build, top, peers, works):
     for work in works:
+        if work == "S":
+            store(build)
+            continue
         if work == "W7":
             redraws = [ours(build, "W3", str(rows), "16")["redraw_ms"] for rows in (2048, 8192, 32767)]
             print(f"W7 redraw of 16 series: {redraws[0]:.2f} ms at 2,048 rows, {redraws[1]:.2f} at 8,192, "

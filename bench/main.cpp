@@ -1,10 +1,12 @@
 #include "Clock.h"
+#include "StoreWork.h"
 #include "Works.h"
 
 #include "automation/FillChartData.h"
 #include "chartcontrol/layout/Layout.h"
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"
+#include "desktop/Application.h"
 #include "qmchart6/Variant.h"
 
 #include <QGuiApplication>
@@ -14,7 +16,8 @@
 #include <functional>
 #include <string>
 
-// The fixed works on our side: bench_charts WORK [ROWS]. Pictures are 1000 x 600, antialiased.
+// The fixed works on our side: bench_charts WORK [ROWS], bench_charts S [SERVER]. Pictures are 1000 x 600,
+// antialiased.
 
 namespace {
 
@@ -155,8 +158,13 @@ Chart Pie() {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QGuiApplication application(argc, argv);
     const std::string work = argc > 1 ? argv[1] : "";
+    if (work == "S") {
+        EnsureApplication(); // a viewer needs more of one than a picture
+        Bench::StoreWork(QString::fromLocal8Bit(argc > 2 ? argv[2] : ""));
+        return 0;
+    }
+    const QGuiApplication application(argc, argv);
     const int rows = argc > 2 ? std::atoi(argv[2]) : 32767;
     const auto small = Bench::Small(12, 4);
     if (work == "W1")
@@ -170,7 +178,7 @@ int main(int argc, char** argv) {
     else if (work == "W6")
         SmallWork(Pie);
     else {
-        std::fputs("usage: bench_charts W1|W3|W4|W5|W6 [ROWS [SERIES]]\n", stderr);
+        std::fputs("usage: bench_charts W1|W3|W4|W5|W6 [ROWS [SERIES]] | S [SERVER]\n", stderr);
         return 2;
     }
     return 0;

@@ -25,11 +25,28 @@ void RequireLook(const QString& location, const QString& name) {
                            QStringLiteral("there is no look named \"%1\"").arg(name));
 }
 
-int GreatestNumber(const Look& look) {
-    int greatest = 1;
-    for (const LookTable* table : {&ColumnsLook(), &SeriesLook()})
-        if (!look.Of(*table).empty()) greatest = std::max(greatest, look.Of(*table).rbegin()->first);
-    return greatest;
+int GreatestNumber(const Look& look, const LookTable& table) {
+    return look.Of(table).empty() ? 1 : look.Of(table).rbegin()->first;
+}
+
+bool HasSeriesInRows(Look& look) {
+    if (!look.Find(ChartLook(), 0)) return false;
+    const auto flipped = look.Value(ChartLook(), ChartLook().Field(QStringLiteral("Flipped")));
+    return flipped && std::get<bool>(*flipped);
+}
+
+/// Gives the chart as many series and columns as the look has, and no more cells than that takes. Raises 380
+/// where that is more than a table can reasonably be.
+void SizeFor(Look& look, Chart& chart) {
+    constexpr int MostCells = 4'000'000;
+    const int series = GreatestNumber(look, SeriesLook());
+    const int columns = GreatestNumber(look, ColumnsLook());
+    const bool inRows = HasSeriesInRows(look);
+    if (inRows && series > MostCells / columns)
+        throw RuntimeError(
+            ErrorNumber::InvalidPropertyValue,
+            QStringLiteral("a look of %1 columns and %2 series in rows is too large").arg(columns).arg(series));
+    chart.SetGridSize(inRows ? series : 1, inRows ? columns : std::max(series, columns));
 }
 
 /// The look with all of its fields: those left out are as a chart has them that is given the others. Raises
@@ -39,8 +56,7 @@ Look Complete(Look look) {
     EnsureApplication();
     GraphForm form;
     Chart& chart = form.ChartImage().Model();
-    const int size = GreatestNumber(look);
-    chart.SetGridSize(size, size); // as many series either way
+    SizeFor(look, chart);
     ApplyDefaultLook(chart);
     ApplyLook(form, look, true);
     Look complete;

@@ -5,6 +5,7 @@
 #include "config/FieldBuilder.h"
 #include "config/Viewer.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace QmChart6 {
@@ -33,6 +34,12 @@ Truth ToTruth(bool on) {
     return on ? True : False;
 }
 
+/// A window's side. Windows of any size can be asked for, but the system would take the memory for it.
+int WindowTwips(double twips) {
+    constexpr double Largest = 245760; // 16,384 pixels
+    return static_cast<int>(std::lround(std::clamp(twips, 0.0, Largest)));
+}
+
 std::vector<LookField> WindowFields() {
     return {
         Boolean(
@@ -42,10 +49,10 @@ std::vector<LookField> WindowFields() {
             }),
         Real(
             "ChartHeight", [](Part part) { return part.viewer.Height(); },
-            [](Part part, double twips) { part.viewer.SetHeight(static_cast<int>(std::lround(twips))); }),
+            [](Part part, double twips) { part.viewer.SetHeight(WindowTwips(twips)); }),
         Real(
             "ChartWidth", [](Part part) { return part.viewer.Width(); },
-            [](Part part, double twips) { part.viewer.SetWidth(static_cast<int>(std::lround(twips))); }),
+            [](Part part, double twips) { part.viewer.SetWidth(WindowTwips(twips)); }),
         Boolean(
             "ControlBar", [](Part part) { return part.viewer.ControlBar(); },
             [](Part part, bool shown) { part.viewer.SetControlBar(shown); }),

@@ -34,6 +34,14 @@ Recordset::Recordset(Connection& connection, const TableDescription& table)
         throw RuntimeError(ErrorNumber::TableNotFound,
                            QStringLiteral("the database has no table \"%1\"").arg(table.name));
     indexes_ = Names(connection, engine.IndexesQuery(), engine.CatalogueParameters(table.name));
+    QStringList columns;
+    for (const FieldDescription& field : table.fields) {
+        if (!columns_.contains(field.name.toLower())) continue;
+        fields_.append(field.name);
+        columns.append(Quoted(field.name));
+    }
+    selectRecords_ =
+        QStringLiteral("SELECT %1 FROM %2").arg(columns.join(QStringLiteral(", ")), engine.Table(table.name));
 }
 
 const FieldDescription& Recordset::FieldThatIsThere(const QString& name) const {
@@ -97,6 +105,18 @@ Recordset::Key Recordset::ReadKey(const QSqlQuery& query) const {
     return key;
 }
 
+Recordset::Key Recordset::RecordKey() const {
+    Key key;
+    for (const QString& field : table_->PrimaryKey().fields)
+        key.push_back(FromDriver(record_.value(field), table_->Field(field).kind, field));
+    return key;
+}
+
+void Recordset::ReadRecord(const QSqlQuery& query) {
+    int column = 0;
+    for (const QString& field : fields_) record_.insert(field, query.value(column++));
+}
+
 void Recordset::Seek(const std::vector<FieldValue>& keys) {
     if (index_ == nullptr)
         throw RuntimeError(ErrorNumber::NoCurrentIndex,
@@ -112,9 +132,15 @@ void Recordset::Seek(const std::vector<FieldValue>& keys) {
         sought.push_back(ToKind(keys[i], field.kind, field.name));
     }
     Leave(true);
-    QSqlQuery& query = connection_->Run(
-        SelectKeys() + Where(*index_) + OrderBy() + QStringLiteral(" LIMIT 1"), ToDriver(sought));
-    if (connection_->Next(query)) current_ = ReadKey(query);
+    // A record that is sought by its own key is read at once: a server is asked half as often.
+    const bool whole = index_ == &table_->PrimaryKey();
+    QSqlQuery& query = connection_->Run((whole ? selectRecords_ : SelectKeys()) + Where(*index_) + OrderBy() +
+                                            QStringLiteral(" LIMIT 1"),
+                                        ToDriver(sought));
+    if (connection_->Next(query)) {
+        if (whole) ReadRecord(query);
+        current_ = whole ? RecordKey() : ReadKey(query);
+    }
     query.finish();
     noMatch_ = lost_ = !current_;
 }
@@ -166,21 +192,9 @@ const Recordset::Key& Recordset::CurrentKey() {
 
 void Recordset::FetchRecord() {
     if (!record_.isEmpty()) return;
-    QStringList names;
-    QStringList columns;
-    for (const FieldDescription& field : table_->fields) {
-        if (!columns_.contains(field.name.toLower())) continue;
-        names.append(field.name);
-        columns.append(Quoted(field.name));
-    }
-    QSqlQuery& query = connection_->Run(
-        QStringLiteral("SELECT %1 FROM %2")
-                .arg(columns.join(QStringLiteral(", ")), connection_->Engine().Table(table_->name)) +
-            Where(table_->PrimaryKey()),
-        ToDriver(CurrentKey()));
+    QSqlQuery& query = connection_->Run(selectRecords_ + Where(table_->PrimaryKey()), ToDriver(CurrentKey()));
     const bool found = connection_->Next(query);
-    for (qsizetype i = 0; found && i < names.size(); ++i)
-        record_.insert(names[i], query.value(static_cast<int>(i)));
+    if (found) ReadRecord(query);
     query.finish();
     if (!found)
         throw RuntimeError(ErrorNumber::RecordDeleted,
@@ -263,9 +277,10 @@ void Recordset::Change() {
                 .arg(connection_->Engine().Table(table_->name), places.join(QStringLiteral(", "))) +
             Where(table_->PrimaryKey()),
         values + ToDriver(CurrentKey()));
-    if (changed == 0)
-        throw RuntimeError(ErrorNumber::RecordDeleted,
-                           QStringLiteral("somebody else deleted it from \"%1\"").arg(table_->name));
+    if (changed > 0) return;
+    record_.clear();
+    throw RuntimeError(ErrorNumber::RecordDeleted,
+                       QStringLiteral("somebody else deleted it from \"%1\"").arg(table_->name));
 }
 
 void Recordset::Delete() {

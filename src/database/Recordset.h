@@ -61,6 +61,8 @@ private:
 
     [[nodiscard]] const FieldDescription& FieldThatIsThere(const QString& name) const;
     [[nodiscard]] Key ReadKey(const QSqlQuery& query) const;
+    [[nodiscard]] Key RecordKey() const;
+    void ReadRecord(const QSqlQuery& query);
     [[nodiscard]] QString SelectKeys() const;
     [[nodiscard]] QString OrderBy() const;
     [[nodiscard]] QString Where(const IndexDescription& index) const;
@@ -75,6 +77,8 @@ private:
     const TableDescription* table_;
     QSet<QString> columns_; ///< the names that the database has, in small letters
     QSet<QString> indexes_;
+    QStringList fields_; ///< those of the table's fields that the database has
+    QString selectRecords_;
     const IndexDescription* index_ = nullptr;
 
     /// The records' keys in the order of the index, once they are walked.
@@ -83,7 +87,7 @@ private:
     std::optional<Key> current_;
     bool noMatch_ = false;
     bool lost_ = false;               ///< at no record: nothing was found, or it was deleted
-    QHash<QString, QVariant> record_; ///< the current record, once one of its fields is read
+    QHash<QString, QVariant> record_; ///< the current record, where it was read
 
     Editing editing_ = Editing::No;
     QList<std::pair<const FieldDescription*, FieldValue>> changes_;
