@@ -120,7 +120,7 @@ QString ImportLook(const QString& folder, const QByteArray& look, const QString&
     const Look complete = Complete(named.look);
     Database database(ConfigurationFileName(folder), ConfigurationSchema());
     StoredLook stored(database, kept);
-    Database::Writing writing(database, ChartLook().name);
+    Database::Writing writing(database, QLatin1String(BindingsTable));
     CopyLook(complete, stored);
     writing.Finish();
     return kept;

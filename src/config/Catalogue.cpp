@@ -47,10 +47,8 @@ int CopyTable(Database& from, Database& to, const TableDescription& table) {
 
 } // namespace
 
-void BindLook(const QString& location, const QString& graphId, const QString& name) {
-    Database database(location, ConfigurationSchema());
+void BindLook(Database& database, const QString& graphId, const QString& name) {
     Recordset bindings = OpenBindings(database);
-    Database::Writing writing(database, QLatin1String(BindingsTable));
     SeekByKey(bindings, {graphId});
     if (bindings.NoMatch()) {
         bindings.AddNew();
@@ -60,6 +58,12 @@ void BindLook(const QString& location, const QString& graphId, const QString& na
     }
     bindings.SetValue(QLatin1String(LookNameField), name);
     bindings.Update();
+}
+
+void BindLook(const QString& location, const QString& graphId, const QString& name) {
+    Database database(location, ConfigurationSchema());
+    Database::Writing writing(database, QLatin1String(BindingsTable));
+    BindLook(database, graphId, name);
     writing.Finish();
 }
 

@@ -8,6 +8,8 @@
 
 namespace QmChart6 {
 
+class Database;
+
 // What a configuration database knows of its looks. Each function opens the database at a place, a file or a
 // server's schema, and closes it; errors are those of Database.
 
@@ -16,7 +18,8 @@ struct LookBinding {
     QString name;
 };
 
-/// Binds a chart to a look, in place of the one before.
+/// Binds a chart to a look, in place of the one before; the other in a database that is being written to.
+void BindLook(Database& database, const QString& graphId, const QString& name);
 void BindLook(const QString& location, const QString& graphId, const QString& name);
 /// The look that a chart is bound to; nothing where it is bound to none.
 std::optional<QString> BoundLook(const QString& location, const QString& graphId);

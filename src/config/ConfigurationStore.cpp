@@ -10,6 +10,8 @@
 #include "desktop/ShowErrors.h"
 #include "text/LocalText.h"
 
+#include <optional>
+
 namespace QmChart6 {
 
 namespace {
@@ -20,12 +22,18 @@ QWidget* OwnerOf(Viewer& viewer) {
     return viewer.ChartImage().window();
 }
 
-void Save(Viewer& viewer) {
+/// Binding has a message box of its own: where it fails, the look is saved all the same. Nobody waits for
+/// that box with a database open, so the failure is handed over.
+void Save(Viewer& viewer, std::optional<RuntimeError>& notBound) {
     Database database(ConfigurationFileName(), ConfigurationSchema());
     const QString name = viewer.QmConfig();
     StoredLook look(database, name);
-    BindChartToConfiguration(viewer, name);
-    Database::Writing writing(database, ChartLook().name);
+    Database::Writing writing(database, QLatin1String(BindingsTable));
+    try {
+        BindLook(database, viewer.GraphId(), name);
+    } catch (const RuntimeError& error) {
+        notBound = error;
+    }
     CaptureLook(viewer, look);
     writing.Finish();
 }
@@ -41,10 +49,16 @@ bool Load(Viewer& viewer, const QString& name, bool loadTitles) {
 } // namespace
 
 void SaveConfiguration(Viewer& viewer) {
-    ShowErrors(OwnerOf(viewer), [&] {
-        Save(viewer);
-        viewer.SetStatus(LocalText(SavedKey));
-    });
+    std::optional<RuntimeError> notBound;
+    std::optional<RuntimeError> notSaved;
+    try {
+        Save(viewer, notBound);
+    } catch (const RuntimeError& error) {
+        notSaved = error;
+    }
+    for (const std::optional<RuntimeError>* failure : {&notBound, &notSaved})
+        if (*failure) ShowErrors(OwnerOf(viewer), [&] { throw RuntimeError(**failure); });
+    if (!notSaved) viewer.SetStatus(LocalText(SavedKey));
 }
 
 void LoadConfiguration(Viewer& viewer, const QString& name, bool loadTitles) {

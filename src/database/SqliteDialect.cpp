@@ -108,8 +108,9 @@ void SqliteDialect::Prepare(QSqlDatabase& connection) const {
 }
 
 QStringList SqliteDialect::Greeting() const {
-    // The folder is written through too, so that a finished transaction survives a loss of power.
-    return {QStringLiteral("PRAGMA synchronous=EXTRA")};
+    // A finished transaction survives a loss of power. Its journal is emptied, not deleted: that is one file
+    // to write through, where a deletion needs the folder too.
+    return {QStringLiteral("PRAGMA synchronous=EXTRA"), QStringLiteral("PRAGMA journal_mode=TRUNCATE")};
 }
 
 QString SqliteDialect::Table(const QString& table) const {

@@ -122,7 +122,7 @@ class Killed(unittest.TestCase):
                 if chance.random() < 0.5:  # otherwise the other writer puts right what the dead one has left
                     self.check(store, dead, alive)
                 seen = len(alive.writer.printed)
-                alive.writer.wait_for(lambda printed, seen=seen: len(printed) >= seen + 4)
+                alive.writer.wait_for(lambda printed, seen=seen: len(printed) >= seen + 2)
                 # The other one has saved under the shared name since.
                 shared = self.check(store, dead, alive)
                 if store.engine == "SQLite":

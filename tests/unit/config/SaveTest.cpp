@@ -136,6 +136,17 @@ TEST_P(SaveTest, ATableThatIsMissingEndsItBeforeAnythingIsWritten) {
     EXPECT_EQ(Count("ChartConfigurations"), 0);
 }
 
+TEST_P(SaveTest, ABindingThatFailsIsToldAndTheLookIsSavedAllTheSame) {
+    store.Sql(T("DROP TABLE <Charts>"));
+    if (GetParam() == Engine::Postgres) store.Sql(T("CREATE TABLE <Charts> (\"ChartId\" integer)"));
+    Fill(viewer, 2, 2);
+    Save(viewer, "Look");
+    EXPECT_EQ(Errors().size(), 1);
+    EXPECT_EQ(Count("ChartConfigurations"), 1);
+    EXPECT_EQ(Count("AxesConfigurations"), 4);
+    EXPECT_EQ(viewer.status, "Configuration Saved");
+}
+
 TEST_P(SaveTest, AnEmptyNameIsLeftToTheDatabaseWhichTakesIt) {
     Fill(viewer, 2, 2);
     Save(viewer, "");
