@@ -36,8 +36,8 @@ public:
     [[nodiscard]] std::size_t StepsForward() const { return steps_.size() - done_; }
 
     /// The state to go to, good until the history changes; null where there is no step that way.
-    [[nodiscard]] const LookState* Undo();
-    [[nodiscard]] const LookState* Redo();
+    const LookState* Undo();
+    const LookState* Redo();
 
     /// The look is kept somewhere from now on: whatever looks different is modified, and only that.
     void LookWasKept(const LookState& now);
