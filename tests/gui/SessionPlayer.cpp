@@ -9,6 +9,8 @@
 #include <QTabBar>
 
 #include <exception>
+#include <functional>
+#include <list>
 #include <optional>
 
 using namespace QmChart6;
@@ -32,10 +34,10 @@ std::runtime_error NotUnderstood(const QStringList& words) {
 
 std::optional<PartCode> PartNamed(const QString& name) {
     static const QMap<QString, PartCode> codes{
-        {"title", PartCode::Title},     {"footnote", PartCode::Footnote},
-        {"legend", PartCode::Legend},   {"plot", PartCode::Plot},
-        {"series", PartCode::Series},   {"point-label", PartCode::PointLabel},
-        {"axis", PartCode::Axis},       {"axis-label", PartCode::AxisLabel},
+        {"title", PartCode::Title},         {"footnote", PartCode::Footnote},
+        {"legend", PartCode::Legend},       {"plot", PartCode::Plot},
+        {"series", PartCode::Series},       {"point-label", PartCode::PointLabel},
+        {"axis", PartCode::Axis},           {"axis-label", PartCode::AxisLabel},
         {"axis-title", PartCode::AxisTitle}};
     const auto found = codes.find(name);
     return found == codes.end() ? std::nullopt : std::optional(found.value());
@@ -43,10 +45,10 @@ std::optional<PartCode> PartNamed(const QString& name) {
 
 /// The button of that name on the control bar.
 BarButton ButtonNamed(const QString& name) {
-    static const QMap<QString, BarButton> buttons{
-        {"3D", BarButton::ThreeD},   {"Stack", BarButton::Stack},   {"100%", BarButton::FullStack},
-        {"Flip", BarButton::Flip},   {"Legend", BarButton::Legend}, {"Load", BarButton::Load},
-        {"Save", BarButton::Save}};
+    static const QMap<QString, BarButton> buttons{{"3D", BarButton::ThreeD},      {"Stack", BarButton::Stack},
+                                                  {"100%", BarButton::FullStack}, {"Flip", BarButton::Flip},
+                                                  {"Legend", BarButton::Legend},  {"Load", BarButton::Load},
+                                                  {"Save", BarButton::Save}};
     if (!buttons.contains(name)) throw NotUnderstood({name});
     return buttons[name];
 }
@@ -87,24 +89,39 @@ QList<SessionPlayer::Step> SessionPlayer::StepsOf(const QString& session) {
 
 void SessionPlayer::Play(const QString& session) {
     for (const Step& step : StepsOf(session)) {
-        std::exception_ptr failure;
-        std::optional<Person<QDialog>> person;
-        // What the dialog opens on top of itself is answered by the desktop.
-        if (!step.inDialog.isEmpty())
-            person.emplace([&](QDialog& dialog) {
-                try {
-                    for (const QStringList& words : step.inDialog) DoInDialog(dialog, words);
-                } catch (...) {
-                    failure = std::current_exception();
-                    dialog.reject();
-                }
-            });
-        Do(step.words);
-        QApplication::processEvents();
-        if (failure) std::rethrow_exception(failure);
-        if (person && !person->WasAsked())
-            throw std::runtime_error("no dialog came of: " + step.line.toStdString());
+        try {
+            PlayStep(step);
+        } catch (const std::runtime_error& error) {
+            throw std::runtime_error(step.line.toStdString() + ": " + error.what());
+        }
     }
+}
+
+void SessionPlayer::PlayStep(const Step& step) {
+    // Apply ends a showing of a dialog; somebody else goes on with the next.
+    std::list<Person<QDialog>> people;
+    std::exception_ptr failure;
+    qsizetype done = 0;
+    const std::function<void(QDialog&)> deal = [&](QDialog& dialog) {
+        try {
+            while (done < step.inDialog.size() && dialog.isVisible())
+                DoInDialog(dialog, step.inDialog[done++]);
+        } catch (...) {
+            failure = std::current_exception();
+            dialog.reject();
+            return;
+        }
+        // A closed one may come again, a dialog that nothing more is done with is let go.
+        if (dialog.isVisible())
+            dialog.reject();
+        else
+            people.emplace_back(deal);
+    };
+    if (!step.inDialog.isEmpty()) people.emplace_back(deal);
+    Do(step.words);
+    QApplication::processEvents();
+    if (failure) std::rethrow_exception(failure);
+    if (done < step.inDialog.size()) throw std::runtime_error("no dialog came of it");
 }
 
 void SessionPlayer::Do(const QStringList& words) {

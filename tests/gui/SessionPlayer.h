@@ -37,6 +37,7 @@ private:
     };
 
     static QList<Step> StepsOf(const QString& session);
+    void PlayStep(const Step& step);
     void Do(const QStringList& words);
     void DoOnDesktop(const QStringList& words);
     static void DoInDialog(QDialog& dialog, const QStringList& words);
