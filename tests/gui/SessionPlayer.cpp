@@ -140,8 +140,10 @@ void SessionPlayer::Do(const QStringList& words) {
     if (what == "turn") return Turn(form_, {words.at(1).toInt(), words.at(2).toInt()});
     if (what == "key") {
         const QKeyCombination keys = QKeySequence(words.at(1))[0];
+        form_.activateWindow(); // a list or dialog that was closed may have left no window active
+        if (!QTest::qWaitForWindowActive(&form_)) throw std::runtime_error("the window has no keyboard");
         form_.ChartImage().setFocus();
-        QTest::keyClick(&form_.ChartImage(), keys.key(), keys.keyboardModifiers());
+        QTest::keyClick(form_.windowHandle(), keys.key(), keys.keyboardModifiers());
         return;
     }
     DoOnDesktop(words);
