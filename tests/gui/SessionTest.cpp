@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 // Sessions of a person at a viewer, kept as text, replayed by real events. The chart that they end with is
@@ -136,7 +137,10 @@ TEST_P(SessionTest, AllOfItCanBeTakenBackAndDoneAgain) {
 
 INSTANTIATE_TEST_SUITE_P(Kept, SessionTest,
                          testing::Values(Session{"session", 3, "Shares by region"},
-                                         Session{"session-pie", 1, "One pie"}),
+                                         Session{"session-pie", 1, "One pie"},
+                                         Session{"session-statistics", 2, "Statistics"}),
                          [](const auto& instance) {
-                             return std::string(instance.param.columns == 1 ? "OneColumn" : "ThreeColumns");
+                             std::string name = instance.param.name;
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
                          });
