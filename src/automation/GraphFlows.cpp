@@ -42,6 +42,19 @@ private:
     ChartControl& chart_;
 };
 
+/// Once the host has changed a viewer's chart, nothing from before may come back, also where it failed half
+/// way.
+class HistoryRestarted {
+public:
+    explicit HistoryRestarted(ViewerPointer viewer) : viewer_(std::move(viewer)) {}
+    ~HistoryRestarted() { viewer_->RestartHistory(); }
+    HistoryRestarted(const HistoryRestarted&) = delete;
+    HistoryRestarted& operator=(const HistoryRestarted&) = delete;
+
+private:
+    ViewerPointer viewer_;
+};
+
 ViewerPointer ViewerFor(const QString& graphId) {
     QString id = graphId;
     ViewerPointer viewer = FindViewer(id);
@@ -61,6 +74,7 @@ void SetTitles(Chart& chart, const ChartRequest& request) {
 /// The viewer of the request's id with its data and titles, made where there is none.
 ViewerPointer LoadedViewer(const ChartRequest& request) {
     ViewerPointer viewer = ViewerFor(request.graphId);
+    const HistoryRestarted history(viewer);
     const RepaintingOff quiet(viewer->ChartImage());
     Chart& chart = viewer->ChartImage().Model();
     FillChartData(chart, request.rows, request.columns, request.data, request.rowLabels,
@@ -92,6 +106,7 @@ void MakeGraph(const ChartRequest& request, const Variant& language) {
     SetQtTextsLanguage(QLatin1String(LocaleOf(LanguageCode())));
     EnsureApplication();
     const ViewerPointer viewer = LoadedViewer(request);
+    const HistoryRestarted history(viewer);
     viewer->setWindowTitle(LocalText(CaptionKey));
     ComputeValueLabelFormat(request.data, request.rows, request.columns);
     if (request.useConfig != UseConfig::No) {

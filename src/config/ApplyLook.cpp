@@ -60,7 +60,10 @@ void ReadSeries(LookReader& reader, Viewer& viewer) {
     SeriesCollection& all = viewer.ChartImage().Model().Plot.SeriesCollection;
     for (int series = 1; series <= all.Count(); ++series) {
         if (!ReadRecord(reader, SeriesLook(), {viewer, series})) continue;
-        DataPointLabel& label = all(series).DataPoints.Item(DataPoints::All).DataPointLabel;
+        DataPoint& points = all(series).DataPoints.Item(DataPoints::All);
+        // A look keeps no colour for them: statistics lines are drawn in their series' own, as when edited.
+        all(series).StatLine.VtColor = points.Brush.FillColor;
+        DataPointLabel& label = points.DataPointLabel;
         label.PercentFormat = QStringLiteral("0.0%");
         label.ValueFormat = ValueLabelFormat();
     }

@@ -118,7 +118,7 @@ void ControlBarCommands::Act(BarButton button) {
     case BarButton::Legend:
         return SetLegendVisible(Model(), TruthOf(bar_.IsPressed(button)));
     case BarButton::Load:
-        GraphConfiguration(&form_).Execute(form_);
+        LoadLook();
         return form_.SetModified(false);
     case BarButton::Save:
         SaveConfiguration(form_);
@@ -126,6 +126,12 @@ void ControlBarCommands::Act(BarButton button) {
     case BarButton::Print:
         return PrintChart(form_);
     }
+}
+
+void ControlBarCommands::LoadLook() {
+    GraphConfiguration dialog(&form_);
+    QObject::connect(&dialog, &GraphConfiguration::Written, &form_, &GraphForm::EndStep);
+    dialog.Execute(form_);
 }
 
 /// Shares of a whole are there only while there is a whole: without "Stack" there is no "100%".

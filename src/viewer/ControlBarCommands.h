@@ -34,6 +34,8 @@ public:
     void Click(BarButton button);
     /// Gives the chart the selected type, with what goes with it.
     void ChooseType();
+    /// Lets the person choose a stored look, and loads it.
+    void LoadLook();
 
 private:
     void Act(BarButton button);

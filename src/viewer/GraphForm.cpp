@@ -9,6 +9,8 @@
 #include "text/LocalText.h"
 #include "viewer/ChartVocabularies.h"
 #include "viewer/ControlBarCommands.h"
+#include "viewer/ElementEditing.h"
+#include "viewer/LookChanges.h"
 #include "viewer/ViewerLayout.h"
 #include "viewer/ViewerMenu.h"
 #include "viewer/ViewerStatusBar.h"
@@ -64,6 +66,7 @@ GraphForm::GraphForm(QWidget* parent)
     : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)),
       tbControlBar_(new ViewerToolBar(this)),
       commands_(std::make_unique<ControlBarCommands>(*this, *tbControlBar_)),
+      editing_(std::make_unique<ElementEditing>(*this)), changes_(std::make_unique<LookChanges>(*this)),
       sbGraph_(new ViewerStatusBar(this)), mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)) {
     setObjectName(QStringLiteral("GraphForm"));
     // Closing the last chart must not end a host's event loop.
@@ -90,7 +93,29 @@ GraphForm::~GraphForm() = default;
 
 void GraphForm::Do(const std::function<void()>& command) {
     const OwnEvent event(*this);
-    ShowErrors(this, command);
+    changes_->Do([&] { ShowErrors(this, command); });
+}
+
+void GraphForm::Undo() {
+    const OwnEvent event(*this);
+    ShowErrors(this, [this] { changes_->Undo(); });
+}
+
+void GraphForm::Redo() {
+    const OwnEvent event(*this);
+    ShowErrors(this, [this] { changes_->Redo(); });
+}
+
+void GraphForm::EndStep() {
+    changes_->EndStep();
+}
+
+void GraphForm::DropStep() {
+    changes_->DropStep();
+}
+
+void GraphForm::RestartHistory() {
+    changes_->Restart();
 }
 
 QString GraphForm::GraphId() const {
@@ -267,8 +292,8 @@ void GraphForm::contextMenuEvent(QContextMenuEvent* event) {
     ShowMenu(event->globalPos());
 }
 
-void GraphForm::ShowMenu(const QPoint& globalPlace) {
-    mProperties_->optGenericProperties->setVisible(false);
+void GraphForm::ShowMenu(const QPoint& globalPlace, const QString& caption) {
+    mProperties_->NameElement(caption);
     mProperties_->popup(globalPlace);
 }
 

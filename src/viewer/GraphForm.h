@@ -12,6 +12,8 @@ class QTimer;
 namespace QmChart6 {
 
 class ControlBarCommands;
+class ElementEditing;
+class LookChanges;
 class ViewerMenu;
 class ViewerStatusBar;
 class ViewerToolBar;
@@ -82,6 +84,17 @@ public:
     /// The same, and lays the chart out anew.
     void RefreshControlBar();
 
+    /// Take back the last step of what a person did to the look, and do it again; nothing where there is
+    /// none.
+    void Undo();
+    void Redo();
+    /// Within a command of a person: what was changed until now is a step of its own.
+    void EndStep();
+    /// Within a command of a person: what was changed since the last step is none.
+    void DropStep();
+    /// The host changed the chart: nothing from before can be taken back.
+    void RestartHistory();
+
 Q_SIGNALS:
     /// The window was closed, by whomever, and is not coming back.
     void Closed();
@@ -100,14 +113,20 @@ private:
 
     void PlaceParts();
     void ConnectCommands();
-    void ShowMenu(const QPoint& globalPlace);
+    void ConnectMenu();
+    void ConnectChart();
+    void ConnectKeys();
+    /// `caption` names the element that the menu is for; "" for none.
+    void ShowMenu(const QPoint& globalPlace, const QString& caption = {});
     void AskToSave();
-    /// Does what a command of the window's own asks for.
+    /// Does what a command of the window's own asks for, as one step that can be taken back.
     void Do(const std::function<void()>& command);
 
     ChartControl* chartImage_;
     ViewerToolBar* tbControlBar_;
     std::unique_ptr<ControlBarCommands> commands_;
+    std::unique_ptr<ElementEditing> editing_;
+    std::unique_ptr<LookChanges> changes_;
     ViewerStatusBar* sbGraph_;
     ViewerMenu* mProperties_;
     QTimer* timGraph_;

@@ -6,9 +6,13 @@ namespace QmChart6 {
 
 namespace {
 
+/// An ampersand in a text is a character to read, not a short cut.
+QString ToBeRead(QString caption) {
+    return caption.replace(u'&', QStringLiteral("&&"));
+}
+
 QAction* Entry(QMenu& menu, const char* name, const QString& caption) {
-    // An ampersand in a text is a character to read, not a short cut.
-    QAction* entry = menu.addAction(QString(caption).replace(u'&', QStringLiteral("&&")));
+    QAction* entry = menu.addAction(ToBeRead(caption));
     entry->setObjectName(QLatin1String(name));
     return entry;
 }
@@ -19,7 +23,7 @@ ViewerMenu::ViewerMenu(QWidget* parent) : QMenu(parent) {
     setObjectName(QStringLiteral("mProperties"));
     setTitle(LocalText(8));
     optGenericProperties = Entry(*this, "optGenericProperties", QString());
-    optGenericProperties->setVisible(false);
+    NameElement({});
     optChart = Entry(*this, "optChart", LocalText(8));
     addSeparator();
     optControlBar = Entry(*this, "optControlBar", LocalText(9));
@@ -34,6 +38,11 @@ ViewerMenu::ViewerMenu(QWidget* parent) : QMenu(parent) {
     optLoadConfig = Entry(*this, "optLoadConfig", LocalText(100));
     optSaveConfig = Entry(*this, "optSaveConfig", LocalText(14));
     optSaveConfigAs = Entry(*this, "optSaveConfigAs", LocalText(101) + QStringLiteral("..."));
+}
+
+void ViewerMenu::NameElement(const QString& caption) {
+    optGenericProperties->setText(ToBeRead(caption));
+    optGenericProperties->setVisible(!caption.isEmpty());
 }
 
 } // namespace QmChart6

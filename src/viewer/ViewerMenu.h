@@ -11,6 +11,9 @@ class ViewerMenu : public QMenu {
 public:
     explicit ViewerMenu(QWidget* parent = nullptr);
 
+    /// Gives the first entry the caption of the element that it is for; "" hides it.
+    void NameElement(const QString& caption);
+
     QAction* optGenericProperties;
     QAction* optChart;
     QAction* optControlBar;

@@ -5,6 +5,7 @@
 #include "chartcontrol/layout/TextBlock.h"
 
 #include <algorithm>
+#include <array>
 
 namespace QmChart6 {
 
@@ -59,6 +60,28 @@ Box Along(const Box& edge, Side side, LocationType location, const Size& extent)
     return box;
 }
 
+/// Keeps the rest of the chart off a title that was placed by hand right at a side, as it would be if layout
+/// had put it there.
+void KeepOff(Box& free, const Box& box, double gap) {
+    struct Need {
+        Side side;
+        double near; // how far from the side the title begins
+        double depth;
+        double most;
+    };
+    const double width = LargestShare * free.Width();
+    const double height = LargestShare * free.Height();
+    const std::array needs{Need{Side::Top, box.top - free.top, box.bottom - free.top, height},
+                           Need{Side::Bottom, free.bottom - box.bottom, free.bottom - box.top, height},
+                           Need{Side::Left, box.left - free.left, box.right - free.left, width},
+                           Need{Side::Right, free.right - box.right, free.right - box.left, width}};
+    const Need& least = *std::min_element(needs.begin(), needs.end(), [](const Need& one, const Need& other) {
+        return one.depth < other.depth;
+    });
+    if (least.near <= gap && least.depth > 0 && least.depth <= least.most)
+        CutOff(free, least.side, least.depth, gap);
+}
+
 /// Titles that run along the chart's width stand above or below it, corners included.
 Side SideOfTitle(const Title& title) {
     const LocationType location = title.Location.LocationType;
@@ -73,7 +96,9 @@ Side SideOfTitle(const Title& title) {
 void LayOutTitle(const LayoutContext& context, const Title& title, PartCode code, Box& free) {
     if (title.Location.LocationType == LocationType::Custom) {
         const Box box = BoxOf(title.Location.Rect);
-        Place(context, title, code, Break(context, title, box, 1), box);
+        const TextBlock block = Break(context, title, box, 1);
+        Place(context, title, code, block, box);
+        if (!block.IsEmpty()) KeepOff(free, box, GapShare * title.VtFont.Size);
         return;
     }
     const Side side = SideOfTitle(title);

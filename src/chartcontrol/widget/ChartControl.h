@@ -63,8 +63,8 @@ Q_SIGNALS:
     /// A context menu is wanted for the selected part, at a place in the control. While nobody is connected,
     /// the parent gets the events that ask for it.
     void ContextMenuWanted(const QPoint& place);
-    /// A 3D chart was turned by hand and let go.
-    void ViewTurned();
+    /// A 3D chart was turned by hand and let go; from where it stood before.
+    void ViewTurned(const QmChart6::View3d& before);
 
 protected:
     bool event(QEvent* event) override;
@@ -106,6 +106,8 @@ private:
     ChartPart selected_;
     /// Where the pointer was when the view was last turned, while it is being turned.
     std::optional<QPointF> turnedFrom_;
+    /// How the chart stood when the turning began.
+    View3d viewBefore_;
 };
 
 } // namespace QmChart6

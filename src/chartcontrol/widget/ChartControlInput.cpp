@@ -48,6 +48,7 @@ void ChartControl::mousePressEvent(QMouseEvent* event) {
     }
     if ((event->modifiers() & Qt::ControlModifier) != 0 && Is3D(chart_.chartType())) {
         turnedFrom_ = event->position();
+        viewBefore_ = chart_.Plot.View3d;
         setCursor(Qt::ClosedHandCursor);
         return;
     }
@@ -70,7 +71,7 @@ void ChartControl::mouseReleaseEvent(QMouseEvent* event) {
         if (!turnedFrom_) return;
         turnedFrom_.reset();
         unsetCursor();
-        Q_EMIT ViewTurned();
+        Q_EMIT ViewTurned(viewBefore_);
         return;
     }
     event->ignore();

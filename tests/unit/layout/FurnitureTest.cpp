@@ -97,6 +97,24 @@ TEST(Titles, ACustomPlaceTakesNoRoomAndIsKept) {
     EXPECT_DOUBLE_EQ(TextsOf(scene, PartCode::Title)[0].origin.x, 150);
 }
 
+TEST(Titles, ACustomPlaceAtASideIsKeptClear) {
+    Chart chart = ChartOf(3, 1, Ramp);
+    chart.Title.Text = QStringLiteral("Title");
+    chart.Title.Location.LocationType = LocationType::Custom;
+    const Size size = LaidOut(chart).size;
+    const double width = size.width;
+    const double height = size.height;
+    for (const CoordinateRect& rect : {CoordinateRect{{100, 4}, {200, 24}}, CoordinateRect{{2, 60}, {40, 80}},
+                                       CoordinateRect{{100, height - 24}, {200, height - 4}},
+                                       CoordinateRect{{width - 40, 60}, {width - 2, 80}}}) {
+        chart.Title.Location.Rect = rect;
+        const Box plot = BoxOfPlot(LaidOut(chart));
+        EXPECT_TRUE(rect.Max.Y <= plot.top || rect.Min.Y >= plot.bottom || rect.Max.X <= plot.left ||
+                    rect.Min.X >= plot.right)
+            << rect.Min.X << ' ' << rect.Min.Y;
+    }
+}
+
 TEST(Titles, ControlCharactersAreNoMoreThanBlanks) {
     Chart chart = ChartOf(3, 1, Ramp);
     chart.Title.Text = QStringLiteral("one\ttwo\r\nthree\x01");
