@@ -43,9 +43,10 @@ void SizeFor(Look& look, Chart& chart) {
     const int columns = GreatestNumber(look, ColumnsLook());
     const bool inRows = HasSeriesInRows(look);
     if (inRows && series > MostCells / columns)
-        throw RuntimeError(
-            ErrorNumber::InvalidPropertyValue,
-            QStringLiteral("a look of %1 columns and %2 series in rows is too large").arg(columns).arg(series));
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("a look of %1 columns and %2 series in rows is too large")
+                               .arg(columns)
+                               .arg(series));
     chart.SetGridSize(inRows ? series : 1, inRows ? columns : std::max(series, columns));
 }
 

@@ -139,9 +139,7 @@ public:
 
 private:
     [[nodiscard]] ChartControl& Control() const { return *static_cast<ChartControl*>(object()); }
-    [[nodiscard]] const ChartVocabulary& Words() const {
-        return Control().Vocabulary();
-    }
+    [[nodiscard]] const ChartVocabulary& Words() const { return Control().Vocabulary(); }
     [[nodiscard]] const Chart& Model() const { return std::as_const(Control()).Model(); }
     [[nodiscard]] int SeriesCount() const { return Model().Plot.SeriesCollection.Count(); }
     [[nodiscard]] int DrawnBefore(int series) const {
