@@ -35,6 +35,8 @@ Connection::Connection(std::unique_ptr<Dialect> dialect) : dialect_(std::move(di
 
 Connection::~Connection() {
     prepared_.clear();
+    if (wrote_ && !dialect_->Farewell().isEmpty())
+        QSqlQuery(QSqlDatabase::database(name_, false)).exec(dialect_->Farewell());
     QSqlDatabase::removeDatabase(name_);
 }
 
@@ -87,6 +89,7 @@ bool Connection::Next(QSqlQuery& query) const {
 }
 
 int Connection::Write(const QString& statement, const QVariantList& values) {
+    wrote_ = true;
     try {
         QSqlQuery& query = Run(statement, values);
         const int changed = query.numRowsAffected();

@@ -50,6 +50,7 @@ private:
     QString name_;
     std::map<QString, QSqlQuery> prepared_;
     bool writing_ = false;
+    bool wrote_ = false;
 };
 
 } // namespace QmChart6

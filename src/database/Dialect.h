@@ -27,6 +27,9 @@ public:
     /// Statements to run once a connection is open.
     [[nodiscard]] virtual QStringList Greeting() const = 0;
 
+    /// A statement to run before a connection that wrote is closed; "" for none. It may fail.
+    [[nodiscard]] virtual QString Farewell() const = 0;
+
     /// A table's name as statements have it.
     [[nodiscard]] virtual QString Table(const QString& table) const = 0;
     [[nodiscard]] virtual QString ColumnType(FieldKind kind) const = 0;

@@ -65,6 +65,10 @@ QStringList PostgresDialect::Greeting() const {
             QStringLiteral("SET synchronous_commit = on")};
 }
 
+QString PostgresDialect::Farewell() const {
+    return {};
+}
+
 QString PostgresDialect::Table(const QString& table) const {
     return Quoted(server_.schema) + u'.' + Quoted(table);
 }

@@ -113,6 +113,12 @@ QStringList SqliteDialect::Greeting() const {
     return {QStringLiteral("PRAGMA synchronous=EXTRA"), QStringLiteral("PRAGMA journal_mode=TRUNCATE")};
 }
 
+QString SqliteDialect::Farewell() const {
+    // Takes the empty journal away, which the next writer may not be allowed to write to; where somebody is
+    // writing just now it stays, and they do the same.
+    return QStringLiteral("PRAGMA journal_mode=DELETE");
+}
+
 QString SqliteDialect::Table(const QString& table) const {
     return Quoted(table);
 }

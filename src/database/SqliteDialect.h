@@ -13,6 +13,7 @@ public:
     [[nodiscard]] QString Driver() const override;
     void Prepare(QSqlDatabase& connection) const override;
     [[nodiscard]] QStringList Greeting() const override;
+    [[nodiscard]] QString Farewell() const override;
     [[nodiscard]] QString Table(const QString& table) const override;
     [[nodiscard]] QString ColumnType(FieldKind kind) const override;
     [[nodiscard]] QString Key(const FieldDescription& field) const override;

@@ -55,7 +55,7 @@ void GraphConfiguration::MakeList() {
     Describe(*btnDelete_, "btnDelete", LocalText(109));
     connect(lstConfig_, &QListWidget::itemDoubleClicked, this, &GraphConfiguration::accept);
     connect(lstConfig_, &QListWidget::itemSelectionChanged, this, &GraphConfiguration::AllowDelete);
-    connect(btnDelete_, &QPushButton::clicked, this, &GraphConfiguration::Delete);
+    On(btnDelete_, &QPushButton::clicked, [this] { Delete(); });
     auto* deleteKey = new QShortcut(QKeySequence::Delete, lstConfig_);
     deleteKey->setContext(Qt::WidgetShortcut);
     connect(deleteKey, &QShortcut::activated, btnDelete_, &QPushButton::click);

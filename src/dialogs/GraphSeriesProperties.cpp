@@ -86,7 +86,7 @@ QWidget* GraphSeriesProperties::MakeGeneral() {
     grid->addWidget(btnColor, 2, 0);
     grid->addWidget(pbColor_, 2, 1);
     const QString title = LocalText(ColorKey);
-    connect(btnColor, &QPushButton::clicked, this, [this, title] {
+    On(btnColor, &QPushButton::clicked, [this, title] {
         if (pbColor_->Pick(title)) ShowColours();
     });
     return page;
@@ -128,7 +128,7 @@ QWidget* GraphSeriesProperties::MakeStyle() {
     Describe(*picStyle_, "picStyle", LocalText(88));
     grid->addWidget(picStyle_, 1, 0, 1, 2, Qt::AlignLeft);
     const QString title = LocalText(ColorKey);
-    connect(btnStyleColor, &QPushButton::clicked, this, [this, title] {
+    On(btnStyleColor, &QPushButton::clicked, [this, title] {
         if (pbStyleColor_->Pick(title)) ShowColours();
     });
     return page;

@@ -80,7 +80,7 @@ void GraphTextProperties::MakeTextRow() {
     lblText_ = NewLabel(this, "lblText", LocalText(79), *TText_);
     auto* btnFont = new QPushButton(WithDots(LocalText(80)), this);
     Describe(*btnFont, "btnFont", LocalText(80));
-    connect(btnFont, &QPushButton::clicked, this, &GraphTextProperties::PickFont);
+    On(btnFont, &QPushButton::clicked, [this] { PickFont(); });
     auto* row = new QHBoxLayout;
     row->addWidget(lblText_);
     row->addWidget(TText_, 1);

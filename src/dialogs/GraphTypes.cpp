@@ -58,9 +58,9 @@ GraphTypes::GraphTypes(QWidget* owner) : PropertyDialog(owner, Buttons::OkCancel
 GraphTypes::~GraphTypes() = default;
 
 void GraphTypes::Connect() {
-    connect(form_.RB2d, &QRadioButton::toggled, this, &GraphTypes::ChooseDimension);
-    connect(form_.LChTypes, &QListWidget::currentRowChanged, this, &GraphTypes::ChooseKind);
-    connect(form_.btnBackColor, &QPushButton::clicked, this, &GraphTypes::PickBackColor);
+    On(form_.RB2d, &QRadioButton::toggled, [this] { ChooseDimension(); });
+    On(form_.LChTypes, &QListWidget::currentRowChanged, [this] { ChooseKind(); });
+    On(form_.btnBackColor, &QPushButton::clicked, [this] { PickBackColor(); });
     ConnectOptions();
     ConnectAxes();
 }
@@ -68,7 +68,7 @@ void GraphTypes::Connect() {
 /// Every handler acts on the sample through the operation that writing back uses.
 void GraphTypes::ConnectOptions() {
     const auto follow = [this](QCheckBox* box, void (*operation)(Chart&, Truth)) {
-        connect(box, &QCheckBox::toggled, this, [this, box, operation] {
+        On(box, &QCheckBox::toggled, [this, box, operation] {
             operation(Sample(), TruthOf(*box));
             RefreshSample();
         });
@@ -77,12 +77,12 @@ void GraphTypes::ConnectOptions() {
     follow(form_.CShowMarkers, SetSeriesMarkers);
     follow(form_.CShowLines, SetSeriesLines);
     follow(form_.C100, SetFullStacked);
-    connect(form_.CStackSeries, &QCheckBox::toggled, this, &GraphTypes::StackClicked);
-    connect(form_.CSeriesInRows, &QCheckBox::toggled, this, &GraphTypes::SeriesInRowsClicked);
+    On(form_.CStackSeries, &QCheckBox::toggled, [this] { StackClicked(); });
+    On(form_.CSeriesInRows, &QCheckBox::toggled, [this] { SeriesInRowsClicked(); });
     const auto choose = [this](QComboBox* list, void (*operation)(Chart&, int)) {
-        connect(list, &QComboBox::currentIndexChanged, this, [this, operation](int index) {
-            if (index < 0) return;
-            operation(Sample(), index);
+        On(list, &QComboBox::currentIndexChanged, [this, list, operation] {
+            if (list->currentIndex() < 0) return;
+            operation(Sample(), list->currentIndex());
             RefreshSample();
         });
     };
@@ -93,12 +93,13 @@ void GraphTypes::ConnectOptions() {
 void GraphTypes::ConnectAxes() {
     for (std::size_t axis = 0; axis < GraphTypesControls::AxisCount; ++axis) {
         const int id = static_cast<int>(axis);
-        connect(form_.chkAxis[axis], &QCheckBox::toggled, this, [this, axis] { AxisClicked(axis); });
-        connect(form_.chkAxisLab[axis], &QCheckBox::toggled, this, [this, axis, id] {
+        On(form_.chkAxis[axis], &QCheckBox::toggled, [this, axis] { AxisClicked(axis); });
+        On(form_.chkAxisLab[axis], &QCheckBox::toggled, [this, axis, id] {
             SetAxisTitleVisible(Sample(), TruthOf(*form_.chkAxisLab[axis]), id);
             RefreshSample();
         });
-        connect(form_.cbGridLines[axis], &QComboBox::currentIndexChanged, this, [this, id](int style) {
+        On(form_.cbGridLines[axis], &QComboBox::currentIndexChanged, [this, axis, id] {
+            const int style = form_.cbGridLines[axis]->currentIndex();
             if (style < 0) return;
             SetGridLineStyle(Sample(), style, id);
             RefreshSample();

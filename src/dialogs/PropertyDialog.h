@@ -1,9 +1,12 @@
 #pragma once
 
+#include "desktop/ShowErrors.h"
+
 #include <QDialog>
 #include <QPointer>
 
 #include <functional>
+#include <utility>
 
 class QDialogButtonBox;
 class QLineEdit;
@@ -49,6 +52,12 @@ protected:
     void Finish();
     /// The text box that has the focus when the dialog is first shown, all selected, if it is enabled.
     void SetFirstText(QLineEdit& text) { firstText_ = &text; }
+
+    /// Does what a control's signal asks for. Nobody above an event can take an error, so it is shown.
+    template<class Sender, class Signal>
+    void On(Sender* sender, Signal signal, std::function<void()> handler) {
+        connect(sender, signal, this, [this, handler = std::move(handler)] { ShowErrors(this, handler); });
+    }
 
     /// Shows the dialog, again and again while Apply is pressed. `writeBack` runs after each OK and Apply;
     /// what it raises ends the loop.
