@@ -43,6 +43,18 @@ auto OneOf(std::mt19937& random, const Items& items) {
     return items[static_cast<std::size_t>(Below(random, static_cast<int>(items.size())))];
 }
 
+/// A mouse event for a widget that the one before may have taken away.
+void Send(const QPointer<QWidget>& widget, QEvent::Type type, QPoint place, Qt::MouseButton button,
+          Qt::KeyboardModifiers modifiers) {
+    if (widget.isNull()) return;
+    const Qt::MouseButtons held =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
+    QMouseEvent event(type, place, widget->mapToGlobal(place),
+                      type == QEvent::MouseMove ? Qt::NoButton : button, held, modifiers);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(widget, &event);
+}
+
 } // namespace
 
 Monkey::Monkey(unsigned seed, int events) : random_(seed), left_(events) {}
@@ -153,20 +165,16 @@ void Monkey::Click(QWidget& widget) {
     const QPoint place(Below(random_, qMax(1, widget.width())), Below(random_, qMax(1, widget.height())));
     const Qt::MouseButton button = Below(random_, 4) == 0 ? Qt::RightButton : Qt::LeftButton;
     const Qt::KeyboardModifiers modifiers = OneOf(random_, Modifiers);
-    const QPointer<QWidget> alive(&widget);
-    switch (Below(random_, 8)) {
-    case 0:
-        QTest::mouseDClick(&widget, Qt::LeftButton, modifiers, place);
-        return;
-    case 1:
-        QTest::mousePress(&widget, button, modifiers, place);
-        if (alive) QTest::mouseMove(&widget, {Below(random_, 600), Below(random_, 400)});
-        if (alive)
-            QTest::mouseRelease(&widget, button, modifiers, {Below(random_, 600), Below(random_, 400)});
-        return;
-    default:
-        QTest::mouseClick(&widget, button, modifiers, place);
+    const QPointer<QWidget> target(&widget);
+    const int kind = Below(random_, 8);
+    Send(target, QEvent::MouseButtonPress, place, button, modifiers);
+    if (kind == 0) {
+        Send(target, QEvent::MouseButtonRelease, place, button, modifiers);
+        Send(target, QEvent::MouseButtonDblClick, place, button, modifiers);
     }
+    const QPoint end = kind == 1 ? QPoint(Below(random_, 600), Below(random_, 400)) : place;
+    if (kind == 1) Send(target, QEvent::MouseMove, end, button, modifiers);
+    Send(target, QEvent::MouseButtonRelease, end, button, modifiers);
 }
 
 void Monkey::Press(QWidget& window) {
