@@ -67,6 +67,16 @@ void Connection::Insist(Attempt&& attempt) {
 }
 
 QSqlQuery& Connection::Run(const QString& statement, const QVariantList& values) {
+    try {
+        return RunPrepared(statement, values);
+    } catch (const RuntimeError&) {
+        // On a server a statement that fails, be it one that reads, would take the whole transaction with it.
+        if (writing_ && !dialect_->TakeWriteBack().isEmpty()) Execute(dialect_->TakeWriteBack());
+        throw;
+    }
+}
+
+QSqlQuery& Connection::RunPrepared(const QString& statement, const QVariantList& values) {
     auto found = prepared_.find(statement);
     if (found == prepared_.end()) {
         QSqlQuery query(QSqlDatabase::database(name_, false));
@@ -90,16 +100,11 @@ bool Connection::Next(QSqlQuery& query) const {
 
 int Connection::Write(const QString& statement, const QVariantList& values) {
     wrote_ = true;
-    try {
-        QSqlQuery& query = Run(statement, values);
-        const int changed = query.numRowsAffected();
-        query.finish();
-        if (writing_ && !dialect_->KeepWrite().isEmpty()) Execute(dialect_->KeepWrite());
-        return changed;
-    } catch (const RuntimeError&) {
-        if (writing_ && !dialect_->TakeWriteBack().isEmpty()) Execute(dialect_->TakeWriteBack());
-        throw;
-    }
+    QSqlQuery& query = Run(statement, values);
+    const int changed = query.numRowsAffected();
+    query.finish();
+    if (writing_ && !dialect_->KeepWrite().isEmpty()) Execute(dialect_->KeepWrite());
+    return changed;
 }
 
 void Connection::Execute(const QString& statement) {

@@ -42,6 +42,7 @@ public:
 
 private:
     void Open();
+    QSqlQuery& RunPrepared(const QString& statement, const QVariantList& values);
     void Begin(const QStringList& statements);
     template<class Attempt>
     void Insist(Attempt&& attempt);

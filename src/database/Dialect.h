@@ -48,7 +48,7 @@ public:
 
     [[nodiscard]] virtual QStringList BeginWriting(const TableDescription& first) const = 0;
     [[nodiscard]] virtual QStringList BeginReading() const = 0;
-    /// What makes one write of a transaction stay when a later one fails, and what takes a failed one back.
+    /// What makes one write of a transaction stay when a later statement fails, and what takes that one back.
     [[nodiscard]] virtual QString KeepWrite() const = 0;
     [[nodiscard]] virtual QString TakeWriteBack() const = 0;
 

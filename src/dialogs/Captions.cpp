@@ -1,6 +1,8 @@
 #include "dialogs/Captions.h"
 
+#include <QGridLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 #include <QWidget>
 
 namespace QmChart6 {
@@ -21,6 +23,15 @@ QLabel* NewLabel(QWidget* parent, const char* name, const QString& text, QWidget
 
 QString WithDots(const QString& text) {
     return text + QStringLiteral("...");
+}
+
+QGridLayout* NewGrid(QWidget* page) {
+    auto* column = new QVBoxLayout(page);
+    auto* grid = new QGridLayout;
+    column->addLayout(grid);
+    column->addStretch(1);
+    grid->setColumnStretch(1, 1);
+    return grid;
 }
 
 } // namespace QmChart6

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QGridLayout;
 class QLabel;
 class QWidget;
 
@@ -16,5 +17,8 @@ QLabel* NewLabel(QWidget* parent, const char* name, const QString& text, QWidget
 
 /// The caption of a button that opens a further dialog: "text...".
 QString WithDots(const QString& text);
+
+/// Rows of a caption and its control, at the top of a page.
+QGridLayout* NewGrid(QWidget* page);
 
 } // namespace QmChart6

@@ -41,15 +41,6 @@ int Bit(const QCheckBox& box, int bit) {
 }
 
 /// A page whose controls stand in rows of a caption and what it is for, at the top.
-QGridLayout* NewGrid(QWidget* page) {
-    auto* column = new QVBoxLayout(page);
-    auto* grid = new QGridLayout;
-    column->addLayout(grid);
-    column->addStretch(1);
-    grid->setColumnStretch(1, 1);
-    return grid;
-}
-
 } // namespace
 
 GraphSeriesProperties::GraphSeriesProperties(QWidget* owner)

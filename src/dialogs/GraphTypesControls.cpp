@@ -62,16 +62,6 @@ QGroupBox* NewAxisFrame(QWidget* page, const char* name, int titleKey,
     return frame;
 }
 
-/// Rows of a caption and its control, at the top of a page.
-QGridLayout* NewGrid(QWidget* page) {
-    auto* column = new QVBoxLayout(page);
-    auto* grid = new QGridLayout;
-    column->addLayout(grid);
-    column->addStretch(1);
-    grid->setColumnStretch(1, 1);
-    return grid;
-}
-
 void AddRow(QGridLayout& grid, QWidget* caption, QWidget* control) {
     const int row = grid.rowCount();
     grid.addWidget(caption, row, 0);

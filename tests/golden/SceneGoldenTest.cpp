@@ -1,5 +1,6 @@
 #include "chartcontrol/layout/Layout.h"
 #include "chartcontrol/scene/SceneJson.h"
+#include "support/Golden.h"
 #include "support/SampleCharts.h"
 
 #include <QDir>
@@ -7,8 +8,6 @@
 #include <QString>
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
 
 // Scenes laid out with the stub font, kept as text and compared exactly. QMCHART6_REWRITE_GOLDENS=1 writes
 // them anew; read the difference before committing it.
@@ -36,15 +35,9 @@ TEST_P(SceneGolden, IsLaidOutAsBefore) {
     const Scene scene =
         LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer());
     const QByteArray dump = DumpScene(scene);
-    QFile golden(QStringLiteral(QMCHART6_SOURCE_DIR "/tests/golden/scenes/%1.json")
-                     .arg(QString::fromStdString(sample.name)));
-    if (std::getenv("QMCHART6_REWRITE_GOLDENS") != nullptr) {
-        ASSERT_TRUE(golden.open(QIODevice::WriteOnly));
-        golden.write(dump);
-        GTEST_SKIP() << "written anew";
-    }
-    ASSERT_TRUE(golden.open(QIODevice::ReadOnly)) << "there is no golden of that name yet";
-    EXPECT_EQ(golden.readAll().toStdString(), dump.toStdString());
+    ExpectGolden(QStringLiteral(QMCHART6_SOURCE_DIR "/tests/golden/scenes/%1.json")
+                     .arg(QString::fromStdString(sample.name)),
+                 dump);
 }
 
 TEST_P(SceneGolden, IsReadBackAsItWasDumped) {

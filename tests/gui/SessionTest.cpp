@@ -6,6 +6,7 @@
 #include "config/ConfigurationSchema.h"
 #include "qmchart6/QMChartArray.h"
 #include "support/ChartDesk.h"
+#include "support/Golden.h"
 #include "support/Samples.h"
 #include "support/TestStore.h"
 
@@ -86,14 +87,7 @@ TEST_P(SessionTest, EndsWithTheChartThatItEndedWith) {
     EXPECT_EQ(chart.Title.Location.LocationType, LocationType::Custom);
     chart.Title.Location = {};
     const QByteArray dump = DumpScene(LayOut(chart, {{570, 360}}, StubTextMeasurer()));
-    QFile golden(Kept(GetParam().name, "-scene.json"));
-    if (std::getenv("QMCHART6_REWRITE_GOLDENS") != nullptr) {
-        ASSERT_TRUE(golden.open(QIODevice::WriteOnly));
-        golden.write(dump);
-        GTEST_SKIP() << "written anew";
-    }
-    ASSERT_TRUE(golden.open(QIODevice::ReadOnly)) << "there is no golden of that name yet";
-    EXPECT_EQ(golden.readAll().toStdString(), dump.toStdString());
+    ExpectGolden(Kept(GetParam().name, "-scene.json"), dump);
 }
 
 TEST_P(SessionTest, TheSavedLookGivesTheSamePictureAgain) {
