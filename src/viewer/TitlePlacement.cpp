@@ -1,6 +1,6 @@
 #include "viewer/TitlePlacement.h"
 
-#include "chartcontrol/layout/TextBlock.h"
+#include "chartcontrol/layout/text/TextBlock.h"
 #include "chartcontrol/scene/HitTest.h"
 
 #include <algorithm>

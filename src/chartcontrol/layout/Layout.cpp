@@ -1,12 +1,12 @@
 #include "chartcontrol/layout/Layout.h"
 
-#include "chartcontrol/layout/BackdropLayout.h"
-#include "chartcontrol/layout/CartesianLayout.h"
-#include "chartcontrol/layout/LayoutContext.h"
-#include "chartcontrol/layout/LegendLayout.h"
-#include "chartcontrol/layout/Marks.h"
-#include "chartcontrol/layout/SpaceLayout.h"
-#include "chartcontrol/layout/TitleLayout.h"
+#include "chartcontrol/layout/data/LayoutContext.h"
+#include "chartcontrol/layout/flat/CartesianLayout.h"
+#include "chartcontrol/layout/pie/PieLayout.h"
+#include "chartcontrol/layout/space/SpaceLayout.h"
+#include "chartcontrol/layout/text/BackdropLayout.h"
+#include "chartcontrol/layout/text/LegendLayout.h"
+#include "chartcontrol/layout/text/TitleLayout.h"
 
 #include <algorithm>
 

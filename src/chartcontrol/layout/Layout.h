@@ -1,19 +1,8 @@
 #pragma once
 
-#include "chartcontrol/model/Chart.h"
-#include "chartcontrol/scene/Scene.h"
-#include "chartcontrol/scene/TextMeasurer.h"
+#include "chartcontrol/layout/data/LayoutContext.h"
 
 namespace QmChart6 {
-
-/// What layout is asked for: the room, and how fine the picture will be.
-struct LayoutRequest {
-    /// Points; sizes below 1 by 1 give an empty scene.
-    Size size;
-    /// Device pixels to a point, for the sake of large data alone: no series costs more than the picture is
-    /// wide.
-    double pixelsPerPoint = 4.0 / 3.0;
-};
 
 /// The chart as a scene. Pure: the same chart, request and measurer give the same scene, on any thread. Odd
 /// data is no error here; what could not be shown as asked is told in the scene's warnings.

@@ -1,8 +1,8 @@
 #include "chartcontrol/layout/PointAt.h"
 
-#include "chartcontrol/layout/AxesPlan.h"
-#include "chartcontrol/layout/SeriesLook.h"
-#include "chartcontrol/layout/XYPairs.h"
+#include "chartcontrol/layout/axes/AxesPlan.h"
+#include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/data/XYPairs.h"
 #include "chartcontrol/scene/Anchor.h"
 #include "chartcontrol/scene/HitTest.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/Twips.h"
 #include "chartcontrol/layout/PointAt.h"
-#include "chartcontrol/layout/SeriesLook.h"
+#include "chartcontrol/layout/data/SeriesLook.h"
 #include "chartcontrol/scene/SelectionHandles.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "chartcontrol/widget/ChartWords.h"

@@ -1,8 +1,8 @@
 #include "chartcontrol/widget/ChartWords.h"
 
 #include "base/NumberText.h"
-#include "chartcontrol/layout/SeriesLook.h"
-#include "chartcontrol/layout/XYPairs.h"
+#include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/data/XYPairs.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "chartcontrol/widget/PartWalk.h"
 
 #include "chartcontrol/layout/PointAt.h"
-#include "chartcontrol/layout/SeriesLook.h"
+#include "chartcontrol/layout/data/SeriesLook.h"
 
 #include <algorithm>
 #include <set>

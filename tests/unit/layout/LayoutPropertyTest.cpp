@@ -1,4 +1,4 @@
-#include "LayoutSupport.h"
+#include "unit/layout/LayoutSupport.h"
 
 #include <gtest/gtest.h>
 

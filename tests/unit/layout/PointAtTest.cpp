@@ -1,6 +1,6 @@
 #include "chartcontrol/layout/PointAt.h"
 
-#include "LayoutSupport.h"
+#include "unit/layout/LayoutSupport.h"
 
 #include <gtest/gtest.h>
 

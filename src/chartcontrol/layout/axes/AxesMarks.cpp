@@ -1,0 +1,153 @@
+#include "chartcontrol/layout/axes/AxesMarks.h"
+
+#include <algorithm>
+
+namespace QmChart6 {
+
+namespace {
+
+/// Grid lines between categories stand no closer than this, in points.
+constexpr double ClosestGrid = 6;
+/// Short lines at the labelled categories, where others have none.
+constexpr double TickLength = 3;
+
+Part AxisPart(AxisId id) {
+    return {PartCode::Axis, static_cast<int>(id), 1};
+}
+
+bool HasGrid(const Axis& axis) {
+    return axis.AxisGrid.MajorPen.Style != PenStyle::None;
+}
+
+void GridAt(const LayoutContext& context, AxisId id, const Box& box, double place) {
+    const Stroke stroke = StrokeOf(context.chart.Plot.Axis(id).AxisGrid.MajorPen);
+    if (id == AxisId::X)
+        context.builder.AddLine(AxisPart(id), {place, box.top}, {place, box.bottom}, stroke);
+    else
+        context.builder.AddLine(AxisPart(id), {box.left, place}, {box.right, place}, stroke);
+}
+
+void UprightGrid(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const LinearMap& map,
+                 const Box& box) {
+    for (int i = 0; i < plan.ticks.count; ++i) GridAt(context, id, box, map.At(plan.ticks.At(i)));
+}
+
+void CategoryGrid(const LayoutContext& context, const AxesPlan& plan) {
+    const PlotArea& area = plan.area;
+    const int stride = area.slot >= ClosestGrid ? 1 : std::max(1, plan.categories.stride);
+    if (stride * area.slot < ClosestGrid) return;
+    const double edge = area.firstX > area.box.left ? area.box.left : area.firstX;
+    const double pitch = stride * area.slot;
+    const int lines = static_cast<int>((area.box.right + 1e-6 - edge) / pitch);
+    for (int line = 0; line <= lines; ++line) GridAt(context, AxisId::X, area.box, edge + line * pitch);
+}
+
+void AxisLine(const LayoutContext& context, AxisId id, Point from, Point to) {
+    const Pen& pen = context.chart.Plot.Axis(id).Pen;
+    if (pen.Style != PenStyle::None) context.builder.AddLine(AxisPart(id), from, to, StrokeOf(pen));
+}
+
+void UprightLabels(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const LinearMap& map,
+                   const Box& box) {
+    const Axis& axis = context.chart.Plot.Axis(id);
+    const bool atLeft = id == AxisId::Y;
+    const double x = atLeft ? box.left - AxesPlan::LabelGap(axis) : box.right + AxesPlan::LabelGap(axis);
+    for (int i = 0; i < plan.ticks.count; ++i) {
+        const ValueAxisPlan::Label& label = plan.labels[static_cast<std::size_t>(i)];
+        const double y = map.At(plan.ticks.At(i)) + (plan.line.ascent - plan.line.descent) / 2;
+        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), i + 1},
+                                {label.text,
+                                 axis.Labels.Item(1).VtFont,
+                                 {x, y},
+                                 atLeft ? TextAnchor::End : TextAnchor::Start,
+                                 0,
+                                 label.width,
+                                 plan.line.ascent,
+                                 plan.line.descent});
+    }
+}
+
+void AcrossLabels(const LayoutContext& context, const AxesPlan& plan) {
+    const Axis& axis = context.chart.Plot.Axis(AxisId::X);
+    const double y = plan.area.box.bottom + AxesPlan::LabelGap(axis) + plan.across.line.ascent;
+    for (int i = 0; i < plan.across.ticks.count; ++i) {
+        const ValueAxisPlan::Label& label = plan.across.labels[static_cast<std::size_t>(i)];
+        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(AxisId::X), i + 1},
+                                {label.text,
+                                 axis.Labels.Item(1).VtFont,
+                                 {plan.area.across.At(plan.across.ticks.At(i)), y},
+                                 TextAnchor::Middle,
+                                 0,
+                                 label.width,
+                                 plan.across.line.ascent,
+                                 plan.across.line.descent});
+    }
+}
+
+void CategoryAxis(const LayoutContext& context, const AxesPlan& plan) {
+    const Box& box = plan.area.box;
+    const Axis& axis = context.chart.Plot.Axis(AxisId::X);
+    if (plan.categories.stride > 1)
+        for (const CategoryLabelPlan::Label& label : plan.categories.labels) {
+            const double x = plan.area.CategoryX(label.category);
+            AxisLine(context, AxisId::X, {x, box.bottom}, {x, box.bottom + TickLength});
+        }
+    PlaceCategoryLabels(
+        context.builder, plan.categories, [&plan](int category) { return plan.area.CategoryX(category); },
+        box.bottom + AxesPlan::LabelGap(axis));
+}
+
+void Titles(const LayoutContext& context, const AxesPlan& plan, const Box& box) {
+    const Box& area = plan.area.box;
+    const auto part = [](AxisId id) { return Part{PartCode::AxisTitle, static_cast<int>(id), 1}; };
+    PlaceText(context.builder, part(AxisId::X), plan.xTitle, {area.left, area.bottom, area.right, box.bottom},
+              HorizontalAlignment::Center, VerticalAlignment::Bottom);
+    PlaceText(context.builder, part(AxisId::Y), plan.yTitle, {box.left, area.top, area.left, area.bottom},
+              HorizontalAlignment::Left, VerticalAlignment::Center);
+    PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryTitle,
+              {area.right, area.top, box.right, area.bottom}, HorizontalAlignment::Right,
+              VerticalAlignment::Center);
+}
+
+} // namespace
+
+void LayOutGrid(const LayoutContext& context, const PlotDemand& demand, const AxesPlan& plan) {
+    const Plot& plot = context.chart.Plot;
+    const Box& box = plan.area.box;
+    if (HasGrid(plot.Axis(AxisId::X))) {
+        if (demand.isXY)
+            for (int i = 0; i < plan.across.ticks.count; ++i)
+                GridAt(context, AxisId::X, box, plan.area.across.At(plan.across.ticks.At(i)));
+        else
+            CategoryGrid(context, plan);
+    }
+    // Where the second axis mirrors the first, its lines would cover the first one's.
+    const bool mirrors = !demand.usesSecondary && HasGrid(plot.Axis(AxisId::Y));
+    if (HasGrid(plot.Axis(AxisId::SecondaryY)) && !mirrors)
+        UprightGrid(context, AxisId::SecondaryY, plan.secondary, plan.area.secondary, box);
+    if (HasGrid(plot.Axis(AxisId::Y))) UprightGrid(context, AxisId::Y, plan.primary, plan.area.primary, box);
+}
+
+void LayOutAxes(const LayoutContext& context, const PlotDemand& demand, const AxesPlan& plan,
+                const Box& box) {
+    const Box& area = plan.area.box;
+    if (plan.showY) {
+        AxisLine(context, AxisId::Y, {area.left, area.top}, {area.left, area.bottom});
+        UprightLabels(context, AxisId::Y, plan.primary, plan.area.primary, area);
+    }
+    if (plan.showSecondary) {
+        AxisLine(context, AxisId::SecondaryY, {area.right, area.top}, {area.right, area.bottom});
+        UprightLabels(context, AxisId::SecondaryY, plan.secondary, plan.area.secondary, area);
+    }
+    if (plan.showX) {
+        const double y = demand.keepZero ? PlotArea::BaseOf(plan.area.primary) : area.bottom;
+        AxisLine(context, AxisId::X, {area.left, y}, {area.right, y});
+        if (demand.isXY)
+            AcrossLabels(context, plan);
+        else
+            CategoryAxis(context, plan);
+    }
+    Titles(context, plan, box);
+}
+
+} // namespace QmChart6

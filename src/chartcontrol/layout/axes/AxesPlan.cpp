@@ -1,0 +1,185 @@
+#include "chartcontrol/layout/axes/AxesPlan.h"
+
+#include <algorithm>
+
+namespace QmChart6 {
+
+namespace {
+
+constexpr double LabelGapShare = 0.55;
+constexpr double TitleGapShare = 0.55;
+/// Labels of categories take at most this part of the height; labels that hang over the left edge, of the
+/// width.
+constexpr double DeepestLabelShare = 0.33;
+constexpr double WidestOverhangShare = 0.25;
+constexpr int MostTitleLines = 2;
+/// Each pass fits the labels to the box that the pass before left. Margins only grow, so that it comes to
+/// rest.
+constexpr int MostPasses = 8;
+
+class Planner {
+public:
+    Planner(const LayoutContext& context, const PlotDemand& demand, const Box& box, Furniture furniture)
+        : context_(context), demand_(demand), box_(box), furniture_(furniture) {
+        plan_.showX = Shown(AxisId::X);
+        plan_.showY = Shown(AxisId::Y);
+        plan_.showSecondary = Shown(AxisId::SecondaryY);
+        const DataGrid& grid = context.chart.DataGrid;
+        named_ = context.chart.Plot.DataSeriesInRow ? grid.HasColumnLabels() : grid.HasRowLabels();
+    }
+
+    AxesPlan Run() {
+        BreakTitles();
+        const double titlesLeft = TitleRoom(AxisId::Y, plan_.yTitle.Extent().width);
+        const double titlesRight = TitleRoom(AxisId::SecondaryY, plan_.secondaryTitle.Extent().width);
+        const double titlesBelow = TitleRoom(AxisId::X, plan_.xTitle.Extent().height);
+        margins_ = {titlesLeft, HalfLabel(), titlesRight, titlesBelow + HalfLabel()};
+        for (int pass = 0; pass < MostPasses; ++pass) {
+            const Box before = margins_;
+            FitBox();
+            PlanUpright();
+            Grow(margins_.left, titlesLeft + LabelRoom(AxisId::Y, plan_.primary.LabelWidth()));
+            Grow(margins_.right, titlesRight + LabelRoom(AxisId::SecondaryY, plan_.secondary.LabelWidth()));
+            FitBox();
+            PlanAcross();
+            Grow(margins_.bottom, titlesBelow + std::max(HalfLabel(), LabelRoom(AxisId::X, AcrossDepth())));
+            LeaveRoomForOverhang(titlesLeft, titlesRight);
+            if (margins_ == before) break;
+        }
+        FitBox();
+        PlanUpright();
+        PlanAcross();
+        FitMaps();
+        return plan_;
+    }
+
+private:
+    [[nodiscard]] const Axis& AxisOf(AxisId id) const { return context_.chart.Plot.Axis(id); }
+    [[nodiscard]] bool Shown(AxisId id) const {
+        return furniture_ != Furniture::None && !AxisOf(id).AxisScale.Hide;
+    }
+
+    [[nodiscard]] TextBlock Title(AxisId id) const {
+        const AxisTitle& title = AxisOf(id).AxisTitle;
+        if (furniture_ != Furniture::All || AxisOf(id).AxisScale.Hide || !title.Visible) return {};
+        const bool across = id == AxisId::X;
+        const bool upright = title.TextLayout.Orientation != Orientation::Horizontal;
+        // A title that runs along its axis may be as long as the box; one across it only takes a third.
+        const double along = across ? box_.Width() : box_.Height();
+        const double aside = (across ? box_.Height() : box_.Width()) / 3;
+        const double length = across == upright ? aside : along;
+        return BreakText(title.Text, title.VtFont, title.TextLayout.Orientation, {length, MostTitleLines},
+                         context_.measurer);
+    }
+    void BreakTitles() {
+        plan_.xTitle = Title(AxisId::X);
+        plan_.yTitle = Title(AxisId::Y);
+        plan_.secondaryTitle = Title(AxisId::SecondaryY);
+    }
+
+    static void Grow(double& margin, double needed) { margin = std::max(margin, needed); }
+
+    [[nodiscard]] double TitleRoom(AxisId id, double depth) const {
+        return depth > 0 ? depth + AxesPlan::TitleGap(AxisOf(id)) : 0;
+    }
+    [[nodiscard]] double LabelRoom(AxisId id, double depth) const {
+        return Shown(id) && depth > 0 ? depth + AxesPlan::LabelGap(AxisOf(id)) : 0;
+    }
+    /// The end labels of the upright axes reach half their height beyond the plot.
+    [[nodiscard]] double HalfLabel() const {
+        double half = 0;
+        for (const AxisId id : {AxisId::Y, AxisId::SecondaryY})
+            if (Shown(id)) half = std::max(half, 0.6 * AxisOf(id).Labels.Item(1).VtFont.Size);
+        return half;
+    }
+
+    void FitBox() {
+        Box& box = plan_.area.box;
+        box = {box_.left + margins_.left, box_.top + margins_.top, box_.right - margins_.right,
+               box_.bottom - margins_.bottom};
+        box.right = std::max(box.right, box.left + 1);
+        box.bottom = std::max(box.bottom, box.top + 1);
+        const int count = std::max(1, context_.chart.CategoryCount());
+        plan_.area.slot = box.Width() / (demand_.onEnds ? count - 1 : count);
+        plan_.area.firstX = demand_.onEnds ? box.left : box.left + plan_.area.slot / 2;
+        plan_.area.pixelsPerPoint = context_.request.pixelsPerPoint;
+    }
+
+    void PlanUpright() {
+        const double length = plan_.area.box.Height();
+        plan_.primary =
+            PlanValueAxis(context_, AxisOf(AxisId::Y), {demand_.primary, demand_.keepZero, length, false});
+        // Without series of its own the second axis mirrors the first.
+        plan_.secondary = PlanValueAxis(
+            context_, AxisOf(AxisId::SecondaryY),
+            {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
+    }
+
+    void PlanAcross() {
+        if (demand_.isXY) {
+            plan_.across = PlanValueAxis(context_, AxisOf(AxisId::X),
+                                         {demand_.across, false, plan_.area.box.Width(), true});
+            return;
+        }
+        if (!plan_.showX || !named_) return;
+        const Chart& chart = context_.chart;
+        plan_.categories = PlanCategoryLabels(
+            {chart.CategoryCount(), [&chart](int category) { return chart.CategoryName(category + 1); },
+             plan_.area.slot, DeepestLabelShare * box_.Height()},
+            AxisOf(AxisId::X).Labels.Item(1).VtFont, context_.measurer);
+    }
+
+    [[nodiscard]] double AcrossDepth() const {
+        return demand_.isXY ? plan_.across.line.Height() : plan_.categories.Depth();
+    }
+
+    /// Labels at the ends of the horizontal axis may reach beyond the plot, but not beyond the box.
+    void LeaveRoomForOverhang(double titlesLeft, double titlesRight) {
+        double left = 0;
+        double right = 0;
+        if (demand_.isXY && plan_.showX) {
+            left = plan_.across.labels.front().width / 2;
+            right = plan_.across.labels.back().width / 2;
+        }
+        for (const CategoryLabelPlan::Label& label : plan_.categories.labels) {
+            const double x = plan_.area.CategoryX(label.category);
+            left = std::max(left, plan_.categories.ReachLeft(label) - (x - plan_.area.box.left));
+            right = std::max(right, plan_.categories.ReachRight(label) - (plan_.area.box.right - x));
+        }
+        const double most = WidestOverhangShare * box_.Width();
+        Grow(margins_.left, titlesLeft + std::min(left, most));
+        Grow(margins_.right, titlesRight + std::min(right, most));
+    }
+
+    void FitMaps() {
+        PlotArea& area = plan_.area;
+        area.primary = plan_.primary.Map(area.box.bottom, area.box.top);
+        area.secondary = plan_.secondary.Map(area.box.bottom, area.box.top);
+        area.across = plan_.across.Map(area.box.left, area.box.right);
+    }
+
+    const LayoutContext& context_;
+    const PlotDemand& demand_;
+    Box box_;
+    Furniture furniture_;
+    bool named_ = false; // whether any category has a label
+    Box margins_;
+    AxesPlan plan_;
+};
+
+} // namespace
+
+double AxesPlan::LabelGap(const Axis& axis) {
+    return LabelGapShare * axis.Labels.Item(1).VtFont.Size;
+}
+
+double AxesPlan::TitleGap(const Axis& axis) {
+    return TitleGapShare * axis.AxisTitle.VtFont.Size;
+}
+
+AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const Box& box,
+                  Furniture furniture) {
+    return Planner(context, demand, box, furniture).Run();
+}
+
+} // namespace QmChart6

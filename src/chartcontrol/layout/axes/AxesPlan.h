@@ -1,0 +1,60 @@
+#pragma once
+
+#include "chartcontrol/layout/axes/CategoryLabels.h"
+#include "chartcontrol/layout/axes/PlotArea.h"
+#include "chartcontrol/layout/axes/ValueAxis.h"
+#include "chartcontrol/layout/data/LayoutContext.h"
+#include "chartcontrol/layout/data/PlottedValues.h"
+
+#include <vector>
+
+namespace QmChart6 {
+
+/// What the series of a plot with axes ask of its axes.
+struct PlotDemand {
+    bool isXY = false;
+    /// Points stand on the ends of the axis, as areas do that have it to themselves.
+    bool onEnds = false;
+    bool keepZero = false;
+    bool usesSecondary = false;
+    ValueRange across;
+    ValueRange primary;
+    ValueRange secondary;
+    std::vector<int> bars;
+    std::vector<int> areas;
+    std::vector<int> others;
+
+    [[nodiscard]] bool HasValues() const { return !primary.IsEmpty() || !secondary.IsEmpty(); }
+};
+
+PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted);
+
+/// Whether the first and the last category stand on the ends of the axis: where all series are areas.
+bool StandsOnEnds(const Chart& chart);
+
+/// How much of the axes' furniture is drawn; a small chart does without some.
+enum class Furniture { All, NoTitles, None };
+
+/// Titles, labels and the plot's box, fitted to each other within a box.
+struct AxesPlan {
+    PlotArea area;
+    ValueAxisPlan primary;
+    ValueAxisPlan secondary;
+    ValueAxisPlan across;
+    CategoryLabelPlan categories;
+    TextBlock xTitle;
+    TextBlock yTitle;
+    TextBlock secondaryTitle;
+    bool showX = false;
+    bool showY = false;
+    bool showSecondary = false;
+
+    /// From the plot's edge to the labels, and from the labels to the title.
+    static double LabelGap(const Axis& axis);
+    static double TitleGap(const Axis& axis);
+};
+
+AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const Box& box,
+                  Furniture furniture);
+
+} // namespace QmChart6

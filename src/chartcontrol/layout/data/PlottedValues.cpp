@@ -1,0 +1,156 @@
+#include "chartcontrol/layout/data/PlottedValues.h"
+
+#include "chartcontrol/layout/data/SeriesLook.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace QmChart6 {
+
+namespace {
+
+/// What the shares of a percent scale are shares of, by the basis: the largest or the sum of absolute values.
+class Bases {
+public:
+    Bases(const Chart& chart, int series, int categories)
+        : rows_(static_cast<std::size_t>(categories)), columns_(static_cast<std::size_t>(series)) {
+        for (int number = 1; number <= series; ++number) {
+            const Values values = chart.SeriesValues(number);
+            for (int category = 0; category < categories; ++category)
+                if (!std::isnan(values[category])) Add(number, category, std::abs(values[category]));
+        }
+    }
+
+    [[nodiscard]] double Of(PercentBasis basis, int number, int category) const {
+        const Basis& row = rows_[static_cast<std::size_t>(category)];
+        const Basis& column = columns_[static_cast<std::size_t>(number) - 1];
+        switch (basis) {
+        case PercentBasis::MaximumOfChart:
+            return all_.largest;
+        case PercentBasis::MaximumOfRow:
+            return row.largest;
+        case PercentBasis::MaximumOfColumn:
+            return column.largest;
+        case PercentBasis::SumOfChart:
+            return all_.sum;
+        case PercentBasis::SumOfRow:
+            return row.sum;
+        case PercentBasis::SumOfColumn:
+            return column.sum;
+        }
+        return all_.largest;
+    }
+
+private:
+    struct Basis {
+        double largest = 0;
+        double sum = 0;
+
+        void Add(double size) {
+            largest = std::max(largest, size);
+            sum += size;
+        }
+    };
+
+    void Add(int number, int category, double size) {
+        rows_[static_cast<std::size_t>(category)].Add(size);
+        columns_[static_cast<std::size_t>(number) - 1].Add(size);
+        all_.Add(size);
+    }
+
+    std::vector<Basis> rows_;
+    std::vector<Basis> columns_;
+    Basis all_;
+};
+
+AxisId AxisOf(const Series& series) {
+    return series.SecondaryAxis ? AxisId::SecondaryY : AxisId::Y;
+}
+
+/// Sums of shares that miss the whole by rounding are the whole.
+double Whole(double share) {
+    return std::abs(std::abs(share) - 1) < 1e-9 ? std::copysign(1.0, share) : share;
+}
+
+} // namespace
+
+PlottedValues::PlottedValues(const Chart& chart)
+    : chart_(chart), series_(chart.Plot.SeriesCollection.Count()), categories_(chart.CategoryCount()) {
+    if (chart.chartType() == ChartType::XY2D || chart.chartType() == ChartType::Pie2D) return;
+    stacked_ = chart.Stacking;
+    bool shares = false;
+    for (int number = 1; number <= series_; ++number) shares = shares || IsShare(number);
+    if (!shares && !stacked_) return;
+    tops_.resize(static_cast<std::size_t>(series_) * static_cast<std::size_t>(categories_));
+    for (int number = 1; number <= series_; ++number) {
+        const Values values = chart.SeriesValues(number);
+        for (int category = 0; category < categories_; ++category)
+            At(tops_, number, category) = values[category];
+    }
+    if (shares) ToShares();
+    if (stacked_) Stack();
+}
+
+bool PlottedValues::IsShare(int series) const {
+    return chart_.Plot.Axis(AxisOf(chart_.Plot.SeriesCollection(series))).AxisScale.Type ==
+           ScaleType::Percent;
+}
+
+Values PlottedValues::Top(int series) const {
+    if (tops_.empty()) return chart_.SeriesValues(series);
+    return {tops_.data() + static_cast<std::ptrdiff_t>(series - 1) * categories_, 1, categories_, nullptr,
+            nullptr};
+}
+
+Values PlottedValues::Base(int series) const {
+    if (bases_.empty()) return {};
+    return {bases_.data() + static_cast<std::ptrdiff_t>(series - 1) * categories_, 1, categories_, nullptr,
+            nullptr};
+}
+
+double& PlottedValues::At(std::vector<double>& table, int series, int category) const {
+    return table[static_cast<std::size_t>(series - 1) * static_cast<std::size_t>(categories_) +
+                 static_cast<std::size_t>(category)];
+}
+
+void PlottedValues::ToShares() {
+    const Bases bases(chart_, series_, categories_);
+    for (int number = 1; number <= series_; ++number) {
+        if (!IsShare(number)) continue;
+        const PercentBasis basis =
+            chart_.Plot.Axis(AxisOf(chart_.Plot.SeriesCollection(number))).AxisScale.PercentBasis;
+        for (int category = 0; category < categories_; ++category) {
+            double& value = At(tops_, number, category);
+            const double whole = bases.Of(basis, number, category);
+            if (whole > 0) value = Whole(value / whole);
+        }
+    }
+}
+
+void PlottedValues::Stack() {
+    // Series pile up by axis and by kind of mark; what is negative piles up downwards.
+    constexpr std::size_t kinds = 6;
+    constexpr std::size_t axes = 2;
+    struct Pile {
+        double up = 0;
+        double down = 0;
+    };
+    bases_.resize(tops_.size());
+    for (int category = 0; category < categories_; ++category) {
+        std::array<Pile, kinds * axes> piles{};
+        for (int number = 1; number <= series_; ++number) {
+            const std::size_t axis = chart_.Plot.SeriesCollection(number).SecondaryAxis ? 1 : 0;
+            Pile& pile = piles[static_cast<std::size_t>(MarkKindOf(chart_, number)) * axes + axis];
+            double& top = At(tops_, number, category);
+            const double value = top;
+            double& level = value < 0 ? pile.down : pile.up;
+            At(bases_, number, category) = level;
+            if (std::isnan(value)) continue;
+            level += value;
+            top = IsShare(number) ? Whole(level) : level;
+        }
+    }
+}
+
+} // namespace QmChart6

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "chartcontrol/layout/data/LayoutContext.h"
+
+namespace QmChart6 {
+
+/// Lays out a plot with axes within a box: axis titles and labels, grid, and the marks of every series.
+void LayOutCartesian(const LayoutContext& context, const Box& box);
+
+} // namespace QmChart6

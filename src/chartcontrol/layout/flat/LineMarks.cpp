@@ -1,0 +1,27 @@
+#include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/flat/MarkerMarks.h"
+#include "chartcontrol/layout/flat/Marks.h"
+#include "chartcontrol/layout/flat/Runs.h"
+
+namespace QmChart6 {
+
+void LayOutLine(const PlotContext& context, int number) {
+    const Series& series = context.chart.Plot.SeriesCollection(number);
+    const LinearMap& map = context.area.MapOf(series);
+    const LineLook look = LineLookOf(series);
+    const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
+    const Runs& runs = *collected;
+    for (std::size_t run = 0; look.line && run < runs.Count(); ++run) {
+        if (runs.starts[run + 1] - runs.starts[run] < 2) continue;
+        for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
+            context.builder.AddPoint(
+                {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
+        context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
+    }
+    if (look.markers)
+        LayOutMarkers(context, number, runs);
+    else
+        LayOutLoneSamples(context, number, runs);
+}
+
+} // namespace QmChart6

@@ -1,0 +1,99 @@
+#include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/data/XYPairs.h"
+#include "chartcontrol/layout/flat/Marks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace QmChart6 {
+
+namespace {
+
+/// One bit for every device pixel of the plot: of the markers that fall into the same pixel, one is drawn.
+class PixelSet {
+public:
+    explicit PixelSet(const PlotArea& area)
+        : left_(area.box.left), top_(area.box.top), scale_(area.pixelsPerPoint),
+          columns_(static_cast<unsigned>(std::ceil(area.box.Width() * scale_)) + 1),
+          rows_(static_cast<unsigned>(std::ceil(area.box.Height() * scale_)) + 1),
+          taken_(static_cast<std::size_t>(columns_) * rows_ / BitsOfWord + 1) {}
+
+    /// Whether the point's pixel was free; it no longer is. Points outside the plot are not placed.
+    bool Take(Point point) {
+        const double across = (point.x - left_) * scale_;
+        const double down = (point.y - top_) * scale_;
+        if (!(across >= 0 && down >= 0 && across < columns_ && down < rows_)) return false;
+        const std::size_t pixel =
+            static_cast<std::size_t>(down) * columns_ + static_cast<std::size_t>(across);
+        std::uint64_t& word = taken_[pixel / BitsOfWord];
+        const std::uint64_t bit = std::uint64_t{1} << (pixel % BitsOfWord);
+        if ((word & bit) != 0) return false;
+        word |= bit;
+        return true;
+    }
+
+private:
+    static constexpr std::size_t BitsOfWord = 64;
+
+    double left_;
+    double top_;
+    double scale_;
+    unsigned columns_;
+    unsigned rows_;
+    std::vector<std::uint64_t> taken_;
+};
+
+/// Runs of consecutive points closer than half a device pixel are one point of the line.
+void AddLine(const PlotContext& context, int number, const XYPairs& pairs) {
+    const Series& series = context.chart.Plot.SeriesCollection(number);
+    const LinearMap& map = context.area.MapOf(series);
+    const double near = 0.5 / context.area.pixelsPerPoint;
+    Point before{};
+    for (int i = 0; i <= pairs.Count(); ++i) {
+        if (i == pairs.Count() || !pairs.Has(i)) {
+            if (context.builder.PendingPoints() > 1)
+                context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
+            else
+                context.builder.DropPendingPoints();
+            continue;
+        }
+        const Point point{context.area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
+        const bool same = context.builder.PendingPoints() > 0 && std::abs(point.x - before.x) < near &&
+                          std::abs(point.y - before.y) < near;
+        if (same) continue;
+        context.builder.AddPoint(point);
+        before = point;
+    }
+}
+
+void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
+    const Series& series = context.chart.Plot.SeriesCollection(number);
+    const LinearMap& map = context.area.MapOf(series);
+    PixelSet pixels(context.area);
+    // The maps' factors are worked out once: there may be a great many points.
+    const LinearMap& across = context.area.across;
+    const double factorX = across.Factor();
+    const double factorY = map.Factor();
+    const int count = pairs.Count();
+    for (int i = 0; i < count; ++i) {
+        // A missing value makes a place that is not a number, which is in no pixel.
+        const Point point{across.from + (pairs.X(i) - across.low) * factorX,
+                          map.from + (pairs.Y(i) - map.low) * factorY};
+        if (pixels.Take(point)) context.builder.AddPoint(point);
+    }
+    const DataPoint& look = series.DataPoints.Item(DataPoints::All);
+    context.builder.AddMarkers({PartCode::Series, number}, MarkerStyleOf(series, number), look.Marker.Size,
+                               SolidFill(look.Brush.FillColor));
+}
+
+} // namespace
+
+void LayOutXY(const PlotContext& context, int number) {
+    const XYPairs pairs(context.chart, number);
+    const LineLook look = LineLookOf(context.chart.Plot.SeriesCollection(number));
+    if (look.line) AddLine(context, number, pairs);
+    if (look.markers) AddMarkers(context, number, pairs);
+}
+
+} // namespace QmChart6

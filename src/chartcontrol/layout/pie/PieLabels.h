@@ -1,0 +1,40 @@
+#pragma once
+
+#include "chartcontrol/layout/data/LayoutContext.h"
+#include "chartcontrol/layout/text/Occupancy.h"
+#include "chartcontrol/layout/text/TextBlock.h"
+
+#include <vector>
+
+namespace QmChart6 {
+
+/// A slice's label: its text, and the middle of its slice in turns clockwise from 12 o'clock.
+struct PieLabel {
+    Part part;
+    QString text;
+    double turn = 0;
+    /// The slice's part of the pie; when there is no room, the labels of the smallest slices go first.
+    double share = 0;
+    const DataPoint* look = nullptr;
+};
+
+/// The circle that labels belong to, and the box that they must not leave.
+struct PieCircle {
+    Point center;
+    double radius = 0;
+    Box cell;
+};
+
+/// How far the outside labels of a pie reach beyond it, to each side and above or below.
+Size OutsideReach(const std::vector<PieLabel>& labels, const TextMeasurer& measurer);
+
+/// Labels on their slices. Gives how many had no room.
+int PlaceInside(const LayoutContext& context, const std::vector<PieLabel>& labels, const PieCircle& circle,
+                Occupancy& taken);
+
+/// Labels round the pie: beside their slice where they can be, moved up or down where they would meet, with
+/// lines that do not cross. Gives how many had no room.
+int PlaceOutside(const LayoutContext& context, const std::vector<PieLabel>& labels, const PieCircle& circle,
+                 Occupancy& taken);
+
+} // namespace QmChart6

@@ -1,0 +1,268 @@
+#include "chartcontrol/layout/space/SpacePlan.h"
+
+#include "chartcontrol/layout/data/SeriesLook.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace QmChart6 {
+
+namespace {
+
+/// Space is one unit wide. Its depth goes by the number of rows, within these; its height is fitted to the
+/// page.
+constexpr double ShallowestDepth = 0.1;
+constexpr double DeepestDepth = 0.6;
+constexpr double LowestHeight = 0.5;
+constexpr double GreatestHeight = 2.0;
+constexpr int HeightSteps = 24;
+/// Series names along the depth take at most this part of the width.
+constexpr double WidestNameShare = 0.2;
+constexpr double LabelGapShare = 0.55;
+constexpr double TitleGapShare = 0.55;
+/// Room for the labels of the categories below the plot, as a part of the height.
+constexpr double LabelDepthShare = 0.25;
+/// Rounds in which labels and space are fitted to each other.
+constexpr int MostRounds = 3;
+
+class Planner {
+public:
+    Planner(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+            const Box& box, Furniture furniture)
+        : context_(context), demand_(demand), plotted_(plotted), box_(box) {
+        plan_.furniture = furniture;
+    }
+
+    SpacePlan Run() {
+        PlaceRows();
+        PlaceColumns();
+        const double depth = plan_.rowDepth * static_cast<double>(plan_.rows.size());
+        plan_.size = {1, 1, depth};
+        PlanValues(0.6 * box_.Height());
+        labelDepth_ = LabelDepth(0.7 * box_.Width() / std::max(1, context_.chart.CategoryCount()));
+        for (int round = 0; round < MostRounds; ++round) {
+            FitHeight(RoomForSpace());
+            const double needed = LabelDepth(CategoryPitch());
+            if (needed <= labelDepth_ + 0.01) break;
+            labelDepth_ = needed;
+        }
+        PlanValues(plan_.size.y * plan_.scale);
+        plan_.primaryMap = plan_.primary.Map(0, plan_.size.y);
+        plan_.secondaryMap = plan_.secondary.Map(0, plan_.size.y);
+        return plan_;
+    }
+
+private:
+    [[nodiscard]] const Axis& AxisOf(AxisId id) const { return context_.chart.Plot.Axis(id); }
+    [[nodiscard]] bool Shown(AxisId id) const {
+        return plan_.furniture != Furniture::None && !AxisOf(id).AxisScale.Hide;
+    }
+
+    /// Each series has a row of its own; piled ones share a row by axis and kind of mark.
+    void PlaceRows() {
+        const SeriesCollection& all = context_.chart.Plot.SeriesCollection;
+        std::vector<std::pair<MarkKind, bool>> piles;
+        for (int number = 1; number <= all.Count(); ++number) {
+            if (!plotted_.IsStacked()) {
+                plan_.rowOfSeries.push_back(number - 1);
+                continue;
+            }
+            const std::pair<MarkKind, bool> pile{MarkKindOf(context_.chart, number),
+                                                 all(number).SecondaryAxis};
+            auto found = std::find(piles.begin(), piles.end(), pile);
+            if (found == piles.end()) found = piles.insert(piles.end(), pile);
+            plan_.rowOfSeries.push_back(static_cast<int>(found - piles.begin()));
+        }
+        const int rows = plotted_.IsStacked() ? static_cast<int>(piles.size()) : all.Count();
+        const int columns = std::max(1, context_.chart.CategoryCount());
+        const double depth =
+            std::clamp(static_cast<double>(std::max(1, rows)) / columns, ShallowestDepth, DeepestDepth);
+        plan_.rowDepth = depth / std::max(1, rows);
+        for (int row = 0; row < std::max(1, rows); ++row) plan_.rows.push_back((row + 0.5) * plan_.rowDepth);
+    }
+
+    /// A column for each category, or for each device pixel where there are more.
+    void PlaceColumns() {
+        const int count = context_.chart.CategoryCount();
+        const int most = std::max(1, static_cast<int>(box_.Width() * context_.request.pixelsPerPoint));
+        const int columns = std::min(count, most);
+        plan_.slot = 1.0 / std::max(1, columns);
+        for (int column = 0; column < columns; ++column) {
+            plan_.columns.push_back((column + 0.5) * plan_.slot);
+            plan_.categories.push_back(static_cast<int>(static_cast<std::int64_t>(column) * count / columns));
+        }
+    }
+
+    void PlanValues(double length) {
+        plan_.primary =
+            PlanValueAxis(context_, AxisOf(AxisId::Y), {demand_.primary, demand_.keepZero, length, false});
+        plan_.secondary = PlanValueAxis(
+            context_, AxisOf(AxisId::SecondaryY),
+            {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
+    }
+
+    [[nodiscard]] TextBlock Title(AxisId id, double length) const {
+        const AxisTitle& title = AxisOf(id).AxisTitle;
+        if (plan_.furniture != Furniture::All || AxisOf(id).AxisScale.Hide || !title.Visible) return {};
+        return BreakText(title.Text, title.VtFont, title.TextLayout.Orientation, {length, 1},
+                         context_.measurer);
+    }
+
+    [[nodiscard]] Box RoomForSpace() {
+        plan_.xTitle = Title(AxisId::X, 0.6 * box_.Width());
+        plan_.yTitle = Title(AxisId::Y, box_.Height());
+        plan_.zTitle = Title(AxisId::Z, 0.25 * box_.Width());
+        Box room = box_;
+        const auto gap = [&](AxisId id) { return LabelGapShare * AxisOf(id).Labels.Item(1).VtFont.Size; };
+        const auto title = [&](const TextBlock& block, double extent) {
+            return block.IsEmpty() ? 0 : extent + TitleGapShare * block.font.Size;
+        };
+        room.left += title(plan_.yTitle, plan_.yTitle.Extent().width);
+        if (Shown(AxisId::Y)) room.left += plan_.primary.LabelWidth() + gap(AxisId::Y);
+        if (Shown(AxisId::SecondaryY)) room.right -= plan_.secondary.LabelWidth() + gap(AxisId::SecondaryY);
+        if (Shown(AxisId::Z) && plan_.rows.size() > 1 && !plotted_.IsStacked()) {
+            plan_.zLabelWidth = NameWidth();
+            room.right -= plan_.zLabelWidth + gap(AxisId::Z);
+        }
+        if (Shown(AxisId::X)) LeaveRoomForCategories(room, gap(AxisId::X));
+        room.bottom -= std::max(title(plan_.xTitle, plan_.xTitle.Extent().height),
+                                title(plan_.zTitle, plan_.zTitle.Extent().height));
+        room.top += 0.6 * AxisOf(AxisId::Y).Labels.Item(1).VtFont.Size;
+        room.right = std::max(room.right, room.left + 1);
+        room.bottom = std::max(room.bottom, room.top + 1);
+        return room;
+    }
+
+    /// Labels below a level edge take height; beside a sloping one they reach to the side that it falls from.
+    void LeaveRoomForCategories(Box& room, double gap) {
+        plan_.view.assign(1, SpaceView(context_.chart.Plot, plan_.size));
+        const double slope = plan_.CategorySlope();
+        if (std::abs(slope) < LeastSlope) {
+            room.bottom -= labelDepth_ + gap;
+            return;
+        }
+        plan_.xLabelWidth = CategoryWidth();
+        room.bottom -=
+            context_.measurer.Measure(QStringLiteral("x"), AxisOf(AxisId::X).Labels.Item(1).VtFont).Height() +
+            gap;
+        if (slope > 0)
+            room.left = std::max(room.left, box_.left + plan_.xLabelWidth + gap);
+        else
+            room.right = std::min(room.right, box_.right - plan_.xLabelWidth - gap);
+    }
+
+    [[nodiscard]] double CategoryWidth() const {
+        double width = 0;
+        const Font& font = AxisOf(AxisId::X).Labels.Item(1).VtFont;
+        const int count = context_.chart.CategoryCount();
+        for (int category = 1; category <= count; category += std::max(1, count / 100))
+            width =
+                std::max(width, context_.measurer.Measure(context_.chart.CategoryName(category), font).width);
+        return std::min(width, WidestNameShare * box_.Width());
+    }
+
+    [[nodiscard]] double NameWidth() const {
+        double width = 0;
+        const Font& font = AxisOf(AxisId::Z).Labels.Item(1).VtFont;
+        const int count = std::min(context_.chart.Plot.SeriesCollection.Count(), 100);
+        for (int number = 1; number <= count; ++number)
+            width = std::max(width, context_.measurer.Measure(context_.chart.SeriesName(number), font).width);
+        return std::min(width, WidestNameShare * box_.Width());
+    }
+
+    /// From one category to the next along their edge on the page.
+    [[nodiscard]] double CategoryPitch() const {
+        const double z = plan_.CategoryEdgeZ();
+        const double length = std::abs(plan_.Page({plan_.size.x, 0, z}).x - plan_.Page({0, 0, z}).x);
+        return length / std::max(1, context_.chart.CategoryCount());
+    }
+
+    /// How far the labels of the categories reach down when they stand so far apart.
+    [[nodiscard]] double LabelDepth(double pitch) const {
+        const Font& font = AxisOf(AxisId::X).Labels.Item(1).VtFont;
+        const Chart& chart = context_.chart;
+        const CategoryLabelPlan labels = PlanCategoryLabels(
+            {chart.CategoryCount(), [&](int category) { return chart.CategoryName(category + 1); }, pitch,
+             LabelDepthShare * box_.Height()},
+            font, context_.measurer);
+        return labels.Depth();
+    }
+
+    /// The flat picture's box for the present height.
+    [[nodiscard]] Box Flat() {
+        plan_.view.assign(1, SpaceView(context_.chart.Plot, plan_.size));
+        Box flat{1e300, 1e300, -1e300, -1e300};
+        for (const double x : {0.0, plan_.size.x})
+            for (const double y : {0.0, plan_.size.y})
+                for (const double z : {0.0, plan_.size.z}) {
+                    const Point corner = plan_.View().Flat({x, y, z});
+                    flat = {std::min(flat.left, corner.x), std::min(flat.top, corner.y),
+                            std::max(flat.right, corner.x), std::max(flat.bottom, corner.y)};
+                }
+        return flat;
+    }
+
+    /// Halves the interval of heights until the flat picture has the room's proportions.
+    void FitHeight(const Box& room) {
+        double low = LowestHeight;
+        double high = GreatestHeight;
+        for (int step = 0; step < HeightSteps; ++step) {
+            plan_.size.y = (low + high) / 2;
+            const Box flat = Flat();
+            (flat.Height() * room.Width() > room.Height() * flat.Width() ? high : low) = plan_.size.y;
+        }
+        const Box flat = Flat();
+        plan_.scale = std::min(room.Width() / std::max(flat.Width(), 1e-9),
+                               room.Height() / std::max(flat.Height(), 1e-9));
+        plan_.origin = {room.Center().x - flat.Center().x * plan_.scale,
+                        room.Center().y - flat.Center().y * plan_.scale};
+    }
+
+    const LayoutContext& context_;
+    const PlotDemand& demand_;
+    const PlottedValues& plotted_;
+    Box box_;
+    double labelDepth_ = 0; // of the categories, below a level edge
+    SpacePlan plan_;
+};
+
+} // namespace
+
+Size SpacePlan::Extent() const {
+    Box box{1e300, 1e300, -1e300, -1e300};
+    for (const double x : {0.0, size.x})
+        for (const double y : {0.0, size.y})
+            for (const double z : {0.0, size.z}) {
+                const Point corner = Page({x, y, z});
+                box = {std::min(box.left, corner.x), std::min(box.top, corner.y),
+                       std::max(box.right, corner.x), std::max(box.bottom, corner.y)};
+            }
+    return {box.Width(), box.Height()};
+}
+
+double SpacePlan::CategoryEdgeZ() const {
+    const double front = Page({size.x / 2, 0, 0}).y;
+    const double back = Page({size.x / 2, 0, size.z}).y;
+    return back > front + 1e-9 ? size.z : 0;
+}
+
+double SpacePlan::RowEdgeX() const {
+    const double left = Page({0, 0, size.z / 2}).y;
+    const double right = Page({size.x, 0, size.z / 2}).y;
+    if (std::abs(left - right) > 1e-9) return right > left ? size.x : 0;
+    return View().IsBeyondX(size.x / 2) ? size.x : 0;
+}
+
+double SpacePlan::CategorySlope() const {
+    const Point left = Page({0, 0, CategoryEdgeZ()});
+    const Point right = Page({size.x, 0, CategoryEdgeZ()});
+    const double width = right.x - left.x;
+    return (right.y - left.y) / (std::abs(width) < 1e-9 ? 1e-9 : width);
+}
+
+SpacePlan PlanSpace(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                    const Box& box, Furniture furniture) {
+    return Planner(context, demand, plotted, box, furniture).Run();
+}
+
+} // namespace QmChart6

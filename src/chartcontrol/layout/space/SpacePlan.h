@@ -1,0 +1,68 @@
+#pragma once
+
+#include "chartcontrol/layout/axes/AxesPlan.h"
+#include "chartcontrol/layout/space/SpaceView.h"
+
+#include <vector>
+
+namespace QmChart6 {
+
+/// The finished geometry of a 3D plot: where rows and columns stand in space, and how space comes onto the
+/// page.
+struct SpacePlan {
+    SpacePoint size;
+    std::vector<SpaceView> view; // one; a view has no empty state
+    /// Page points to a unit of space, and where the page's origin of the flat picture is.
+    double scale = 1;
+    Point origin;
+
+    /// The middle of each category along x and of each row along z, and the room of one.
+    std::vector<double> columns;
+    double slot = 1;
+    /// Which categories, from 0, the columns stand for: fewer than there are where they are thinner than a
+    /// pixel.
+    std::vector<int> categories;
+    std::vector<double> rows;
+    double rowDepth = 1;
+    /// The row that each series stands in, by its number - 1; -1 for those not drawn.
+    std::vector<int> rowOfSeries;
+
+    ValueAxisPlan primary;
+    ValueAxisPlan secondary;
+    LinearMap primaryMap; // values to y in space
+    LinearMap secondaryMap;
+    TextBlock xTitle;
+    TextBlock yTitle;
+    TextBlock zTitle;
+    double zLabelWidth = 0;
+    /// The widest label of a category beside a sloping edge.
+    double xLabelWidth = 0;
+    Furniture furniture = Furniture::All;
+
+    [[nodiscard]] const SpaceView& View() const { return view.front(); }
+    [[nodiscard]] Point Page(SpacePoint point) const {
+        const Point flat = View().Flat(point);
+        return {origin.x + flat.x * scale, origin.y + flat.y * scale};
+    }
+    /// How large the whole space is on the page.
+    [[nodiscard]] Size Extent() const;
+    /// The edges of the floor that carry the labels of the categories and of the rows: those lowest on the
+    /// page.
+    [[nodiscard]] double CategoryEdgeZ() const;
+    [[nodiscard]] double RowEdgeX() const;
+    /// How far the categories' edge falls to the right on the page, as a part of its width; 0 for a level
+    /// one.
+    [[nodiscard]] double CategorySlope() const;
+
+    [[nodiscard]] const LinearMap& MapOf(const Series& series) const {
+        return series.SecondaryAxis ? secondaryMap : primaryMap;
+    }
+};
+
+/// From so much slope on, labels stand beside the edge of the categories, not below it.
+inline constexpr double LeastSlope = 0.08;
+
+SpacePlan PlanSpace(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                    const Box& box, Furniture furniture);
+
+} // namespace QmChart6

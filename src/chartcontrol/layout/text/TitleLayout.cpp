@@ -1,0 +1,116 @@
+#include "chartcontrol/layout/text/TitleLayout.h"
+
+#include "chartcontrol/layout/text/BackdropLayout.h"
+#include "chartcontrol/layout/text/Edges.h"
+#include "chartcontrol/layout/text/TextBlock.h"
+
+#include <algorithm>
+#include <array>
+
+namespace QmChart6 {
+
+namespace {
+
+/// Titles get at most this part of the free height, or width when they stand at a side.
+constexpr double LargestShare = 1.0 / 3;
+constexpr int MostLines = 4;
+/// Room between the title and what it stands beside, as a part of its font's size.
+constexpr double GapShare = 0.7;
+
+Box BoxOf(const CoordinateRect& rect) {
+    return {std::min(rect.Min.X, rect.Max.X), std::min(rect.Min.Y, rect.Max.Y),
+            std::max(rect.Min.X, rect.Max.X), std::max(rect.Min.Y, rect.Max.Y)};
+}
+
+bool IsUpright(const Title& title) {
+    return title.TextLayout.Orientation != Orientation::Horizontal;
+}
+
+TextBlock Break(const LayoutContext& context, const Title& title, const Box& room, double share) {
+    const bool upright = IsUpright(title);
+    const double length = upright ? room.Height() : room.Width();
+    const double depth = share * (upright ? room.Width() : room.Height());
+    const double leading = context.measurer.Measure(QStringLiteral("x"), title.VtFont).Height();
+    const int lines = std::clamp(static_cast<int>(depth / std::max(1.0, leading)), 1, MostLines);
+    return BreakText(title.Text, title.VtFont, title.TextLayout.Orientation, {length, lines},
+                     context.measurer);
+}
+
+void Place(const LayoutContext& context, const Title& title, PartCode code, const TextBlock& block,
+           const Box& box) {
+    LayOutBackdrop(context.builder, {code}, title.Backdrop, box);
+    PlaceText(context.builder, {code}, block, box, title.TextLayout.HorzAlignment,
+              title.TextLayout.VertAlignment);
+}
+
+/// Where a corner title stands along the edge that it was given.
+Box Along(const Box& edge, Side side, LocationType location, const Size& extent) {
+    Box box = edge;
+    if (side == Side::Left || side == Side::Right) {
+        if (location == LocationType::TopLeft || location == LocationType::TopRight)
+            box.bottom = std::min(edge.bottom, edge.top + extent.height);
+        if (location == LocationType::BottomLeft || location == LocationType::BottomRight)
+            box.top = std::max(edge.top, edge.bottom - extent.height);
+    } else {
+        if (location == LocationType::TopLeft || location == LocationType::BottomLeft)
+            box.right = std::min(edge.right, edge.left + extent.width);
+        if (location == LocationType::TopRight || location == LocationType::BottomRight)
+            box.left = std::max(edge.left, edge.right - extent.width);
+    }
+    return box;
+}
+
+/// Keeps the rest of the chart off a title that was placed by hand right at a side, as it would be if layout
+/// had put it there.
+void KeepOff(Box& free, const Box& box, double gap) {
+    struct Need {
+        Side side;
+        double near; // how far from the side the title begins
+        double depth;
+        double most;
+    };
+    const double width = LargestShare * free.Width();
+    const double height = LargestShare * free.Height();
+    const std::array needs{Need{Side::Top, box.top - free.top, box.bottom - free.top, height},
+                           Need{Side::Bottom, free.bottom - box.bottom, free.bottom - box.top, height},
+                           Need{Side::Left, box.left - free.left, box.right - free.left, width},
+                           Need{Side::Right, free.right - box.right, free.right - box.left, width}};
+    const Need& least = *std::min_element(needs.begin(), needs.end(), [](const Need& one, const Need& other) {
+        return one.depth < other.depth;
+    });
+    if (least.near <= gap && least.depth > 0 && least.depth <= least.most)
+        CutOff(free, least.side, least.depth, gap);
+}
+
+/// Titles that run along the chart's width stand above or below it, corners included.
+Side SideOfTitle(const Title& title) {
+    const LocationType location = title.Location.LocationType;
+    if (IsUpright(title)) return SideOf(location);
+    if (location == LocationType::TopLeft || location == LocationType::TopRight) return Side::Top;
+    if (location == LocationType::BottomLeft || location == LocationType::BottomRight) return Side::Bottom;
+    return SideOf(location);
+}
+
+} // namespace
+
+void LayOutTitle(const LayoutContext& context, const Title& title, PartCode code, Box& free) {
+    if (title.Location.LocationType == LocationType::Custom) {
+        const Box box = BoxOf(title.Location.Rect);
+        const TextBlock block = Break(context, title, box, 1);
+        Place(context, title, code, block, box);
+        if (!block.IsEmpty()) KeepOff(free, box, GapShare * title.VtFont.Size);
+        return;
+    }
+    const Side side = SideOfTitle(title);
+    Box room = free;
+    const bool beside = side == Side::Left || side == Side::Right;
+    if (beside && !IsUpright(title)) room.right = room.left + LargestShare * free.Width();
+    const TextBlock block = Break(context, title, room, LargestShare);
+    if (block.IsEmpty()) return;
+    const Size extent = block.Extent();
+    const double depth = beside ? extent.width : extent.height;
+    const Box edge = CutOff(free, side, depth, GapShare * title.VtFont.Size);
+    Place(context, title, code, block, Along(edge, side, title.Location.LocationType, extent));
+}
+
+} // namespace QmChart6
