@@ -1,5 +1,6 @@
 #include "qmchart/CommandLine.h"
 
+#include "qmchart6/Language.h"
 #include "qmchart6/QMChartArray.h"
 
 #include <QCommandLineParser>
@@ -26,25 +27,24 @@ std::optional<QString> Given(const QCommandLineParser& parser, const char* name)
 }
 
 /// The value of an option that takes one of a few words, the first where it is not given.
-template<class T, std::size_t Count>
-T Choice(const QCommandLineParser& parser, const char* name,
-         const std::array<std::pair<const char*, T>, Count>& choices) {
+std::int16_t Choice(const QCommandLineParser& parser, const char* name,
+                    const QList<std::pair<QString, std::int16_t>>& choices) {
     const std::optional<QString> given = Given(parser, name);
     if (!given) return choices.front().second;
     QStringList words;
     for (const auto& [word, value] : choices) {
-        if (*given == QLatin1String(word)) return value;
-        words.append(QString::fromLatin1(word));
+        if (*given == word) return value;
+        words.append(word);
     }
     throw UsageError(QStringLiteral("--%1 takes one of %2, not \"%3\"")
                          .arg(QLatin1String(name), words.join(QStringLiteral(", ")), *given));
 }
 
 std::int16_t LanguageOf(const QCommandLineParser& parser) {
-    const QMChartArray charts;
-    return Choice(parser, "language",
-                  std::array{std::pair{"en", charts.QmChEnglish()}, std::pair{"pt", charts.QmChPortuguese()},
-                             std::pair{"es", charts.QmChSpanish()}, std::pair{"it", charts.QmChItalian()}});
+    QList<std::pair<QString, std::int16_t>> numbers;
+    for (const QString& code : LanguageCodes())
+        numbers.emplaceBack(code, static_cast<std::int16_t>(numbers.size()));
+    return Choice(parser, "language", numbers);
 }
 
 /// A look that is named is used, with the caller's titles where nothing else is said.
@@ -55,10 +55,10 @@ std::uint8_t UseConfigOf(const QCommandLineParser& parser) {
         return static_cast<std::uint8_t>(charts.QmChNoTitles());
     if (look && Given(parser, "use-config") == QLatin1String("no"))
         throw UsageError(QStringLiteral("--look gives a look that --use-config no refuses"));
-    return static_cast<std::uint8_t>(
-        Choice(parser, "use-config",
-               std::array{std::pair{"no", charts.QmChNo()}, std::pair{"no-titles", charts.QmChNoTitles()},
-                          std::pair{"yes", charts.QmChYes()}}));
+    return static_cast<std::uint8_t>(Choice(parser, "use-config",
+                                            {{QStringLiteral("no"), charts.QmChNo()},
+                                             {QStringLiteral("no-titles"), charts.QmChNoTitles()},
+                                             {QStringLiteral("yes"), charts.QmChYes()}}));
 }
 
 std::optional<char> SeparatorOf(const QCommandLineParser& parser) {
@@ -156,6 +156,12 @@ void RefuseStrayOptions(const CommandLine& line) {
         throw UsageError(QStringLiteral("--as goes with config import only"));
 }
 
+/// "en, pt or es".
+QString OneOf(QStringList words) {
+    const QString last = words.takeLast();
+    return words.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
+}
+
 } // namespace
 
 QString AsFolder(const QString& folder) {
@@ -214,7 +220,7 @@ Options:
   --row-title TEXT        the categories' title (default: the header's first cell)
   --column-title TEXT     the series' title
   --value-title TEXT      the values' title
-  --language LANGUAGE     en, pt, es or it: the window's language; pictures have none
+  --language LANGUAGE     %1: the window's language; pictures have none
   --config FOLDER         the folder of the stored looks, or postgresql://USER@HOST:PORT/DATABASE
   --use-config USE        no, no-titles or yes: use the look stored for the graph id
   --look LOOK             use this look: a stored one's name, or a file LOOK.json
@@ -239,7 +245,8 @@ Commands of config:
     --as NAME             under this name (default: the one in the file)
 
 Exit status: 0 done, 1 failed, 2 not understood.
-)");
+)")
+        .arg(OneOf(LanguageCodes()));
 }
 
 } // namespace QmChart6

@@ -2,6 +2,7 @@
 
 #include "qmchart6/Array.h"
 #include "qmchart6/Export.h"
+#include "qmchart6/Language.h"
 #include "qmchart6/RuntimeError.h"
 #include "qmchart6/Variant.h"
 
@@ -36,10 +37,18 @@ public:
     [[nodiscard]] std::int16_t QmChYes() const;
 
     /// Values of Language.
-    [[nodiscard]] std::int16_t QmChEnglish() const;
-    [[nodiscard]] std::int16_t QmChPortuguese() const;
-    [[nodiscard]] std::int16_t QmChSpanish() const;
-    [[nodiscard]] std::int16_t QmChItalian() const;
+    [[nodiscard]] std::int16_t QmChEnglish() const {
+        return static_cast<std::int16_t>(QmChart6::Language::English);
+    }
+    [[nodiscard]] std::int16_t QmChPortuguese() const {
+        return static_cast<std::int16_t>(QmChart6::Language::Portuguese);
+    }
+    [[nodiscard]] std::int16_t QmChSpanish() const {
+        return static_cast<std::int16_t>(QmChart6::Language::Spanish);
+    }
+    [[nodiscard]] std::int16_t QmChItalian() const {
+        return static_cast<std::int16_t>(QmChart6::Language::Italian);
+    }
 
     /// Shows the chart in the viewer of that graph id, which is opened if there is none. RowTitle is the
     /// category axis' title, ColumnTitle the depth axis', ValueTitle that of both value axes. Sets the

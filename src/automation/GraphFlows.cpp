@@ -9,26 +9,15 @@
 #include "config/ConfigurationStore.h"
 #include "desktop/Application.h"
 #include "desktop/QtTexts.h"
+#include "text/Languages.h"
 #include "text/LocalText.h"
 #include "viewer/GraphForm.h"
 #include "viewer/PrintChart.h"
 #include "viewer/Snapshot.h"
 
-#include <array>
-
 namespace QmChart6 {
 
 namespace {
-
-constexpr int CaptionKey = 0;
-
-/// Dialogs of Qt speak as the viewer does; English is what Qt speaks of itself.
-const char* LocaleOf(std::int16_t language) {
-    constexpr std::array Locales{"", "pt_BR", "es", "it"};
-    return language > 0 && language < static_cast<int>(Locales.size())
-               ? Locales.at(static_cast<std::size_t>(language))
-               : "";
-}
 
 /// Holds a chart's painting back while it is changed, also when the change fails half way.
 class RepaintingOff {
@@ -103,11 +92,11 @@ ViewerPointer ViewerForOutput(const ChartRequest& request) {
 void MakeGraph(const ChartRequest& request, const Variant& language) {
     RequireFirstThread();
     SetLanguageCode(language.ToInt16());
-    SetQtTextsLanguage(QLatin1String(LocaleOf(LanguageCode())));
+    SetQtTextsLanguage(QLatin1String(LanguageOrEnglish(LanguageCode()).locale));
     EnsureApplication();
     const ViewerPointer viewer = LoadedViewer(request);
     const HistoryRestarted history(viewer);
-    viewer->setWindowTitle(LocalText(CaptionKey));
+    viewer->setWindowTitle(LocalText(TextKey::ChartViewer));
     ComputeValueLabelFormat(request.data, request.rows, request.columns);
     if (request.useConfig != UseConfig::No) {
         LoadLook(*viewer, request.useConfig);

@@ -6,15 +6,6 @@
 
 namespace QmChart6 {
 
-namespace {
-
-constexpr std::int16_t English = 0;
-constexpr std::int16_t Portuguese = 1;
-constexpr std::int16_t Spanish = 2;
-constexpr std::int16_t Italian = 3;
-
-} // namespace
-
 void QMChartArray::SetQmChartConfigPath(const QString& value) {
     RequireFirstThread();
     SetConfigurationFolder(value);
@@ -28,19 +19,6 @@ std::int16_t QMChartArray::QmChNoTitles() const {
 }
 std::int16_t QMChartArray::QmChYes() const {
     return static_cast<std::int16_t>(UseConfig::Yes);
-}
-
-std::int16_t QMChartArray::QmChEnglish() const {
-    return English;
-}
-std::int16_t QMChartArray::QmChPortuguese() const {
-    return Portuguese;
-}
-std::int16_t QMChartArray::QmChSpanish() const {
-    return Spanish;
-}
-std::int16_t QMChartArray::QmChItalian() const {
-    return Italian;
 }
 
 void QMChartArray::QmMakeGraph(const QString& GraphId, std::int16_t Rows, std::int16_t Columns,

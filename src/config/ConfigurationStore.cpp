@@ -16,8 +16,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int SavedKey = 119;
-
 QWidget* OwnerOf(Viewer& viewer) {
     return viewer.ChartImage().window();
 }
@@ -58,7 +56,7 @@ void SaveConfiguration(Viewer& viewer) {
     }
     for (const std::optional<RuntimeError>* failure : {&notBound, &notSaved})
         if (*failure) ShowErrors(OwnerOf(viewer), [&] { throw RuntimeError(**failure); });
-    if (!notSaved) viewer.SetStatus(LocalText(SavedKey));
+    if (!notSaved) viewer.SetStatus(LocalText(TextKey::ConfigurationSaved));
 }
 
 void LoadConfiguration(Viewer& viewer, const QString& name, bool loadTitles) {

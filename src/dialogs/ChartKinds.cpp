@@ -9,55 +9,55 @@ namespace QmChart6 {
 
 namespace {
 
-int KeyOf(ChartType kind) {
+TextKey KeyOf(ChartType kind) {
     switch (kind) {
     case ChartType::Bar3D:
-        return 27;
+        return TextKey::BarColumn;
     case ChartType::Bar2D:
-        return 20;
+        return TextKey::Bar;
     case ChartType::Line3D:
-        return 28;
+        return TextKey::LineTape;
     case ChartType::Line2D:
-        return 21;
+        return TextKey::Line;
     case ChartType::Area3D:
     case ChartType::Area2D:
-        return 22;
+        return TextKey::Area;
     case ChartType::Step3D:
     case ChartType::Step2D:
-        return 23;
+        return TextKey::Step;
     case ChartType::Combination3D:
     case ChartType::Combination2D:
-        return 24;
+        return TextKey::Combination;
     case ChartType::Pie2D:
-        return 25;
+        return TextKey::Pie;
     case ChartType::XY2D:
         break;
     }
-    return 26;
+    return TextKey::XYScatter;
 }
 
-int KeyOf(LabelLocation location) {
+TextKey KeyOf(LabelLocation location) {
     switch (location) {
     case LabelLocation::None:
-        return 66;
+        return TextKey::NoLabel;
     case LabelLocation::AbovePoint:
-        return 69;
+        return TextKey::Above;
     case LabelLocation::BelowPoint:
-        return 70;
+        return TextKey::Below;
     case LabelLocation::Center:
-        return 99;
+        return TextKey::LabelCenter;
     case LabelLocation::Base:
-        return 74;
+        return TextKey::Base;
     case LabelLocation::Inside:
-        return 67;
+        return TextKey::Inside;
     case LabelLocation::Outside:
-        return 68;
+        return TextKey::Outside;
     case LabelLocation::Left:
-        return 72;
+        return TextKey::Left;
     case LabelLocation::Right:
         break;
     }
-    return 73;
+    return TextKey::Right;
 }
 
 } // namespace
@@ -101,7 +101,8 @@ int IndexOfLabelLocation(ChartType type, LabelLocation location) {
 }
 
 QStringList LabelLineTexts() {
-    return {LocalText(75), LocalText(76), LocalText(77)};
+    return {LocalText(TextKey::NoLabelLine), LocalText(TextKey::StraightLabelLine),
+            LocalText(TextKey::BentLabelLine)};
 }
 
 } // namespace QmChart6

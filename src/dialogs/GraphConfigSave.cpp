@@ -20,8 +20,8 @@ constexpr int NameWidth = 320; // logical pixels
 GraphConfigSave::GraphConfigSave(QWidget* owner)
     : PropertyDialog(owner, Buttons::OkCancel), txtConfig_(new QLineEdit(this)) {
     setObjectName(QStringLiteral("GraphConfigSave"));
-    setWindowTitle(WithDots(LocalText(101)));
-    Describe(*txtConfig_, "txtConfig", LocalText(116));
+    setWindowTitle(WithDots(LocalText(TextKey::SaveConfigurationAs)));
+    Describe(*txtConfig_, "txtConfig", LocalText(TextKey::ConfigurationName));
     txtConfig_->setMinimumWidth(NameWidth);
     Body().addWidget(txtConfig_);
     Finish();
@@ -41,8 +41,9 @@ void GraphConfigSave::Execute(Viewer& viewer) {
 
 bool GraphConfigSave::Confirm(const QString& name) {
     if (!ConfigurationExists(name)) return true;
-    const Answer answer = CurrentDesktop().ShowMessage(this, WithName(LocalText(113), name), LocalText(101),
-                                                       MessageButtons::YesNo);
+    const Answer answer =
+        CurrentDesktop().ShowMessage(this, WithName(LocalText(TextKey::ConfigurationExists), name),
+                                     LocalText(TextKey::SaveConfigurationAs), MessageButtons::YesNo);
     return answer == Answer::Yes;
 }
 

@@ -22,7 +22,7 @@ namespace {
 constexpr int ListWidth = 300; // logical pixels
 constexpr int ListHeight = 200;
 
-QCheckBox* NewCheckBox(QWidget* parent, const char* name, int textKey) {
+QCheckBox* NewCheckBox(QWidget* parent, const char* name, TextKey textKey) {
     auto* box = new QCheckBox(LocalText(textKey), parent);
     Describe(*box, name, LocalText(textKey));
     return box;
@@ -37,7 +37,7 @@ QString OnOneLine(QString name) {
 
 GraphConfiguration::GraphConfiguration(QWidget* owner) : PropertyDialog(owner, Buttons::OkCancelApply) {
     setObjectName(QStringLiteral("GraphConfiguration"));
-    setWindowTitle(LocalText(100));
+    setWindowTitle(LocalText(TextKey::LoadConfiguration));
     MakeList();
     MakeOptions();
     Finish();
@@ -50,9 +50,10 @@ void GraphConfiguration::MakeList() {
     lstConfig_->setTextElideMode(Qt::ElideMiddle);
     lstConfig_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstConfig_->setMinimumSize(ListWidth, ListHeight);
-    auto* lblAvailable = NewLabel(this, "lblAvailable", LocalText(110), *lstConfig_);
-    btnDelete_ = new QPushButton(LocalText(109), this);
-    Describe(*btnDelete_, "btnDelete", LocalText(109));
+    auto* lblAvailable =
+        NewLabel(this, "lblAvailable", LocalText(TextKey::AvailableConfigurations), *lstConfig_);
+    btnDelete_ = new QPushButton(LocalText(TextKey::Delete), this);
+    Describe(*btnDelete_, "btnDelete", LocalText(TextKey::Delete));
     connect(lstConfig_, &QListWidget::itemDoubleClicked, this, &GraphConfiguration::accept);
     connect(lstConfig_, &QListWidget::itemSelectionChanged, this, &GraphConfiguration::AllowDelete);
     On(btnDelete_, &QPushButton::clicked, [this] { Delete(); });
@@ -71,8 +72,8 @@ void GraphConfiguration::MakeList() {
 }
 
 void GraphConfiguration::MakeOptions() {
-    chkTitles_ = NewCheckBox(this, "chkTitles", 112);
-    chkDefault_ = NewCheckBox(this, "chkDefault", 111);
+    chkTitles_ = NewCheckBox(this, "chkTitles", TextKey::LoadTitles);
+    chkDefault_ = NewCheckBox(this, "chkDefault", TextKey::MakeDefaultConfiguration);
     Body().addWidget(chkTitles_);
     Body().addWidget(chkDefault_);
 }
@@ -113,13 +114,14 @@ void GraphConfiguration::Load() {
     LoadConfiguration(*viewer_, Selected(), chkTitles_->isChecked());
     if (chkDefault_->isChecked()) BindChartToConfiguration(*viewer_, Selected());
     viewer_->ChartImage().Refresh();
-    viewer_->SetStatus(LocalText(118));
+    viewer_->SetStatus(LocalText(TextKey::ConfigurationLoaded));
 }
 
 void GraphConfiguration::Delete() {
     const QString name = Selected();
-    const Answer answer = CurrentDesktop().ShowMessage(this, LocalText(114) + u' ' + name + u'?',
-                                                       LocalText(109), MessageButtons::YesNo);
+    const Answer answer =
+        CurrentDesktop().ShowMessage(this, LocalText(TextKey::DeleteConfiguration) + u' ' + name + u'?',
+                                     LocalText(TextKey::Delete), MessageButtons::YesNo);
     if (answer != Answer::Yes) return;
     DeleteConfiguration(name);
     FillList();

@@ -21,7 +21,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int ColorKey = 91;
 constexpr int MinimumListWidth = 180; // logical pixels
 
 /// The types in the order of cbType, as 2D series have them.
@@ -46,12 +45,12 @@ int Bit(const QCheckBox& box, int bit) {
 GraphSeriesProperties::GraphSeriesProperties(QWidget* owner)
     : PropertyDialog(owner, Buttons::OkCancelApply), tabSeries_(new QTabWidget(this)) {
     setObjectName(QStringLiteral("GraphSeriesProperties"));
-    setWindowTitle(LocalText(7));
+    setWindowTitle(LocalText(TextKey::SeriesProperties));
     tabSeries_->setObjectName(QStringLiteral("tabSeries"));
-    tabSeries_->addTab(MakeGeneral(), LocalText(29));
-    tabSeries_->addTab(MakeLabels(), LocalText(32));
-    tabSeries_->addTab(MakeStyle(), LocalText(88));
-    tabSeries_->addTab(MakeStatistics(), LocalText(92));
+    tabSeries_->addTab(MakeGeneral(), LocalText(TextKey::General));
+    tabSeries_->addTab(MakeLabels(), LocalText(TextKey::Labels));
+    tabSeries_->addTab(MakeStyle(), LocalText(TextKey::Style));
+    tabSeries_->addTab(MakeStatistics(), LocalText(TextKey::Statistics));
     tabSeries_->setUsesScrollButtons(false); // the form is as wide as its tabs
     Body().addWidget(tabSeries_);
     Finish();
@@ -63,20 +62,20 @@ QWidget* GraphSeriesProperties::MakeGeneral() {
     QGridLayout* grid = NewGrid(page);
     txtName_ = new QLineEdit(page);
     txtName_->setObjectName(QStringLiteral("txtName"));
-    grid->addWidget(NewLabel(page, "lblName", LocalText(89), *txtName_), 0, 0);
+    grid->addWidget(NewLabel(page, "lblName", LocalText(TextKey::Name), *txtName_), 0, 0);
     grid->addWidget(txtName_, 0, 1);
     cbType_ = new QComboBox(page);
     cbType_->setObjectName(QStringLiteral("cbType"));
     cbType_->setMinimumWidth(MinimumListWidth);
-    grid->addWidget(NewLabel(page, "lblType", LocalText(90), *cbType_), 1, 0);
+    grid->addWidget(NewLabel(page, "lblType", LocalText(TextKey::Type), *cbType_), 1, 0);
     grid->addWidget(cbType_, 1, 1);
-    auto* btnColor = new QPushButton(WithDots(LocalText(ColorKey)), page);
-    Describe(*btnColor, "btnColor", LocalText(ColorKey), LocalText(29));
+    auto* btnColor = new QPushButton(WithDots(LocalText(TextKey::Color)), page);
+    Describe(*btnColor, "btnColor", LocalText(TextKey::Color), LocalText(TextKey::General));
     pbColor_ = new ColourBox(page);
-    Describe(*pbColor_, "pbColor", LocalText(ColorKey));
+    Describe(*pbColor_, "pbColor", LocalText(TextKey::Color));
     grid->addWidget(btnColor, 2, 0);
     grid->addWidget(pbColor_, 2, 1);
-    const QString title = LocalText(ColorKey);
+    const QString title = LocalText(TextKey::Color);
     On(btnColor, &QPushButton::clicked, [this, title] {
         if (pbColor_->Pick(title)) ShowColours();
     });
@@ -88,13 +87,13 @@ QWidget* GraphSeriesProperties::MakeLabels() {
     QGridLayout* grid = NewGrid(page);
     cbLabels_ = new QComboBox(page);
     cbLabels_->setObjectName(QStringLiteral("cbLabels"));
-    grid->addWidget(NewLabel(page, "lblDataLabels", LocalText(60), *cbLabels_), 0, 0);
+    grid->addWidget(NewLabel(page, "lblDataLabels", LocalText(TextKey::DataLabels), *cbLabels_), 0, 0);
     grid->addWidget(cbLabels_, 0, 1);
     cbLines_ = new QComboBox(page);
     cbLines_->setObjectName(QStringLiteral("cbLines"));
-    grid->addWidget(NewLabel(page, "lblLabelLines", LocalText(61), *cbLines_), 1, 0);
+    grid->addWidget(NewLabel(page, "lblLabelLines", LocalText(TextKey::LabelLines), *cbLines_), 1, 0);
     grid->addWidget(cbLines_, 1, 1);
-    constexpr std::array Keys{63, 64, 62};
+    constexpr std::array Keys{TextKey::Value, TextKey::Percentage, TextKey::SeriesName};
     constexpr std::array Names{"chkComponent0", "chkComponent1", "chkComponent2"};
     for (std::size_t bit = 0; bit < ComponentCount; ++bit) {
         chkComponent_[bit] = NewBox(page, Names[bit], Keys[bit]);
@@ -106,19 +105,19 @@ QWidget* GraphSeriesProperties::MakeLabels() {
 QWidget* GraphSeriesProperties::MakeStyle() {
     auto* page = new QWidget(this);
     QGridLayout* grid = NewGrid(page);
-    auto* btnStyleColor = new QPushButton(WithDots(LocalText(ColorKey)), page);
-    Describe(*btnStyleColor, "btnStyleColor", LocalText(ColorKey), LocalText(88));
+    auto* btnStyleColor = new QPushButton(WithDots(LocalText(TextKey::Color)), page);
+    Describe(*btnStyleColor, "btnStyleColor", LocalText(TextKey::Color), LocalText(TextKey::Style));
     pbStyleColor_ = new ColourBox(page);
-    Describe(*pbStyleColor_, "pbStyleColor", LocalText(ColorKey), LocalText(88));
+    Describe(*pbStyleColor_, "pbStyleColor", LocalText(TextKey::Color), LocalText(TextKey::Style));
     auto* row = new QHBoxLayout;
     row->addWidget(btnStyleColor);
     row->addWidget(pbStyleColor_);
     row->addStretch(1);
     grid->addLayout(row, 0, 0, 1, 2);
     picStyle_ = new PatternPicker(page);
-    Describe(*picStyle_, "picStyle", LocalText(88));
+    Describe(*picStyle_, "picStyle", LocalText(TextKey::Style));
     grid->addWidget(picStyle_, 1, 0, 1, 2, Qt::AlignLeft);
-    const QString title = LocalText(ColorKey);
+    const QString title = LocalText(TextKey::Color);
     On(btnStyleColor, &QPushButton::clicked, [this, title] {
         if (pbStyleColor_->Pick(title)) ShowColours();
     });
@@ -128,16 +127,16 @@ QWidget* GraphSeriesProperties::MakeStyle() {
 QWidget* GraphSeriesProperties::MakeStatistics() {
     auto* page = new QWidget(this);
     auto* column = new QVBoxLayout(page);
-    column->addWidget(chkMin_ = NewBox(page, "chkMin", 93));
-    column->addWidget(chkMax_ = NewBox(page, "chkMax", 94));
-    column->addWidget(chkStdDev_ = NewBox(page, "chkStdDev", 95));
-    column->addWidget(chkMean_ = NewBox(page, "chkMean", 96));
-    column->addWidget(chkReg_ = NewBox(page, "chkReg", 97));
+    column->addWidget(chkMin_ = NewBox(page, "chkMin", TextKey::Minimum));
+    column->addWidget(chkMax_ = NewBox(page, "chkMax", TextKey::Maximum));
+    column->addWidget(chkStdDev_ = NewBox(page, "chkStdDev", TextKey::StandardDeviation));
+    column->addWidget(chkMean_ = NewBox(page, "chkMean", TextKey::Mean));
+    column->addWidget(chkReg_ = NewBox(page, "chkReg", TextKey::Regression));
     column->addStretch(1);
     return page;
 }
 
-QCheckBox* GraphSeriesProperties::NewBox(QWidget* page, const char* name, int textKey) {
+QCheckBox* GraphSeriesProperties::NewBox(QWidget* page, const char* name, TextKey textKey) {
     auto* box = new QCheckBox(LocalText(textKey), page);
     Describe(*box, name, LocalText(textKey));
     return box;
@@ -180,8 +179,9 @@ void GraphSeriesProperties::Fill(const Series& series, const QString& label) {
 void GraphSeriesProperties::FillTypes() {
     const bool combination = IsCombination(chartType_);
     cbType_->clear();
-    cbType_->addItems({LocalText(20), LocalText(21), LocalText(22), LocalText(23)});
-    if (!combination && !is3D_) cbType_->addItems({LocalText(87), LocalText(25)});
+    cbType_->addItems({LocalText(TextKey::Bar), LocalText(TextKey::Line), LocalText(TextKey::Area),
+                       LocalText(TextKey::Step)});
+    if (!combination && !is3D_) cbType_->addItems({LocalText(TextKey::XY), LocalText(TextKey::Pie)});
     cbType_->setEnabled(combination);
 }
 

@@ -2,6 +2,7 @@
 
 #include "chartcontrol/model/Series.h"
 #include "dialogs/PropertyDialog.h"
+#include "text/TextKey.h"
 
 #include <array>
 #include <cstdint>
@@ -55,7 +56,7 @@ private:
     QWidget* MakeLabels();
     QWidget* MakeStyle();
     QWidget* MakeStatistics();
-    QCheckBox* NewBox(QWidget* page, const char* name, int textKey);
+    QCheckBox* NewBox(QWidget* page, const char* name, TextKey textKey);
     void Fill(const Series& series, const QString& label);
     void FillTypes();
     void WriteBack(Series& series, QString& label) const;

@@ -48,10 +48,10 @@ FontChoice ChoiceOf(const Font& font) {
             .colour = QtColourOf(font.VtColor)};
 }
 
-QComboBox* NewList(QWidget* parent, const char* name, std::initializer_list<int> textKeys) {
+QComboBox* NewList(QWidget* parent, const char* name, std::initializer_list<TextKey> textKeys) {
     auto* list = new QComboBox(parent);
     list->setObjectName(QLatin1String(name));
-    for (const int key : textKeys) list->addItem(LocalText(key));
+    for (const TextKey key : textKeys) list->addItem(LocalText(key));
     list->setCurrentIndex(-1); // until an element sets it
     return list;
 }
@@ -60,11 +60,13 @@ QComboBox* NewList(QWidget* parent, const char* name, std::initializer_list<int>
 
 GraphTextProperties::GraphTextProperties(QWidget* owner) : PropertyDialog(owner, Buttons::OkCancelApply) {
     setObjectName(QStringLiteral("GraphTextProperties"));
-    setWindowTitle(LocalText(78));
-    const QStringList texts =
-        WithMnemonics({.always = {WithDots(LocalText(91)), LocalText(43), LocalText(44)}, .pages = {}})
-            .always;
-    pickerTexts_ = {.title = LocalText(80), .colour = texts[0], .ok = texts[1], .cancel = texts[2]};
+    setWindowTitle(LocalText(TextKey::TextProperties));
+    const QStringList texts = WithMnemonics({.always = {WithDots(LocalText(TextKey::Color)),
+                                                        LocalText(TextKey::Ok), LocalText(TextKey::Cancel)},
+                                             .pages = {}})
+                                  .always;
+    pickerTexts_ = {
+        .title = LocalText(TextKey::Font), .colour = texts[0], .ok = texts[1], .cancel = texts[2]};
     MakeTextRow();
     MakeGroups();
     // The form ends at Apply, so that is the last button on every desktop.
@@ -77,9 +79,9 @@ void GraphTextProperties::MakeTextRow() {
     TText_ = new QLineEdit(this);
     TText_->setObjectName(QStringLiteral("TText"));
     TText_->setMinimumWidth(MinimumTextWidth);
-    lblText_ = NewLabel(this, "lblText", LocalText(79), *TText_);
-    auto* btnFont = new QPushButton(WithDots(LocalText(80)), this);
-    Describe(*btnFont, "btnFont", LocalText(80));
+    lblText_ = NewLabel(this, "lblText", LocalText(TextKey::Text), *TText_);
+    auto* btnFont = new QPushButton(WithDots(LocalText(TextKey::Font)), this);
+    Describe(*btnFont, "btnFont", LocalText(TextKey::Font));
     On(btnFont, &QPushButton::clicked, [this] { PickFont(); });
     auto* row = new QHBoxLayout;
     row->addWidget(lblText_);
@@ -99,11 +101,12 @@ void GraphTextProperties::MakeGroups() {
 }
 
 void GraphTextProperties::MakeOrientationButtons() {
-    const QString title = LocalText(81);
+    const QString title = LocalText(TextKey::Orientation);
     frmOrientButtons_ = new QGroupBox(title, this);
     frmOrientButtons_->setObjectName(QStringLiteral("frmOrientButtons"));
     // Turned texts are told by their angle, which needs no words.
-    const std::array names{LocalText(83), LocalText(84), QStringLiteral("90°"), QStringLiteral("-90°")};
+    const std::array names{LocalText(TextKey::Horizontal), LocalText(TextKey::Vertical),
+                           QStringLiteral("90°"), QStringLiteral("-90°")};
     auto* row = new QHBoxLayout(frmOrientButtons_);
     auto* group = new QButtonGroup(this);
     for (std::size_t index = 0; index < OrientationCount; ++index) {
@@ -120,13 +123,13 @@ void GraphTextProperties::MakeOrientationButtons() {
 }
 
 void GraphTextProperties::MakeAlignment() {
-    frmAlignment_ = new QGroupBox(LocalText(82), this);
+    frmAlignment_ = new QGroupBox(LocalText(TextKey::Alignment), this);
     frmAlignment_->setObjectName(QStringLiteral("frmAlignment"));
     // In the order of the codes that stand for them.
-    cbHorizontal_ = NewList(frmAlignment_, "cbHorizontal", {72, 73, 71});
-    cbVertical_ = NewList(frmAlignment_, "cbVertical", {85, 86, 71});
-    lblHorizontal_ = NewLabel(frmAlignment_, "lblHorizontal", LocalText(83), *cbHorizontal_);
-    lblVertical_ = NewLabel(frmAlignment_, "lblVertical", LocalText(84), *cbVertical_);
+    cbHorizontal_ = NewList(frmAlignment_, "cbHorizontal", {TextKey::Left, TextKey::Right, TextKey::Center});
+    cbVertical_ = NewList(frmAlignment_, "cbVertical", {TextKey::Top, TextKey::Bottom, TextKey::Center});
+    lblHorizontal_ = NewLabel(frmAlignment_, "lblHorizontal", LocalText(TextKey::Horizontal), *cbHorizontal_);
+    lblVertical_ = NewLabel(frmAlignment_, "lblVertical", LocalText(TextKey::Vertical), *cbVertical_);
     auto* grid = new QGridLayout(frmAlignment_);
     grid->addWidget(lblHorizontal_, 0, 0);
     grid->addWidget(cbHorizontal_, 0, 1);

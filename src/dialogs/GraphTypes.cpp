@@ -46,7 +46,7 @@ Value CommonTo(const SeriesCollection& series, Read read) {
 
 GraphTypes::GraphTypes(QWidget* owner) : PropertyDialog(owner, Buttons::OkCancelApply), form_(this) {
     setObjectName(QStringLiteral("GraphTypes"));
-    setWindowTitle(LocalText(8));
+    setWindowTitle(LocalText(TextKey::GraphProperties));
     auto* row = new QHBoxLayout;
     row->addWidget(form_.TabTypes);
     row->addWidget(form_.SampleChart, 1);

@@ -29,25 +29,25 @@ constexpr int MinimumListWidth = 130;
 /// The longest list of chart kinds, in lines.
 constexpr int MostKinds = 7;
 
-constexpr std::array AxisKeys{48, 49, 50, 51};
+constexpr std::array AxisKeys{TextKey::XAxis, TextKey::PrimaryYAxis, TextKey::SecondaryYAxis, TextKey::ZAxis};
 
-QCheckBox* NewBox(QWidget* parent, const char* name, int textKey, const QString& group) {
+QCheckBox* NewBox(QWidget* parent, const char* name, TextKey textKey, const QString& group) {
     auto* box = new QCheckBox(LocalText(textKey), parent);
     Describe(*box, name, LocalText(textKey), group);
     return box;
 }
 
-QComboBox* NewList(QWidget* parent, const char* name, std::initializer_list<int> textKeys = {}) {
+QComboBox* NewList(QWidget* parent, const char* name, std::initializer_list<TextKey> textKeys = {}) {
     auto* list = new QComboBox(parent);
     list->setObjectName(QLatin1String(name));
     list->setMinimumWidth(MinimumListWidth);
     list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    for (const int key : textKeys) list->addItem(LocalText(key));
+    for (const TextKey key : textKeys) list->addItem(LocalText(key));
     return list;
 }
 
 /// A frame with a check box for each axis.
-QGroupBox* NewAxisFrame(QWidget* page, const char* name, int titleKey,
+QGroupBox* NewAxisFrame(QWidget* page, const char* name, TextKey titleKey,
                         const std::array<const char*, GraphTypesControls::AxisCount>& names,
                         std::array<QCheckBox*, GraphTypesControls::AxisCount>& boxes) {
     const QString title = LocalText(titleKey);
@@ -73,14 +73,14 @@ void AddRow(QGridLayout& grid, QWidget* caption, QWidget* control) {
 GraphTypesControls::GraphTypesControls(QWidget* dialog) {
     TabTypes = new QTabWidget(dialog);
     TabTypes->setObjectName(QStringLiteral("TabTypes"));
-    TabTypes->addTab(MakeGeneral(), LocalText(29));
-    TabTypes->addTab(MakeAxes(), LocalText(30));
-    TabTypes->addTab(MakeGrid(), LocalText(31));
-    TabTypes->addTab(MakeLabels(), LocalText(32));
-    TabTypes->addTab(MakeDesign(), LocalText(103));
+    TabTypes->addTab(MakeGeneral(), LocalText(TextKey::General));
+    TabTypes->addTab(MakeAxes(), LocalText(TextKey::Axes));
+    TabTypes->addTab(MakeGrid(), LocalText(TextKey::Grid));
+    TabTypes->addTab(MakeLabels(), LocalText(TextKey::Labels));
+    TabTypes->addTab(MakeDesign(), LocalText(TextKey::Design));
     TabTypes->setUsesScrollButtons(false); // the form is as wide as its tabs
     SampleChart = new ChartControl(dialog);
-    Describe(*SampleChart, "SampleChart", LocalText(33));
+    Describe(*SampleChart, "SampleChart", LocalText(TextKey::ChartType));
     SampleChart->setMinimumSize(SampleSize);
     // Something to look at: neither keys nor the pointer reach it.
     SampleChart->setFocusPolicy(Qt::NoFocus);
@@ -96,13 +96,13 @@ QWidget* GraphTypesControls::MakeGeneral() {
 }
 
 QWidget* GraphTypesControls::MakeTypes(QWidget* page) {
-    const QString title = LocalText(33);
+    const QString title = LocalText(TextKey::ChartType);
     auto* frame = new QGroupBox(title, page);
     frame->setObjectName(QStringLiteral("FChType"));
-    RB2d = new QRadioButton(LocalText(34), frame);
-    Describe(*RB2d, "RB2d", LocalText(34), title);
-    RB3d = new QRadioButton(LocalText(35), frame);
-    Describe(*RB3d, "RB3d", LocalText(35), title);
+    RB2d = new QRadioButton(LocalText(TextKey::Types2D), frame);
+    Describe(*RB2d, "RB2d", LocalText(TextKey::Types2D), title);
+    RB3d = new QRadioButton(LocalText(TextKey::Types3D), frame);
+    Describe(*RB3d, "RB3d", LocalText(TextKey::Types3D), title);
     LChTypes = new QListWidget(frame);
     Describe(*LChTypes, "LChTypes", title);
     // Wide and high enough for every kind, so that nothing scrolls or moves when the dimension changes.
@@ -122,16 +122,16 @@ QWidget* GraphTypesControls::MakeTypes(QWidget* page) {
 }
 
 QWidget* GraphTypesControls::MakeOptions(QWidget* page) {
-    const QString title = LocalText(36);
+    const QString title = LocalText(TextKey::ChartOptions);
     auto* frame = new QGroupBox(title, page);
     frame->setObjectName(QStringLiteral("FChOptions"));
     auto* column = new QVBoxLayout(frame);
-    column->addWidget(CShowLegend = NewBox(frame, "CShowLegend", 37, title));
-    column->addWidget(CShowMarkers = NewBox(frame, "CShowMarkers", 38, title));
-    column->addWidget(CShowLines = NewBox(frame, "CShowLines", 39, title));
-    column->addWidget(CStackSeries = NewBox(frame, "CStackSeries", 40, title));
-    column->addWidget(C100 = NewBox(frame, "C100", 41, title));
-    column->addWidget(CSeriesInRows = NewBox(frame, "CSeriesInRows", 42, title));
+    column->addWidget(CShowLegend = NewBox(frame, "CShowLegend", TextKey::ShowLegend, title));
+    column->addWidget(CShowMarkers = NewBox(frame, "CShowMarkers", TextKey::ShowMarkers, title));
+    column->addWidget(CShowLines = NewBox(frame, "CShowLines", TextKey::ShowLines, title));
+    column->addWidget(CStackSeries = NewBox(frame, "CStackSeries", TextKey::StackSeries, title));
+    column->addWidget(C100 = NewBox(frame, "C100", TextKey::FullStackSeries, title));
+    column->addWidget(CSeriesInRows = NewBox(frame, "CSeriesInRows", TextKey::SeriesInRows, title));
     column->addStretch(1);
     return frame;
 }
@@ -139,9 +139,10 @@ QWidget* GraphTypesControls::MakeOptions(QWidget* page) {
 QWidget* GraphTypesControls::MakeAxes() {
     auto* page = new QWidget(TabTypes);
     auto* row = new QHBoxLayout(page);
-    row->addWidget(NewAxisFrame(page, "frmAxis", 46, {"chkX", "chkY1", "chkY2", "chkZ"}, chkAxis));
     row->addWidget(
-        NewAxisFrame(page, "frmLabels", 47, {"chkXLab", "chkY1Lab", "chkY2Lab", "chkZLab"}, chkAxisLab));
+        NewAxisFrame(page, "frmAxis", TextKey::ShowAxes, {"chkX", "chkY1", "chkY2", "chkZ"}, chkAxis));
+    row->addWidget(NewAxisFrame(page, "frmLabels", TextKey::ShowAxisTitles,
+                                {"chkXLab", "chkY1Lab", "chkY2Lab", "chkZLab"}, chkAxisLab));
     return page;
 }
 
@@ -150,9 +151,12 @@ QWidget* GraphTypesControls::MakeGrid() {
     QGridLayout* grid = NewGrid(page);
     constexpr std::array Labels{"lblXGrid", "lblY1Grid", "lblY2Grid", "lblZGrid"};
     constexpr std::array Lists{"cbGridLines0", "cbGridLines1", "cbGridLines2", "cbGridLines3"};
-    constexpr std::array Keys{52, 53, 54, 55};
+    constexpr std::array Keys{TextKey::XGridLines, TextKey::PrimaryYGridLines, TextKey::SecondaryYGridLines,
+                              TextKey::ZGridLines};
     for (std::size_t axis = 0; axis < AxisCount; ++axis) {
-        cbGridLines[axis] = NewList(page, Lists[axis], {56, 57, 58, 59});
+        cbGridLines[axis] =
+            NewList(page, Lists[axis],
+                    {TextKey::NoLine, TextKey::SolidLine, TextKey::DashedLine, TextKey::DottedLine});
         lblGrid[axis] = NewLabel(page, Labels[axis], LocalText(Keys[axis]), *cbGridLines[axis]);
         AddRow(*grid, lblGrid[axis], cbGridLines[axis]);
     }
@@ -163,18 +167,19 @@ QWidget* GraphTypesControls::MakeLabels() {
     auto* page = new QWidget(TabTypes);
     QGridLayout* grid = NewGrid(page);
     cbLabels = NewList(page, "cbLabels");
-    AddRow(*grid, NewLabel(page, "lblDataLabels", LocalText(60), *cbLabels), cbLabels);
+    AddRow(*grid, NewLabel(page, "lblDataLabels", LocalText(TextKey::DataLabels), *cbLabels), cbLabels);
     cbLines = NewList(page, "cbLines");
     cbLines->addItems(LabelLineTexts());
-    AddRow(*grid, NewLabel(page, "lblLabelLines", LocalText(61), *cbLines), cbLines);
+    AddRow(*grid, NewLabel(page, "lblLabelLines", LocalText(TextKey::LabelLines), *cbLines), cbLines);
     constexpr std::array Names{"chkComponent0", "chkComponent1", "chkComponent2"};
-    constexpr std::array Keys{63, 64, 62};
+    constexpr std::array Keys{TextKey::Value, TextKey::Percentage, TextKey::SeriesName};
     for (std::size_t bit = 0; bit < ComponentCount; ++bit) {
-        chkComponent[bit] = NewBox(page, Names[bit], Keys[bit], LocalText(60));
+        chkComponent[bit] = NewBox(page, Names[bit], Keys[bit], LocalText(TextKey::DataLabels));
         grid->addWidget(chkComponent[bit], grid->rowCount(), 0, 1, 2);
     }
-    cbPiePos = NewList(page, "cbPiePos", {66, 69, 70, 99});
-    lblPieLabel = NewLabel(page, "lblPieLabel", LocalText(65), *cbPiePos);
+    cbPiePos =
+        NewList(page, "cbPiePos", {TextKey::NoLabel, TextKey::Above, TextKey::Below, TextKey::LabelCenter});
+    lblPieLabel = NewLabel(page, "lblPieLabel", LocalText(TextKey::PieLabelPosition), *cbPiePos);
     AddRow(*grid, lblPieLabel, cbPiePos);
     return page;
 }
@@ -182,13 +187,15 @@ QWidget* GraphTypesControls::MakeLabels() {
 QWidget* GraphTypesControls::MakeDesign() {
     auto* page = new QWidget(TabTypes);
     QGridLayout* grid = NewGrid(page);
-    btnBackColor = new QPushButton(WithDots(LocalText(104)), page);
-    Describe(*btnBackColor, "btnBackColor", LocalText(104));
+    btnBackColor = new QPushButton(WithDots(LocalText(TextKey::BackgroundColor)), page);
+    Describe(*btnBackColor, "btnBackColor", LocalText(TextKey::BackgroundColor));
     pbBackColor = new ColourBox(page);
-    Describe(*pbBackColor, "pbBackColor", LocalText(104));
+    Describe(*pbBackColor, "pbBackColor", LocalText(TextKey::BackgroundColor));
     AddRow(*grid, btnBackColor, pbBackColor);
-    cb3DPerspective = NewList(page, "cb3DPerspective", {106, 107, 108});
-    AddRow(*grid, NewLabel(page, "lblProjection", LocalText(105), *cb3DPerspective), cb3DPerspective);
+    cb3DPerspective =
+        NewList(page, "cb3DPerspective", {TextKey::Perspective, TextKey::Oblique, TextKey::Orthogonal});
+    AddRow(*grid, NewLabel(page, "lblProjection", LocalText(TextKey::Projection3D), *cb3DPerspective),
+           cb3DPerspective);
     return page;
 }
 

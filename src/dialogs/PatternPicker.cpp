@@ -29,10 +29,6 @@ constexpr QPoint PatternOrigin{120, 0};
 constexpr int PatternColumns = 3;
 constexpr int Gap = 2; // between a box's edge and what it shows
 
-constexpr int StyleKey = 88;
-constexpr int NoneKey = 56;
-constexpr int SolidKey = 57;
-
 QRect PlaceOf(BrushStyle style, int index) {
     switch (style) {
     case BrushStyle::Hatch:
@@ -57,10 +53,10 @@ PatternPicker::PatternPicker(QWidget* parent) : QWidget(parent) {
         names_.push_back(name);
     };
     // The two plain choices are numbered as one group.
-    add(BrushStyle::None, 0, LocalText(NoneKey));
-    add(BrushStyle::Solid, 1, LocalText(SolidKey));
+    add(BrushStyle::None, 0, LocalText(TextKey::NoLine));
+    add(BrushStyle::Solid, 1, LocalText(TextKey::SolidLine));
     int number = 0;
-    const auto numbered = [&] { return LocalText(StyleKey) + u' ' + QString::number(++number); };
+    const auto numbered = [&] { return LocalText(TextKey::Style) + u' ' + QString::number(++number); };
     for (int index = 0; index < HatchCount; ++index) add(BrushStyle::Hatch, index, numbered());
     for (int index = 0; index < PatternCount; ++index) add(BrushStyle::Pattern, index, numbered());
 }

@@ -22,16 +22,12 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int OkKey = 43;
-constexpr int CancelKey = 44;
-constexpr int ApplyKey = 45;
-
 // A form ends this far beyond its last button, frame included, in twips.
 constexpr int BeyondButtonRight = 240;
 constexpr int BeyondButtonBelow = 420;
 constexpr int Margin = 8; // logical pixels, left and above
 
-QPushButton* AddButton(QDialogButtonBox& box, const char* name, int textKey,
+QPushButton* AddButton(QDialogButtonBox& box, const char* name, TextKey textKey,
                        QDialogButtonBox::ButtonRole role) {
     const QString text = LocalText(textKey);
     auto* button = new FootButton(text, &box);
@@ -65,12 +61,13 @@ PropertyDialog::~PropertyDialog() {
 }
 
 void PropertyDialog::AddButtons(Buttons buttons) {
-    btnOK_ = AddButton(*buttonBox_, "btnOK", OkKey, QDialogButtonBox::AcceptRole);
-    btnCancel_ = AddButton(*buttonBox_, "btnCancel", CancelKey, QDialogButtonBox::RejectRole);
+    btnOK_ = AddButton(*buttonBox_, "btnOK", TextKey::Ok, QDialogButtonBox::AcceptRole);
+    btnCancel_ = AddButton(*buttonBox_, "btnCancel", TextKey::Cancel, QDialogButtonBox::RejectRole);
     connect(btnOK_, &QPushButton::clicked, this, &PropertyDialog::accept);
     connect(btnCancel_, &QPushButton::clicked, this, &PropertyDialog::reject);
     if (buttons == Buttons::OkCancelApply) {
-        const QPushButton* apply = AddButton(*buttonBox_, "btnApply", ApplyKey, QDialogButtonBox::ApplyRole);
+        const QPushButton* apply =
+            AddButton(*buttonBox_, "btnApply", TextKey::Apply, QDialogButtonBox::ApplyRole);
         connect(apply, &QPushButton::clicked, this, &PropertyDialog::Apply);
     }
 }

@@ -38,8 +38,8 @@ void SetLanguageCode(std::int16_t code) {
     languageCode = code;
 }
 
-QString LocalText(std::int32_t key) {
-    const auto id = IdOfText(key, languageCode);
+QString LocalText(TextKey key) {
+    const auto id = IdOfText(static_cast<std::int32_t>(key), languageCode);
     const auto text = StringOfId(id);
     if (!text)
         throw RuntimeError(ErrorNumber::ResourceNotFound, QStringLiteral("there is no text %1").arg(id));

@@ -6,12 +6,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int BarKey = 20; // line, area and step follow
-constexpr int StepKey = 23;
-constexpr int CombinationKey = 24;
-constexpr int PieKey = 25;
-constexpr int XYKey = 26;
-
 // Where the types stand that do not come as a pair of 3D and 2D. Pie takes the place of the combination in
 // the list for one column.
 constexpr int PieIndexOfOneColumn = 4;
@@ -22,11 +16,12 @@ constexpr int XYIndex = 6;
 
 QStringList ChartTypeTexts(int columnCount, bool threeD) {
     QStringList texts;
-    for (int key = BarKey; key <= StepKey; ++key) texts.append(LocalText(key));
+    for (const TextKey key : {TextKey::Bar, TextKey::Line, TextKey::Area, TextKey::Step})
+        texts.append(LocalText(key));
     if (columnCount > 1)
-        texts << LocalText(CombinationKey) << LocalText(PieKey) << LocalText(XYKey);
+        texts << LocalText(TextKey::Combination) << LocalText(TextKey::Pie) << LocalText(TextKey::XYScatter);
     else if (!threeD)
-        texts << LocalText(PieKey);
+        texts << LocalText(TextKey::Pie);
     return texts;
 }
 

@@ -24,19 +24,27 @@ struct Allowances {
 /// A part that has a dialog of its own: the key of its caption, and what may be changed.
 struct Element {
     PartCode code;
-    int captionKey;
+    TextKey captionKey;
     Allowances allowed;
 };
 
 constexpr std::array Elements{
-    Element{PartCode::AxisTitle, 1, {.text = true, .orientation = true, .alignment = false}},
-    Element{PartCode::Title, 2, {.text = true, .orientation = true, .alignment = true}},
-    Element{PartCode::Legend, 3, {}},
-    Element{PartCode::PointLabel, 4, {.text = false, .orientation = true, .alignment = false}},
-    Element{PartCode::Axis, 5, {}},
-    Element{PartCode::AxisLabel, 5, {}},
-    Element{PartCode::Footnote, 6, {.text = true, .orientation = false, .alignment = true}},
-    Element{PartCode::Series, 7, {}},
+    Element{PartCode::AxisTitle,
+            TextKey::AxisTitleProperties,
+            {.text = true, .orientation = true, .alignment = false}},
+    Element{PartCode::Title,
+            TextKey::ChartTitleProperties,
+            {.text = true, .orientation = true, .alignment = true}},
+    Element{PartCode::Legend, TextKey::LegendTextProperties, {}},
+    Element{PartCode::PointLabel,
+            TextKey::DataLabelsProperties,
+            {.text = false, .orientation = true, .alignment = false}},
+    Element{PartCode::Axis, TextKey::AxisLabelsProperties, {}},
+    Element{PartCode::AxisLabel, TextKey::AxisLabelsProperties, {}},
+    Element{PartCode::Footnote,
+            TextKey::FootnoteProperties,
+            {.text = true, .orientation = false, .alignment = true}},
+    Element{PartCode::Series, TextKey::SeriesProperties, {}},
 };
 
 const Element* ElementOf(int part) {

@@ -6,8 +6,8 @@
 #include "desktop/Desktop.h"
 #include "desktop/ShowErrors.h"
 #include "qmchart6/RuntimeError.h"
+#include "text/Languages.h"
 #include "text/LocalText.h"
-#include "viewer/ChartVocabularies.h"
 #include "viewer/ControlBarCommands.h"
 #include "viewer/ElementEditing.h"
 #include "viewer/LookChanges.h"
@@ -29,9 +29,6 @@ namespace {
 constexpr int ChartWidth = 760;
 constexpr int ChartHeight = 480;
 constexpr int StatusTime = 2000; // milliseconds
-
-constexpr int SaveQuestionKey = 98;
-constexpr int SaveTitleKey = 14;
 
 /// The chart's edge in whole logical pixels; both edges are rounded, so that no rounding adds up.
 QRect PixelsOfPlace(const ChartPlace& place, const QRect& before) {
@@ -72,7 +69,7 @@ GraphForm::GraphForm(QWidget* parent)
     // Closing the last chart must not end a host's event loop.
     setAttribute(Qt::WA_QuitOnClose, false);
     chartImage_->setObjectName(QStringLiteral("ChartImage"));
-    chartImage_->SetVocabulary(VocabularyOf(LanguageCode()));
+    chartImage_->SetVocabulary(LanguageOrEnglish(LanguageCode()).words->chart());
     sbGraph_->setObjectName(QStringLiteral("sbGraph"));
     timGraph_->setObjectName(QStringLiteral("timGraph"));
     timGraph_->setSingleShot(true);
@@ -276,8 +273,9 @@ void GraphForm::closeEvent(QCloseEvent* close) {
 }
 
 void GraphForm::AskToSave() {
-    const Answer answer = CurrentDesktop().ShowMessage(this, LocalText(SaveQuestionKey),
-                                                       LocalText(SaveTitleKey), MessageButtons::YesNo);
+    const Answer answer =
+        CurrentDesktop().ShowMessage(this, LocalText(TextKey::SaveCurrentConfiguration),
+                                     LocalText(TextKey::SaveConfiguration), MessageButtons::YesNo);
     if (answer == Answer::Yes) SaveConfiguration(*this);
 }
 

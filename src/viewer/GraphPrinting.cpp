@@ -11,8 +11,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int PrintingKey = 120;
-
 // Logical pixels.
 constexpr int SideMargin = 32;
 constexpr int EdgeMargin = 24;
@@ -23,10 +21,10 @@ GraphPrinting::GraphPrinting(QWidget* owner)
     : QWidget(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
     setObjectName(QStringLiteral("GraphPrinting"));
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setWindowTitle(LocalText(PrintingKey));
+    setWindowTitle(LocalText(TextKey::PrintingInProgress));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(SideMargin, EdgeMargin, SideMargin, EdgeMargin);
-    auto* text = new QLabel(LocalText(PrintingKey), this);
+    auto* text = new QLabel(LocalText(TextKey::PrintingInProgress), this);
     text->setTextFormat(Qt::PlainText);
     text->setAlignment(Qt::AlignCenter);
     column->addWidget(text);

@@ -14,8 +14,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int SnapshotSavedKey = 121;
-
 /// Puts the process' current directory back to where it was, whatever way a snapshot ends.
 class KeptDirectory {
 public:
@@ -49,7 +47,7 @@ void SaveChartSnapshot(Viewer& viewer, QString& FileName) {
     SavePicture({chart.Model(), chart.width(), chart.height()}, FileName);
     directory.Restore();
     CurrentDesktop().ClearClipboard();
-    viewer.SetStatus(LocalText(SnapshotSavedKey));
+    viewer.SetStatus(LocalText(TextKey::SnapshotSaved));
 }
 
 } // namespace QmChart6

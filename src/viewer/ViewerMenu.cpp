@@ -21,23 +21,24 @@ QAction* Entry(QMenu& menu, const char* name, const QString& caption) {
 
 ViewerMenu::ViewerMenu(QWidget* parent) : QMenu(parent) {
     setObjectName(QStringLiteral("mProperties"));
-    setTitle(LocalText(8));
+    setTitle(LocalText(TextKey::GraphProperties));
     optGenericProperties = Entry(*this, "optGenericProperties", QString());
     NameElement({});
-    optChart = Entry(*this, "optChart", LocalText(8));
+    optChart = Entry(*this, "optChart", LocalText(TextKey::GraphProperties));
     addSeparator();
-    optControlBar = Entry(*this, "optControlBar", LocalText(9));
+    optControlBar = Entry(*this, "optControlBar", LocalText(TextKey::ControlBar));
     optControlBar->setCheckable(true);
     addSeparator();
-    optSendTo = addMenu(LocalText(10));
+    optSendTo = addMenu(LocalText(TextKey::SendTo));
     optSendTo->setObjectName(QStringLiteral("optSendTo"));
-    optPrint = Entry(*optSendTo, "optPrint", LocalText(11));
-    optSaveBMP = Entry(*optSendTo, "optSaveBMP", LocalText(12));
-    optCopy = Entry(*optSendTo, "optCopy", LocalText(13));
+    optPrint = Entry(*optSendTo, "optPrint", LocalText(TextKey::Printer));
+    optSaveBMP = Entry(*optSendTo, "optSaveBMP", LocalText(TextKey::BmpFile));
+    optCopy = Entry(*optSendTo, "optCopy", LocalText(TextKey::Clipboard));
     addSeparator();
-    optLoadConfig = Entry(*this, "optLoadConfig", LocalText(100));
-    optSaveConfig = Entry(*this, "optSaveConfig", LocalText(14));
-    optSaveConfigAs = Entry(*this, "optSaveConfigAs", LocalText(101) + QStringLiteral("..."));
+    optLoadConfig = Entry(*this, "optLoadConfig", LocalText(TextKey::LoadConfiguration));
+    optSaveConfig = Entry(*this, "optSaveConfig", LocalText(TextKey::SaveConfiguration));
+    optSaveConfigAs =
+        Entry(*this, "optSaveConfigAs", LocalText(TextKey::SaveConfigurationAs) + QStringLiteral("..."));
 }
 
 void ViewerMenu::NameElement(const QString& caption) {

@@ -13,10 +13,6 @@ constexpr int LeastWidth = 60;
 constexpr int MostWidth = 240;
 constexpr int RuleMargin = 4;
 
-constexpr int ChartNameKey = 115;
-constexpr int ConfigurationNameKey = 116;
-constexpr int StatusKey = 117;
-
 } // namespace
 
 ViewerStatusBar::ViewerStatusBar(QWidget* parent)
@@ -30,9 +26,9 @@ ViewerStatusBar::ViewerStatusBar(QWidget* parent)
         addWidget(&panel, number == 4 ? 1 : 0);
     }
     Panel(3).hide();
-    Panel(1).setToolTip(LocalText(ChartNameKey));
-    Panel(2).setToolTip(LocalText(ConfigurationNameKey));
-    Panel(4).setToolTip(LocalText(StatusKey));
+    Panel(1).setToolTip(LocalText(TextKey::ChartName));
+    Panel(2).setToolTip(LocalText(TextKey::ConfigurationName));
+    Panel(4).setToolTip(LocalText(TextKey::Status));
 }
 
 void ViewerStatusBar::paintEvent(QPaintEvent* /*event*/) {

@@ -21,8 +21,6 @@ namespace {
 constexpr int SelectorWidth = 2500; // twips
 constexpr int IconSize = 24;        // logical pixels, as the icons are drawn
 
-constexpr int TypeKey = 33;
-
 } // namespace
 
 ViewerToolBar::ViewerToolBar(QWidget* parent) : QToolBar(parent) {
@@ -32,15 +30,15 @@ ViewerToolBar::ViewerToolBar(QWidget* parent) : QToolBar(parent) {
     setFloatable(false);
     setIconSize({IconSize, IconSize});
     AddTypeSelector();
-    AddButton(QStringLiteral("3D"), 15, true);
-    AddButton(QStringLiteral("Stack"), 16, true);
-    AddButton(QStringLiteral("100%"), 17, true);
-    AddButton(QStringLiteral("Flip"), 19, true);
-    AddButton(QStringLiteral("Legend"), 18, true);
+    AddButton(QStringLiteral("3D"), TextKey::In3D, true);
+    AddButton(QStringLiteral("Stack"), TextKey::Stack, true);
+    AddButton(QStringLiteral("100%"), TextKey::FullStack, true);
+    AddButton(QStringLiteral("Flip"), TextKey::Flip, true);
+    AddButton(QStringLiteral("Legend"), TextKey::Legend, true);
     addSeparator();
-    AddButton(QStringLiteral("Load"), 100, false);
-    AddButton(QStringLiteral("Save"), 14, false);
-    AddButton(QStringLiteral("Print"), 102, false);
+    AddButton(QStringLiteral("Load"), TextKey::LoadConfiguration, false);
+    AddButton(QStringLiteral("Save"), TextKey::SaveConfiguration, false);
+    AddButton(QStringLiteral("Print"), TextKey::Print, false);
     for (int number = static_cast<int>(BarButton::ThreeD); number <= actions().size(); ++number) {
         const auto button = static_cast<BarButton>(number);
         connect(Button(button), &QAction::triggered, this, [this, button] { Q_EMIT ButtonClicked(button); });
@@ -56,13 +54,13 @@ void ViewerToolBar::AddTypeSelector() {
     row->setContentsMargins(2, 2, 6, 2);
     cbType_ = new QComboBox(place);
     cbType_->setObjectName(QStringLiteral("cbType"));
-    cbType_->setToolTip(LocalText(TypeKey));
-    cbType_->setAccessibleName(LocalText(TypeKey));
+    cbType_->setToolTip(LocalText(TextKey::ChartType));
+    cbType_->setAccessibleName(LocalText(TextKey::ChartType));
     row->addWidget(cbType_);
     addWidget(place);
 }
 
-void ViewerToolBar::AddButton(const QString& key, int textKey, bool check) {
+void ViewerToolBar::AddButton(const QString& key, TextKey textKey, bool check) {
     const QString text = LocalText(textKey);
     QAction* action = addAction(text);
     action->setObjectName(key);

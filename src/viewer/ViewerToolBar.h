@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text/TextKey.h"
+
 #include <QToolBar>
 
 class QComboBox;
@@ -48,7 +50,7 @@ protected:
 private:
     void AddTypeSelector();
     void FollowPalette();
-    void AddButton(const QString& key, int textKey, bool check);
+    void AddButton(const QString& key, TextKey textKey, bool check);
 
     QComboBox* cbType_ = nullptr;
 };

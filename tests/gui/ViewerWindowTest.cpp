@@ -139,7 +139,7 @@ TEST_F(ViewerWindowTest, TheFileEntrySavesUnderTheChosenName) {
     Choose("optSaveBMP");
     EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(name + QStringLiteral(".bmp")); }));
     EXPECT_TRUE(person.WasAsked());
-    EXPECT_EQ(Part<ViewerStatusBar>("sbGraph").Panel(4).Text(), LocalText(121));
+    EXPECT_EQ(Part<ViewerStatusBar>("sbGraph").Panel(4).Text(), LocalText(TextKey::SnapshotSaved));
 }
 
 TEST_F(ViewerWindowTest, AnExistingFileIsAskedAboutBeforeItIsOverwritten) {

@@ -26,7 +26,7 @@ FLOORS = {
     "apps": 14,
 }
 # The public headers belong to the floors that make them: the vocabulary to the ground, the faces to the top.
-PUBLIC = {"Array.h": "base", "Export.h": "base", "RuntimeError.h": "base", "Variant.h": "base"}
+PUBLIC = {"Array.h": "base", "Export.h": "base", "Language.h": "base", "RuntimeError.h": "base", "Variant.h": "base"}
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
 
 

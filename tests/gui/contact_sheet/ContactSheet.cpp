@@ -16,6 +16,7 @@
 #include "support/SampleCharts.h"
 #include "support/TestStore.h"
 #include "support/TestViewer.h"
+#include "text/Languages.h"
 #include "text/LocalText.h"
 
 #include <QApplication>
@@ -33,7 +34,6 @@ using namespace QmChart6;
 
 namespace {
 
-constexpr int LanguageCount = 4;
 constexpr int Gap = 16;
 
 using Row = QList<QPixmap>;
@@ -143,7 +143,8 @@ void ShowText() {
 }
 
 void ShowFontPicker() {
-    const FontPickerTexts texts{LocalText(80), LocalText(91), LocalText(43), LocalText(44)};
+    const FontPickerTexts texts{LocalText(TextKey::Font), LocalText(TextKey::Color), LocalText(TextKey::Ok),
+                                LocalText(TextKey::Cancel)};
     CurrentDesktop().PickFont(
         nullptr, {.family = QStringLiteral("Arial"), .size = 9, .colour = QColor(20, 60, 140)}, texts);
 }
@@ -174,8 +175,8 @@ void ShowGraphConfigSave() {
 
 bool Make(const QString& file, const std::function<void()>& show) {
     QList<Row> rows;
-    for (std::int16_t language = 0; language < LanguageCount; ++language) {
-        SetLanguageCode(language);
+    for (const LanguageRow& language : Languages()) {
+        SetLanguageCode(static_cast<std::int16_t>(language.number));
         GrabbingDesktop desktop;
         const ScopedDesktop scope(desktop);
         show();

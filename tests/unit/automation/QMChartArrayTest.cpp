@@ -57,7 +57,7 @@ TEST_F(QMChartArrayTest, MkGrGivesASpanishCaptionAndTheDefaultLook) {
     EXPECT_EQ(LanguageCode(), 2);
     EXPECT_EQ(Viewer(QStringLiteral("a"))->windowTitle(), "Chart Viewer");
     EXPECT_EQ(Viewer(QStringLiteral("a"))->findChild<QAction*>(QStringLiteral("optControlBar"))->text(),
-              LocalText(9));
+              LocalText(TextKey::ControlBar));
     EXPECT_EQ(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
     EXPECT_TRUE(desktop.messages.isEmpty());
 }

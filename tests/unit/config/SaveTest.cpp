@@ -34,9 +34,9 @@ TEST_P(SaveTest, ReportsInTheLanguageOfTheProcess) {
     SetLanguageCode(2);
     Fill(viewer, 3, 2);
     Save(viewer, "Look");
-    EXPECT_EQ(viewer.status, LocalText(119));
+    EXPECT_EQ(viewer.status, LocalText(TextKey::ConfigurationSaved));
     SetLanguageCode(0);
-    EXPECT_NE(viewer.status, LocalText(119));
+    EXPECT_NE(viewer.status, LocalText(TextKey::ConfigurationSaved));
 }
 
 TEST_P(SaveTest, AMaximizedViewerIsRestoredWhileItsSizeIsReadAndMaximizedAgain) {

@@ -257,9 +257,11 @@ TEST_F(ConfigurationDialogsTest, AllTextsAreThereInFourLanguages) {
         SetLanguageCode(language);
         desktop.deals.push_back([&](QDialog& form) {
             titles.append(form.windowTitle());
-            EXPECT_EQ(The<QLabel>(form, "lblAvailable").text().remove(u'&'), LocalText(110) + u':');
-            EXPECT_EQ(Check(form, "chkTitles").text().remove(u'&'), LocalText(112));
-            EXPECT_EQ(Check(form, "chkDefault").text().remove(u'&'), LocalText(111));
+            EXPECT_EQ(The<QLabel>(form, "lblAvailable").text().remove(u'&'),
+                      LocalText(TextKey::AvailableConfigurations) + u':');
+            EXPECT_EQ(Check(form, "chkTitles").text().remove(u'&'), LocalText(TextKey::LoadTitles));
+            EXPECT_EQ(Check(form, "chkDefault").text().remove(u'&'),
+                      LocalText(TextKey::MakeDefaultConfiguration));
         });
         Load();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/ScriptedDesktop.h"
+#include "text/Languages.h"
 #include "text/LocalText.h"
 
 #include <QAbstractButton>
@@ -72,4 +73,4 @@ private:
 };
 
 /// The languages that texts are in: their codes are below this.
-inline constexpr std::int16_t LanguageCount = 4;
+inline const auto LanguageCount = static_cast<std::int16_t>(QmChart6::Languages().size());

@@ -1,4 +1,5 @@
 #include "text/LocalText.h"
+#include "text/Languages.h"
 #include "text/StringTable.h"
 
 #include "support/Raises.h"
@@ -12,7 +13,10 @@ namespace QmChart6 {
 namespace {
 
 constexpr std::int32_t lastKey = 121;
-constexpr std::int16_t lastLanguage = 3;
+
+std::int16_t LanguageCount() {
+    return static_cast<std::int16_t>(Languages().size());
+}
 
 /// Sets the process' language and puts English back afterwards.
 class LocalTextTest : public testing::Test {
@@ -20,7 +24,7 @@ protected:
     void TearDown() override { SetLanguageCode(0); }
     static QString TextIn(std::int16_t language, std::int32_t key) {
         SetLanguageCode(language);
-        return LocalText(key);
+        return LocalText(TextKey{key});
     }
     static void ExpectRow(std::int32_t key, const QString& english, const QString& portuguese,
                           const QString& spanish, const QString& italian) {
@@ -32,7 +36,7 @@ protected:
     /// Calls `check` with every text of the table.
     template<class Check>
     static void ForEveryText(Check check) {
-        for (std::int16_t language = 0; language <= lastLanguage; ++language)
+        for (std::int16_t language = 0; language < LanguageCount(); ++language)
             for (std::int32_t key = 0; key <= lastKey; ++key) {
                 SCOPED_TRACE(testing::Message() << "key " << key << ", language " << language);
                 check(TextIn(language, key));
@@ -42,7 +46,7 @@ protected:
 
 TEST_F(LocalTextTest, TheFirstLanguageIsEnglish) {
     EXPECT_EQ(LanguageCode(), 0);
-    EXPECT_EQ(LocalText(0), u"Chart Viewer");
+    EXPECT_EQ(LocalText(TextKey{0}), u"Chart Viewer");
 }
 
 TEST_F(LocalTextTest, KeyZeroIsTranslatedInPortugueseOnly) {
@@ -79,22 +83,22 @@ TEST_F(LocalTextTest, TheOverwriteQuestionKeepsItsStrayBrackets) {
 }
 
 TEST_F(LocalTextTest, TheOverwriteQuestionHasOnePlaceForTheNameInEveryLanguage) {
-    for (std::int16_t language = 0; language <= lastLanguage; ++language)
+    for (std::int16_t language = 0; language < LanguageCount(); ++language)
         EXPECT_EQ(TextIn(language, 113).count(QLatin1Char('_')), 1) << "language " << language;
 }
 
 TEST_F(LocalTextTest, KeysOfTheSameEnglishWordAreKeptApart) {
-    for (const auto key : {56, 66, 75}) EXPECT_EQ(LocalText(key), u"None");
-    for (const auto key : {71, 99}) EXPECT_EQ(LocalText(key), u"Center");
-    for (const auto key : {17, 41}) EXPECT_EQ(LocalText(key), u"100%");
+    for (const auto key : {56, 66, 75}) EXPECT_EQ(LocalText(TextKey{key}), u"None");
+    for (const auto key : {71, 99}) EXPECT_EQ(LocalText(TextKey{key}), u"Center");
+    for (const auto key : {17, 41}) EXPECT_EQ(LocalText(TextKey{key}), u"100%");
     // A line is feminine in Portuguese, a label masculine.
     EXPECT_EQ(TextIn(1, 56), u"Nenhuma");
     EXPECT_EQ(TextIn(1, 66), u"Nenhum");
 }
 
-TEST_F(LocalTextTest, LanguageFourHasNoTextForAnyKey) {
-    SetLanguageCode(4);
-    for (std::int32_t key = 0; key <= lastKey; ++key) EXPECT_RAISES(326, LocalText(key));
+TEST_F(LocalTextTest, TheLanguageBehindTheLastHasNoTextForAnyKey) {
+    SetLanguageCode(LanguageCount());
+    for (std::int32_t key = 0; key <= lastKey; ++key) EXPECT_RAISES(326, LocalText(TextKey{key}));
 }
 
 TEST_F(LocalTextTest, LanguageTenGivesTheEnglishTextOfTheNextKey) {
@@ -103,12 +107,12 @@ TEST_F(LocalTextTest, LanguageTenGivesTheEnglishTextOfTheNextKey) {
         EXPECT_EQ(TextIn(10, key), next) << "key " << key;
     }
     SetLanguageCode(10);
-    EXPECT_RAISES(326, LocalText(lastKey));
+    EXPECT_RAISES(326, LocalText(TextKey{lastKey}));
 }
 
 TEST_F(LocalTextTest, LanguageMinusTenGivesTheEnglishTextOfTheKeyBefore) {
     EXPECT_EQ(TextIn(-10, 1), u"Chart Viewer");
-    EXPECT_RAISES(326, LocalText(0));
+    EXPECT_RAISES(326, LocalText(TextKey{0}));
 }
 
 TEST_F(LocalTextTest, AnyLanguageCodeIsKeptAsItIsGiven) {
@@ -119,15 +123,15 @@ TEST_F(LocalTextTest, AnyLanguageCodeIsKeptAsItIsGiven) {
 }
 
 TEST_F(LocalTextTest, KeysOutsideTheTableAreNotFound) {
-    EXPECT_RAISES(326, LocalText(-1));
-    EXPECT_RAISES(326, LocalText(lastKey + 1));
-    EXPECT_RAISES(326, LocalText(-3000));
+    EXPECT_RAISES(326, LocalText(TextKey{-1}));
+    EXPECT_RAISES(326, LocalText(TextKey{lastKey + 1}));
+    EXPECT_RAISES(326, LocalText(TextKey{-3000}));
 }
 
 TEST_F(LocalTextTest, TheErrorNamesTheId) {
     SetLanguageCode(7);
     try {
-        LocalText(12);
+        LocalText(TextKey{12});
         ADD_FAILURE() << "raised nothing";
     } catch (const RuntimeError& error) {
         EXPECT_TRUE(error.Description().contains(QStringLiteral("30127"))) << error.what();
@@ -137,29 +141,30 @@ TEST_F(LocalTextTest, TheErrorNamesTheId) {
 TEST_F(LocalTextTest, AnIdThatDoesNotFit32BitsOverflows) {
     constexpr auto most = std::numeric_limits<std::int32_t>::max();
     constexpr auto least = std::numeric_limits<std::int32_t>::min();
-    EXPECT_RAISES(6, LocalText(most));
-    EXPECT_RAISES(6, LocalText(least));
-    EXPECT_RAISES(6, LocalText(most / 10 + 1)); // the product
-    EXPECT_RAISES(6, LocalText(most / 10));     // the product fits, the sum does not
+    EXPECT_RAISES(6, LocalText(TextKey{most}));
+    EXPECT_RAISES(6, LocalText(TextKey{least}));
+    EXPECT_RAISES(6, LocalText(TextKey{most / 10 + 1})); // the product
+    EXPECT_RAISES(6, LocalText(TextKey{most / 10}));     // the product fits, the sum does not
     // 2147480000 + 30000 overflows before the language could bring it back.
     SetLanguageCode(-32768);
-    EXPECT_RAISES(6, LocalText(214748000));
+    EXPECT_RAISES(6, LocalText(TextKey{214748000}));
     SetLanguageCode(32767);
-    EXPECT_RAISES(6, LocalText(214745000)); // 2147480000 fits, with the language it does not
+    EXPECT_RAISES(6, LocalText(TextKey{214745000})); // 2147480000 fits, with the language it does not
 }
 
-TEST_F(LocalTextTest, ThereAre488TextsAndNoneIsEmpty) {
+TEST_F(LocalTextTest, EveryLanguageHas122TextsAndNoneIsEmpty) {
     auto texts = 0;
     for (std::int32_t id = 29000; id < 33000; ++id)
         if (const auto text = StringOfId(id)) {
             ++texts;
             EXPECT_FALSE(text->empty()) << "id " << id;
         }
-    EXPECT_EQ(texts, 488);
+    EXPECT_EQ(texts, 122 * LanguageCount());
 }
 
-TEST_F(LocalTextTest, NoIdEndsInADigitFromFourToNine) {
-    for (std::int32_t id = 30000; id < 31220; ++id) EXPECT_EQ(StringOfId(id).has_value(), id % 10 < 4) << id;
+TEST_F(LocalTextTest, NoIdEndsInADigitThatNoLanguageHas) {
+    for (std::int32_t id = 30000; id < 31220; ++id)
+        EXPECT_EQ(StringOfId(id).has_value(), id % 10 < LanguageCount()) << id;
 }
 
 TEST_F(LocalTextTest, TheIdsRunFrom30000To31213) {
@@ -168,6 +173,32 @@ TEST_F(LocalTextTest, TheIdsRunFrom30000To31213) {
     EXPECT_EQ(StringOfId(31210), u"Snapshot Saved");
     EXPECT_TRUE(StringOfId(31213).has_value());
     EXPECT_FALSE(StringOfId(31220).has_value());
+}
+
+TEST_F(LocalTextTest, TheCodesOfTheLanguagesStandInTheOrderOfTheirNumbers) {
+    const QStringList codes = LanguageCodes();
+    EXPECT_EQ(codes.mid(0, 4), (QStringList{"en", "pt", "es", "it"}));
+    EXPECT_EQ(codes.size(), LanguageCount());
+}
+
+TEST_F(LocalTextTest, AChartIsToldInTheWordsOfItsLanguageAndInEnglishWithoutOne) {
+    const auto words = [](std::int16_t number) { return LanguageOrEnglish(number).words->chart().chart; };
+    EXPECT_EQ(words(0), u"Chart");
+    EXPECT_EQ(words(1), u"Gráfico");
+    EXPECT_EQ(words(3), u"Grafico");
+    for (const std::int16_t number : std::array<std::int16_t, 3>{-1, 10, 32767})
+        EXPECT_EQ(words(number), u"Chart");
+}
+
+TEST_F(LocalTextTest, EveryLanguageHasAWordForEveryKindOfChart) {
+    const auto english = Languages().front().words->chart();
+    for (const LanguageRow& language : Languages()) {
+        const auto words = language.words->chart();
+        EXPECT_EQ(words.kinds.size(), english.kinds.size()) << language.code;
+        if (language.number != Language::English) {
+            EXPECT_NE(words.noValue, english.noValue) << language.code;
+        }
+    }
 }
 
 TEST_F(LocalTextTest, NoTextHasBlanksAtItsEndsOrAFinalFullStop) {

@@ -35,7 +35,7 @@ TEST(ChartTypeList, OneColumnHasPieWhileThreeDIsReleased) {
 
 TEST(ChartTypeList, TheTextsAreOfTheLanguageOfTheMoment) {
     SetLanguageCode(1);
-    EXPECT_EQ(ChartTypeTexts(2, false).front(), LocalText(20));
+    EXPECT_EQ(ChartTypeTexts(2, false).front(), LocalText(TextKey::Bar));
     EXPECT_NE(ChartTypeTexts(2, false), SevenTexts);
     SetLanguageCode(0);
 }

@@ -68,7 +68,7 @@ struct EditedElement {
     const char* name;
     PartCode code;
     int index = AnyIndex;
-    int captionKey = 0;
+    TextKey captionKey{};
     bool text = false;
     bool orientation = false;
     bool alignment = false;
@@ -79,13 +79,13 @@ void PrintTo(const EditedElement& element, std::ostream* out) {
 }
 
 constexpr EditedElement TextElements[] = {
-    {"AxisTitle", PartCode::AxisTitle, 0, 1, true, true, false},
-    {"ChartTitle", PartCode::Title, AnyIndex, 2, true, true, true},
-    {"Legend", PartCode::Legend, AnyIndex, 3, false, false, false},
-    {"PointLabel", PartCode::PointLabel, 2, 4, false, true, false},
-    {"AxisLabels", PartCode::AxisLabel, 0, 5, false, false, false},
-    {"Axis", PartCode::Axis, 1, 5, false, false, false},
-    {"Footnote", PartCode::Footnote, AnyIndex, 6, true, false, true},
+    {"AxisTitle", PartCode::AxisTitle, 0, TextKey::AxisTitleProperties, true, true, false},
+    {"ChartTitle", PartCode::Title, AnyIndex, TextKey::ChartTitleProperties, true, true, true},
+    {"Legend", PartCode::Legend, AnyIndex, TextKey::LegendTextProperties, false, false, false},
+    {"PointLabel", PartCode::PointLabel, 2, TextKey::DataLabelsProperties, false, true, false},
+    {"AxisLabels", PartCode::AxisLabel, 0, TextKey::AxisLabelsProperties, false, false, false},
+    {"Axis", PartCode::Axis, 1, TextKey::AxisLabelsProperties, false, false, false},
+    {"Footnote", PartCode::Footnote, AnyIndex, TextKey::FootnoteProperties, true, false, true},
 };
 
 class TextElementTest : public ElementEditingTest, public testing::WithParamInterface<EditedElement> {
@@ -192,7 +192,7 @@ TEST_F(ElementEditingTest, TheMenuKeyAndShiftF10ShowTheMenuOfTheSelectedPart) {
          {std::pair(Qt::Key_Menu, Qt::NoModifier), std::pair(Qt::Key_F10, Qt::ShiftModifier)}) {
         QTest::keyClick(&Control(), key, modifier);
         ASSERT_TRUE(QTest::qWaitFor([this] { return Menu().isVisible(); })) << key;
-        EXPECT_EQ(First().text(), LocalText(6));
+        EXPECT_EQ(First().text(), LocalText(TextKey::FootnoteProperties));
         EXPECT_TRUE(First().isVisible());
         Menu().close();
     }
@@ -221,14 +221,14 @@ TEST_F(ElementEditingTest, TheEntryForTheChartOpensItsDialogWhateverIsSelected) 
 TEST_F(ElementEditingTest, ASeriesOpensTheDialogForSeries) {
     for (const bool byMenu : {false, true}) {
         Person<GraphSeriesProperties> person([](GraphSeriesProperties& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), LocalText(7));
+            EXPECT_EQ(dialog.windowTitle(), LocalText(TextKey::SeriesProperties));
             EXPECT_EQ(The<QLineEdit>(dialog, "txtName").text(), "Series 2");
             ClickIn(dialog, "btnCancel");
         });
         const QPoint place = Place(PartCode::Series, 2);
         if (byMenu) {
             OpenMenu(*form, place);
-            EXPECT_EQ(First().text(), LocalText(7));
+            EXPECT_EQ(First().text(), LocalText(TextKey::SeriesProperties));
             ChooseEntry(*form, "optGenericProperties");
         } else {
             DoubleClick(*form, place);
@@ -350,7 +350,8 @@ TEST_F(ElementEditingTest, TurningAChartByHandMakesItModified) {
 TEST_F(ElementEditingTest, TheCaptionIsInTheLanguageOfItsTime) {
     for (std::int16_t language = 0; language <= 3; ++language) {
         SetLanguageCode(language);
-        EXPECT_EQ(ElementEditing::Caption(static_cast<int>(PartCode::Series)), LocalText(7));
+        EXPECT_EQ(ElementEditing::Caption(static_cast<int>(PartCode::Series)),
+                  LocalText(TextKey::SeriesProperties));
         EXPECT_EQ(ElementEditing::Caption(static_cast<int>(PartCode::Plot)), QString());
         EXPECT_EQ(ElementEditing::Caption(NoPart), QString());
     }

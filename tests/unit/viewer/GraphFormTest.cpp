@@ -189,15 +189,20 @@ TEST_F(GraphFormTest, TheControlBarHasTenPlacesWithTheirToolTips) {
     const ViewerToolBar& bar = ControlBarOf(form);
     ASSERT_EQ(bar.actions().size(), 10);
     EXPECT_TRUE(bar.Button(BarButton::Separator)->isSeparator());
-    const std::pair<BarButton, int> keys[] = {
-        {BarButton::ThreeD, 15}, {BarButton::Stack, 16}, {BarButton::FullStack, 17}, {BarButton::Flip, 19},
-        {BarButton::Legend, 18}, {BarButton::Load, 100}, {BarButton::Save, 14},      {BarButton::Print, 102}};
+    const std::pair<BarButton, TextKey> keys[] = {{BarButton::ThreeD, TextKey::In3D},
+                                                  {BarButton::Stack, TextKey::Stack},
+                                                  {BarButton::FullStack, TextKey::FullStack},
+                                                  {BarButton::Flip, TextKey::Flip},
+                                                  {BarButton::Legend, TextKey::Legend},
+                                                  {BarButton::Load, TextKey::LoadConfiguration},
+                                                  {BarButton::Save, TextKey::SaveConfiguration},
+                                                  {BarButton::Print, TextKey::Print}};
     for (const auto& [button, key] : keys) EXPECT_EQ(bar.Button(button)->toolTip(), LocalText(key));
-    EXPECT_EQ(bar.TypeSelector()->toolTip(), LocalText(33));
+    EXPECT_EQ(bar.TypeSelector()->toolTip(), LocalText(TextKey::ChartType));
     EXPECT_EQ(bar.TypeSelector()->parentWidget()->width(), PixelsOfTwips(2500));
-    EXPECT_EQ(StatusBarOf(form).Panel(1).toolTip(), LocalText(115));
-    EXPECT_EQ(StatusBarOf(form).Panel(2).toolTip(), LocalText(116));
-    EXPECT_EQ(StatusBarOf(form).Panel(4).toolTip(), LocalText(117));
+    EXPECT_EQ(StatusBarOf(form).Panel(1).toolTip(), LocalText(TextKey::ChartName));
+    EXPECT_EQ(StatusBarOf(form).Panel(2).toolTip(), LocalText(TextKey::ConfigurationName));
+    EXPECT_EQ(StatusBarOf(form).Panel(4).toolTip(), LocalText(TextKey::Status));
 }
 
 TEST_F(GraphFormTest, EveryButtonHasAPictureOfItsOwn) {
@@ -214,17 +219,21 @@ TEST_F(GraphFormTest, EveryButtonHasAPictureOfItsOwn) {
 }
 
 TEST_F(GraphFormTest, TheMenuHasItsCaptionsInTheLanguageOfItsTime) {
-    const std::pair<const char*, int> keys[] = {
-        {"optChart", 8}, {"optControlBar", 9},   {"optPrint", 11},     {"optSaveBMP", 12},
-        {"optCopy", 13}, {"optLoadConfig", 100}, {"optSaveConfig", 14}};
+    const std::pair<const char*, TextKey> keys[] = {{"optChart", TextKey::GraphProperties},
+                                                    {"optControlBar", TextKey::ControlBar},
+                                                    {"optPrint", TextKey::Printer},
+                                                    {"optSaveBMP", TextKey::BmpFile},
+                                                    {"optCopy", TextKey::Clipboard},
+                                                    {"optLoadConfig", TextKey::LoadConfiguration},
+                                                    {"optSaveConfig", TextKey::SaveConfiguration}};
     for (std::int16_t language = 0; language <= 3; ++language) {
         SetLanguageCode(language);
         const GraphForm form;
         for (const auto& [name, key] : keys)
             EXPECT_EQ(form.findChild<QAction*>(QLatin1String(name))->text(), LocalText(key));
-        EXPECT_EQ(form.findChild<QMenu*>(QStringLiteral("optSendTo"))->title(), LocalText(10));
+        EXPECT_EQ(form.findChild<QMenu*>(QStringLiteral("optSendTo"))->title(), LocalText(TextKey::SendTo));
         EXPECT_EQ(form.findChild<QAction*>(QStringLiteral("optSaveConfigAs"))->text(),
-                  LocalText(101) + "...");
+                  LocalText(TextKey::SaveConfigurationAs) + "...");
     }
 }
 

@@ -1,0 +1,170 @@
+#include "text/words/Words.h"
+
+namespace QmChart6 {
+
+namespace {
+
+// clang-format off
+constexpr TextRows Texts = [] {
+    using enum TextKey;
+    return TextRows{{
+        {ChartViewer, u"Chart Viewer"},
+        {AxisTitleProperties, u"Proprietà Titolo Asse"},
+        {ChartTitleProperties, u"Proprietà Titolo Grafico"},
+        {LegendTextProperties, u"Proprietà Testo Legenda"},
+        {DataLabelsProperties, u"Proprietà Etichette Dati"},
+        {AxisLabelsProperties, u"Proprietà Etichette Asse"},
+        {FootnoteProperties, u"Proprietà Nota a Piè di Pagina"},
+        {SeriesProperties, u"Proprietà Serie"},
+        {GraphProperties, u"Proprietà Grafico"},
+        {ControlBar, u"Barra di Controllo"},
+        {SendTo, u"Invia A"},
+        {Printer, u"Stampante"},
+        {BmpFile, u"File .BMP"},
+        {Clipboard, u"Appunti"},
+        {SaveConfiguration, u"Salva Configurazione"},
+        {In3D, u"3D"},
+        {Stack, u"Impila"},
+        {FullStack, u"100%"},
+        {Legend, u"Legenda"},
+        {Flip, u"Inverti"},
+        {Bar, u"Barra"},
+        {Line, u"Linea"},
+        {Area, u"Area"},
+        {Step, u"Gradino"},
+        {Combination, u"Combinazione"},
+        {Pie, u"Torta"},
+        {XYScatter, u"XY (Dispersione)"},
+        {BarColumn, u"Barra (Colonna)"},
+        {LineTape, u"Linea (Nastro)"},
+        {General, u"Generale"},
+        {Axes, u"Assi"},
+        {Grid, u"Griglia"},
+        {Labels, u"Etichette"},
+        {ChartType, u"Tipo di Grafico"},
+        {Types2D, u"Tipi 2D"},
+        {Types3D, u"Tipi 3D"},
+        {ChartOptions, u"Opzioni Grafico"},
+        {ShowLegend, u"Mostra Legenda"},
+        {ShowMarkers, u"Mostra Indicatori"},
+        {ShowLines, u"Mostra Linee"},
+        {StackSeries, u"Impila Serie"},
+        {FullStackSeries, u"100%"},
+        {SeriesInRows, u"Serie in Righe (Inverti)"},
+        {Ok, u"OK"},
+        {Cancel, u"Annulla"},
+        {Apply, u"Applica"},
+        {ShowAxes, u"Mostra Assi"},
+        {ShowAxisTitles, u"Mostra Titoli Assi"},
+        {XAxis, u"Asse X"},
+        {PrimaryYAxis, u"Asse Y Primario"},
+        {SecondaryYAxis, u"Asse Y Secondario"},
+        {ZAxis, u"Asse Z"},
+        {XGridLines, u"Linee Griglia X"},
+        {PrimaryYGridLines, u"Linee Griglia Y Primario"},
+        {SecondaryYGridLines, u"Linee Griglia Y Secondario"},
+        {ZGridLines, u"Linee Griglia Z"},
+        {NoLine, u"Nessuna"},
+        {SolidLine, u"Continua"},
+        {DashedLine, u"Tratteggiata"},
+        {DottedLine, u"Punteggiata"},
+        {DataLabels, u"Etichette Dati"},
+        {LabelLines, u"Linee Etichette"},
+        {SeriesName, u"Nome Serie"},
+        {Value, u"Valore"},
+        {Percentage, u"Percentuale"},
+        {PieLabelPosition, u"Posizione Etichetta Torta"},
+        {NoLabel, u"Nessuna"},
+        {Inside, u"Interno"},
+        {Outside, u"Esterno"},
+        {Above, u"Sopra"},
+        {Below, u"Sotto"},
+        {Center, u"Centro"},
+        {Left, u"Sinistra"},
+        {Right, u"Destra"},
+        {Base, u"Base"},
+        {NoLabelLine, u"Nessuna"},
+        {StraightLabelLine, u"Retta"},
+        {BentLabelLine, u"Spezzata"},
+        {TextProperties, u"Proprietà Testo"},
+        {Text, u"Testo"},
+        {Font, u"Carattere"},
+        {Orientation, u"Orientamento"},
+        {Alignment, u"Allineamento"},
+        {Horizontal, u"Orizzontale"},
+        {Vertical, u"Verticale"},
+        {Top, u"In Alto"},
+        {Bottom, u"In Basso"},
+        {XY, u"XY"},
+        {Style, u"Stile"},
+        {Name, u"Nome"},
+        {Type, u"Tipo"},
+        {Color, u"Colore"},
+        {Statistics, u"Statistiche"},
+        {Minimum, u"Minimo"},
+        {Maximum, u"Massimo"},
+        {StandardDeviation, u"Deviazione Standard"},
+        {Mean, u"Media"},
+        {Regression, u"Regressione"},
+        {SaveCurrentConfiguration, u"Salvare le modifiche apportate?"},
+        {LabelCenter, u"Centro"},
+        {LoadConfiguration, u"Carica Configurazione"},
+        {SaveConfigurationAs, u"Salva Configurazione Con Nome"},
+        {Print, u"Stampa"},
+        {Design, u"Aspetto"},
+        {BackgroundColor, u"Colore Sfondo"},
+        {Projection3D, u"Proiezione 3D"},
+        {Perspective, u"Prospettiva"},
+        {Oblique, u"Obliqua"},
+        {Orthogonal, u"Ortogonale"},
+        {Delete, u"Elimina"},
+        {AvailableConfigurations, u"Configurazioni Disponibili"},
+        {MakeDefaultConfiguration, u"Rendi Configurazione Predefinita"},
+        {LoadTitles, u"Carica Titoli"},
+        {ConfigurationExists, u"Configurazione _ Esiste Già. Sostituire?)"},
+        {DeleteConfiguration, u"Elimina Configurazione"},
+        {ChartName, u"Nome Grafico"},
+        {ConfigurationName, u"Nome Configurazione"},
+        {Status, u"Stato"},
+        {ConfigurationLoaded, u"Configurazione Caricata"},
+        {ConfigurationSaved, u"Configurazione Salvata"},
+        {PrintingInProgress, u"Stampa in Corso"},
+        {SnapshotSaved, u"Immagine Salvata"},
+    }};
+}();
+// clang-format on
+static_assert(IsWhole(Texts));
+
+ChartVocabulary ChartWords() {
+    ChartVocabulary words;
+    words.chart = QStringLiteral("Grafico");
+    words.kinds = {
+        {ChartType::Bar3D, QStringLiteral("Grafico a barre 3D")},
+        {ChartType::Bar2D, QStringLiteral("Grafico a barre")},
+        {ChartType::Line3D, QStringLiteral("Grafico a linee 3D")},
+        {ChartType::Line2D, QStringLiteral("Grafico a linee")},
+        {ChartType::Area3D, QStringLiteral("Grafico ad aree 3D")},
+        {ChartType::Area2D, QStringLiteral("Grafico ad aree")},
+        {ChartType::Step3D, QStringLiteral("Grafico a gradini 3D")},
+        {ChartType::Step2D, QStringLiteral("Grafico a gradini")},
+        {ChartType::Combination3D, QStringLiteral("Grafico combinato 3D")},
+        {ChartType::Combination2D, QStringLiteral("Grafico combinato")},
+        {ChartType::Pie2D, QStringLiteral("Grafico a torta")},
+        {ChartType::XY2D, QStringLiteral("Grafico XY")},
+    };
+    words.series = {QStringLiteral("%1 serie"), QStringLiteral("%1 serie")};
+    words.categories = {QStringLiteral("%1 categoria"), QStringLiteral("%1 categorie")};
+    words.points = {QStringLiteral("%1 punto"), QStringLiteral("%1 punti")};
+    words.contents = QStringLiteral("%1 con %2 e %3");
+    words.range = QStringLiteral("valori da %1 a %2");
+    words.withoutValues = QStringLiteral("senza valori");
+    words.noValue = QStringLiteral("nessun valore");
+    words.seriesOfNumber = QStringLiteral("Serie %1");
+    return words;
+}
+
+} // namespace
+
+extern const Words ItalianWords{Texts, ChartWords};
+
+} // namespace QmChart6

@@ -1,0 +1,170 @@
+#include "text/words/Words.h"
+
+namespace QmChart6 {
+
+namespace {
+
+// clang-format off
+constexpr TextRows Texts = [] {
+    using enum TextKey;
+    return TextRows{{
+        {ChartViewer, u"Viewer do Gráfico"},
+        {AxisTitleProperties, u"Propriedades do Título do Eixo"},
+        {ChartTitleProperties, u"Propriedades do Título do Gráfico"},
+        {LegendTextProperties, u"Propriedades do Texto da Legenda"},
+        {DataLabelsProperties, u"Propriedades dos Rótulos de Dados"},
+        {AxisLabelsProperties, u"Propriedades dos Rótulos do Eixo"},
+        {FootnoteProperties, u"Propriedades da Nota de Rodapé"},
+        {SeriesProperties, u"Propriedades da Série"},
+        {GraphProperties, u"Propriedades do Gráfico"},
+        {ControlBar, u"Barra de Controle"},
+        {SendTo, u"Enviar Para"},
+        {Printer, u"Impressora"},
+        {BmpFile, u"Arquivo .BMP"},
+        {Clipboard, u"Área de Transferência"},
+        {SaveConfiguration, u"Salvar Configuração"},
+        {In3D, u"3D"},
+        {Stack, u"Empilhar"},
+        {FullStack, u"100%"},
+        {Legend, u"Legenda"},
+        {Flip, u"Inverter"},
+        {Bar, u"Barra"},
+        {Line, u"Linha"},
+        {Area, u"Área"},
+        {Step, u"Degrau"},
+        {Combination, u"Combinação"},
+        {Pie, u"Pizza"},
+        {XYScatter, u"XY (Dispersão)"},
+        {BarColumn, u"Barra (Coluna)"},
+        {LineTape, u"Linha (Fita)"},
+        {General, u"Geral"},
+        {Axes, u"Eixos"},
+        {Grid, u"Grade"},
+        {Labels, u"Rótulos"},
+        {ChartType, u"Tipo de Gráfico"},
+        {Types2D, u"Tipos 2D"},
+        {Types3D, u"Tipos 3D"},
+        {ChartOptions, u"Opções do Gráfico"},
+        {ShowLegend, u"Mostrar Legenda"},
+        {ShowMarkers, u"Mostrar Marcadores"},
+        {ShowLines, u"Mostrar Linhas"},
+        {StackSeries, u"Empilhar Séries"},
+        {FullStackSeries, u"100%"},
+        {SeriesInRows, u"Séries em Linhas (Inverter)"},
+        {Ok, u"OK"},
+        {Cancel, u"Cancelar"},
+        {Apply, u"Aplicar"},
+        {ShowAxes, u"Mostrar Eixos"},
+        {ShowAxisTitles, u"Mostrar Títulos dos Eixos"},
+        {XAxis, u"Eixo X"},
+        {PrimaryYAxis, u"Eixo Y Primário"},
+        {SecondaryYAxis, u"Eixo Y Secundário"},
+        {ZAxis, u"Eixo Z"},
+        {XGridLines, u"Linhas de Grade X"},
+        {PrimaryYGridLines, u"Linhas de Grade Y Primário"},
+        {SecondaryYGridLines, u"Linhas de Grade Y Secundário"},
+        {ZGridLines, u"Linhas de Grade Z"},
+        {NoLine, u"Nenhuma"},
+        {SolidLine, u"Contínua"},
+        {DashedLine, u"Tracejada"},
+        {DottedLine, u"Pontilhada"},
+        {DataLabels, u"Rótulos de Dados"},
+        {LabelLines, u"Linhas dos Rótulos"},
+        {SeriesName, u"Nome da Série"},
+        {Value, u"Valor"},
+        {Percentage, u"Porcentagem"},
+        {PieLabelPosition, u"Posição do Rótulo da Pizza"},
+        {NoLabel, u"Nenhum"},
+        {Inside, u"Dentro"},
+        {Outside, u"Fora"},
+        {Above, u"Acima"},
+        {Below, u"Abaixo"},
+        {Center, u"Centro"},
+        {Left, u"Esquerda"},
+        {Right, u"Direita"},
+        {Base, u"Base"},
+        {NoLabelLine, u"Nenhuma"},
+        {StraightLabelLine, u"Reta"},
+        {BentLabelLine, u"Quebrada"},
+        {TextProperties, u"Propriedades do Texto"},
+        {Text, u"Texto"},
+        {Font, u"Fonte"},
+        {Orientation, u"Orientação"},
+        {Alignment, u"Alinhamento"},
+        {Horizontal, u"Horizontal"},
+        {Vertical, u"Vertical"},
+        {Top, u"Superior"},
+        {Bottom, u"Inferior"},
+        {XY, u"XY"},
+        {Style, u"Estilo"},
+        {Name, u"Nome"},
+        {Type, u"Tipo"},
+        {Color, u"Cor"},
+        {Statistics, u"Estatísticas"},
+        {Minimum, u"Mínimo"},
+        {Maximum, u"Máximo"},
+        {StandardDeviation, u"Desvio Padrão"},
+        {Mean, u"Média"},
+        {Regression, u"Regressão"},
+        {SaveCurrentConfiguration, u"Salvar Configuração atual?"},
+        {LabelCenter, u"Centro"},
+        {LoadConfiguration, u"Carregar Configuração"},
+        {SaveConfigurationAs, u"Salvar Configuração Como"},
+        {Print, u"Imprimir"},
+        {Design, u"Design"},
+        {BackgroundColor, u"Cor de Fundo"},
+        {Projection3D, u"Projeção 3D"},
+        {Perspective, u"Perspectiva"},
+        {Oblique, u"Oblíqua"},
+        {Orthogonal, u"Ortogonal"},
+        {Delete, u"Excluir"},
+        {AvailableConfigurations, u"Configurações Disponíveis"},
+        {MakeDefaultConfiguration, u"Tornar Configuração Padrão"},
+        {LoadTitles, u"Carregar Títulos"},
+        {ConfigurationExists, u"Configuração _ Já Existe. Sobrescrever?)"},
+        {DeleteConfiguration, u"Excluir Configuração"},
+        {ChartName, u"Nome do Gráfico"},
+        {ConfigurationName, u"Nome da Configuração"},
+        {Status, u"Status"},
+        {ConfigurationLoaded, u"Configuração Carregada"},
+        {ConfigurationSaved, u"Configuração Salva"},
+        {PrintingInProgress, u"Impressão em Andamento"},
+        {SnapshotSaved, u"Imagem Salva"},
+    }};
+}();
+// clang-format on
+static_assert(IsWhole(Texts));
+
+ChartVocabulary ChartWords() {
+    ChartVocabulary words;
+    words.chart = QStringLiteral("Gráfico");
+    words.kinds = {
+        {ChartType::Bar3D, QStringLiteral("Gráfico de barras 3D")},
+        {ChartType::Bar2D, QStringLiteral("Gráfico de barras")},
+        {ChartType::Line3D, QStringLiteral("Gráfico de linhas 3D")},
+        {ChartType::Line2D, QStringLiteral("Gráfico de linhas")},
+        {ChartType::Area3D, QStringLiteral("Gráfico de áreas 3D")},
+        {ChartType::Area2D, QStringLiteral("Gráfico de áreas")},
+        {ChartType::Step3D, QStringLiteral("Gráfico de degraus 3D")},
+        {ChartType::Step2D, QStringLiteral("Gráfico de degraus")},
+        {ChartType::Combination3D, QStringLiteral("Gráfico combinado 3D")},
+        {ChartType::Combination2D, QStringLiteral("Gráfico combinado")},
+        {ChartType::Pie2D, QStringLiteral("Gráfico de pizza")},
+        {ChartType::XY2D, QStringLiteral("Gráfico XY")},
+    };
+    words.series = {QStringLiteral("%1 série"), QStringLiteral("%1 séries")};
+    words.categories = {QStringLiteral("%1 categoria"), QStringLiteral("%1 categorias")};
+    words.points = {QStringLiteral("%1 ponto"), QStringLiteral("%1 pontos")};
+    words.contents = QStringLiteral("%1 com %2 e %3");
+    words.range = QStringLiteral("valores de %1 a %2");
+    words.withoutValues = QStringLiteral("sem valores");
+    words.noValue = QStringLiteral("sem valor");
+    words.seriesOfNumber = QStringLiteral("Série %1");
+    return words;
+}
+
+} // namespace
+
+extern const Words PortugueseWords{Texts, ChartWords};
+
+} // namespace QmChart6

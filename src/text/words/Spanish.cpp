@@ -1,0 +1,170 @@
+#include "text/words/Words.h"
+
+namespace QmChart6 {
+
+namespace {
+
+// clang-format off
+constexpr TextRows Texts = [] {
+    using enum TextKey;
+    return TextRows{{
+        {ChartViewer, u"Chart Viewer"},
+        {AxisTitleProperties, u"Propiedades del Título del Eje"},
+        {ChartTitleProperties, u"Propiedades del Título de la Gráfica"},
+        {LegendTextProperties, u"Propiedades del Texto de la Leyenda"},
+        {DataLabelsProperties, u"Propiedades de las Etiquetas de Datos"},
+        {AxisLabelsProperties, u"Propiedades de las Etiquetas del Eje"},
+        {FootnoteProperties, u"Propiedades de la Nota al Pie"},
+        {SeriesProperties, u"Propiedades de la Serie"},
+        {GraphProperties, u"Propiedades de la Gráfica"},
+        {ControlBar, u"Barra de Control"},
+        {SendTo, u"Enviar A"},
+        {Printer, u"Impresora"},
+        {BmpFile, u"Archivo .BMP"},
+        {Clipboard, u"Portapapeles"},
+        {SaveConfiguration, u"Guardar Configuración"},
+        {In3D, u"3D"},
+        {Stack, u"Apilar"},
+        {FullStack, u"100%"},
+        {Legend, u"Leyenda"},
+        {Flip, u"Invertir"},
+        {Bar, u"Barra"},
+        {Line, u"Línea"},
+        {Area, u"Área"},
+        {Step, u"Escalón"},
+        {Combination, u"Combinación"},
+        {Pie, u"Pastel"},
+        {XYScatter, u"XY (Dispersión)"},
+        {BarColumn, u"Barra (Columna)"},
+        {LineTape, u"Línea (Cinta)"},
+        {General, u"General"},
+        {Axes, u"Ejes"},
+        {Grid, u"Cuadrícula"},
+        {Labels, u"Etiquetas"},
+        {ChartType, u"Tipo de Gráfica"},
+        {Types2D, u"Tipos 2D"},
+        {Types3D, u"Tipos 3D"},
+        {ChartOptions, u"Opciones de la Gráfica"},
+        {ShowLegend, u"Mostrar Leyenda"},
+        {ShowMarkers, u"Mostrar Marcadores"},
+        {ShowLines, u"Mostrar Líneas"},
+        {StackSeries, u"Apilar Series"},
+        {FullStackSeries, u"100%"},
+        {SeriesInRows, u"Series en Filas (Invertir)"},
+        {Ok, u"Aceptar"},
+        {Cancel, u"Cancelar"},
+        {Apply, u"Aplicar"},
+        {ShowAxes, u"Mostrar Ejes"},
+        {ShowAxisTitles, u"Mostrar Títulos de los Ejes"},
+        {XAxis, u"Eje X"},
+        {PrimaryYAxis, u"Eje Y Primario"},
+        {SecondaryYAxis, u"Eje Y Secundario"},
+        {ZAxis, u"Eje Z"},
+        {XGridLines, u"Líneas de Cuadrícula X"},
+        {PrimaryYGridLines, u"Líneas de Cuadrícula Y Primario"},
+        {SecondaryYGridLines, u"Líneas de Cuadrícula Y Secundario"},
+        {ZGridLines, u"Líneas de Cuadrícula Z"},
+        {NoLine, u"Ninguna"},
+        {SolidLine, u"Continua"},
+        {DashedLine, u"Discontinua"},
+        {DottedLine, u"Punteada"},
+        {DataLabels, u"Etiquetas de Datos"},
+        {LabelLines, u"Líneas de las Etiquetas"},
+        {SeriesName, u"Nombre de la Serie"},
+        {Value, u"Valor"},
+        {Percentage, u"Porcentaje"},
+        {PieLabelPosition, u"Posición de la Etiqueta del Pastel"},
+        {NoLabel, u"Ninguna"},
+        {Inside, u"Dentro"},
+        {Outside, u"Fuera"},
+        {Above, u"Encima"},
+        {Below, u"Debajo"},
+        {Center, u"Centro"},
+        {Left, u"Izquierda"},
+        {Right, u"Derecha"},
+        {Base, u"Base"},
+        {NoLabelLine, u"Ninguna"},
+        {StraightLabelLine, u"Recta"},
+        {BentLabelLine, u"Quebrada"},
+        {TextProperties, u"Propiedades del Texto"},
+        {Text, u"Texto"},
+        {Font, u"Fuente"},
+        {Orientation, u"Orientación"},
+        {Alignment, u"Alineación"},
+        {Horizontal, u"Horizontal"},
+        {Vertical, u"Vertical"},
+        {Top, u"Superior"},
+        {Bottom, u"Inferior"},
+        {XY, u"XY"},
+        {Style, u"Estilo"},
+        {Name, u"Nombre"},
+        {Type, u"Tipo"},
+        {Color, u"Color"},
+        {Statistics, u"Estadísticas"},
+        {Minimum, u"Mínimo"},
+        {Maximum, u"Máximo"},
+        {StandardDeviation, u"Desviación Estándar"},
+        {Mean, u"Media"},
+        {Regression, u"Regresión"},
+        {SaveCurrentConfiguration, u"¿Guardar Configuración Actual?"},
+        {LabelCenter, u"Centro"},
+        {LoadConfiguration, u"Cargar Configuración"},
+        {SaveConfigurationAs, u"Guardar Configuración Como"},
+        {Print, u"Imprimir"},
+        {Design, u"Diseño"},
+        {BackgroundColor, u"Color de Fondo"},
+        {Projection3D, u"Proyección 3D"},
+        {Perspective, u"Perspectiva"},
+        {Oblique, u"Oblicua"},
+        {Orthogonal, u"Ortogonal"},
+        {Delete, u"Eliminar"},
+        {AvailableConfigurations, u"Configuraciones Disponibles"},
+        {MakeDefaultConfiguration, u"Hacer Configuración Predeterminada"},
+        {LoadTitles, u"Cargar Títulos"},
+        {ConfigurationExists, u"Configuración _ Ya Existente. Sobreescribir?"},
+        {DeleteConfiguration, u"Eliminar Configuración"},
+        {ChartName, u"Nombre de la Gráfica"},
+        {ConfigurationName, u"Nombre de la Configuración"},
+        {Status, u"Estado"},
+        {ConfigurationLoaded, u"Configuración Cargada"},
+        {ConfigurationSaved, u"Configuración Guardada"},
+        {PrintingInProgress, u"Impresión en Curso"},
+        {SnapshotSaved, u"Imagen Guardada"},
+    }};
+}();
+// clang-format on
+static_assert(IsWhole(Texts));
+
+ChartVocabulary ChartWords() {
+    ChartVocabulary words;
+    words.chart = QStringLiteral("Gráfico");
+    words.kinds = {
+        {ChartType::Bar3D, QStringLiteral("Gráfico de barras 3D")},
+        {ChartType::Bar2D, QStringLiteral("Gráfico de barras")},
+        {ChartType::Line3D, QStringLiteral("Gráfico de líneas 3D")},
+        {ChartType::Line2D, QStringLiteral("Gráfico de líneas")},
+        {ChartType::Area3D, QStringLiteral("Gráfico de áreas 3D")},
+        {ChartType::Area2D, QStringLiteral("Gráfico de áreas")},
+        {ChartType::Step3D, QStringLiteral("Gráfico escalonado 3D")},
+        {ChartType::Step2D, QStringLiteral("Gráfico escalonado")},
+        {ChartType::Combination3D, QStringLiteral("Gráfico combinado 3D")},
+        {ChartType::Combination2D, QStringLiteral("Gráfico combinado")},
+        {ChartType::Pie2D, QStringLiteral("Gráfico de pastel")},
+        {ChartType::XY2D, QStringLiteral("Gráfico XY")},
+    };
+    words.series = {QStringLiteral("%1 serie"), QStringLiteral("%1 series")};
+    words.categories = {QStringLiteral("%1 categoría"), QStringLiteral("%1 categorías")};
+    words.points = {QStringLiteral("%1 punto"), QStringLiteral("%1 puntos")};
+    words.contents = QStringLiteral("%1 con %2 y %3");
+    words.range = QStringLiteral("valores de %1 a %2");
+    words.withoutValues = QStringLiteral("sin valores");
+    words.noValue = QStringLiteral("sin valor");
+    words.seriesOfNumber = QStringLiteral("Serie %1");
+    return words;
+}
+
+} // namespace
+
+extern const Words SpanishWords{Texts, ChartWords};
+
+} // namespace QmChart6

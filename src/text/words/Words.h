@@ -1,0 +1,32 @@
+#pragma once
+
+#include "chartcontrol/widget/ChartVocabulary.h"
+#include "text/TextKey.h"
+
+#include <array>
+#include <string_view>
+
+namespace QmChart6 {
+
+/// What one language says for a key. Odd texts (a lone ")", a viewer left in English) are meant to stay as
+/// they are.
+struct TextRow {
+    TextKey key{};
+    std::u16string_view text;
+};
+using TextRows = std::array<TextRow, TextKeyCount>;
+
+/// Whether every key has its text, at its place. Each language asks that when it is compiled.
+constexpr bool IsWhole(const TextRows& rows) {
+    for (std::size_t place = 0; place < rows.size(); ++place)
+        if (static_cast<std::size_t>(rows[place].key) != place || rows[place].text.empty()) return false;
+    return true;
+}
+
+/// All that one language says.
+struct Words {
+    const TextRows& texts;
+    ChartVocabulary (*chart)(); ///< what a chart is told in
+};
+
+} // namespace QmChart6
