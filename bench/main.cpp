@@ -30,7 +30,7 @@ constexpr double PixelsPerPoint = 4.0 / 3.0;
 QImage Render(const Chart& chart, const QtTextMeasurer& measurer, int width = Width, int height = Height) {
     QImage image(width, height, QImage::Format_RGB32);
     const Scene scene =
-        LayOut(chart, {{width / PixelsPerPoint, height / PixelsPerPoint}, PixelsPerPoint}, measurer);
+        LayOut(chart, {{width / PixelsPerPoint, height / PixelsPerPoint}, PixelsPerPoint}, measurer).scene;
     QPainter painter(&image);
     PaintScene(scene, painter, PixelsPerPoint, PaintTarget::Raster);
     return image;
@@ -48,7 +48,7 @@ void Recolour(Chart& chart, int by) {
 /// How long the layout alone takes.
 double LayoutMilliseconds(const Chart& chart, const QtTextMeasurer& measurer, int runs) {
     return Bench::Median(runs, [&] {
-        LayOut(chart, {{Width / PixelsPerPoint, Height / PixelsPerPoint}, PixelsPerPoint}, measurer);
+        LayOut(chart, {{Width / PixelsPerPoint, Height / PixelsPerPoint}, PixelsPerPoint}, measurer).scene;
     });
 }
 

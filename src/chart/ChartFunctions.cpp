@@ -2,6 +2,7 @@
 
 #include "chart/DefaultLook.h"
 #include "chart/ValueLabelFormat.h"
+#include "chartcontrol/model/ChartKinds.h"
 
 #include <array>
 #include <utility>
@@ -41,48 +42,6 @@ void StyleAddedSeries(Chart& chart, int number, int last, int components) {
     label.VtFont.Name = model.VtFont.Name;
     label.VtFont.Size = model.VtFont.Size;
     label.VtFont.Style = model.VtFont.Style;
-}
-
-LabelLocation FittedToPie(LabelLocation location) {
-    const bool outside = location == LabelLocation::AbovePoint || location == LabelLocation::Outside;
-    return outside ? LabelLocation::Outside : LabelLocation::Inside;
-}
-
-LabelLocation FittedToXY(LabelLocation location) {
-    switch (location) {
-    case LabelLocation::Base:
-        return LabelLocation::BelowPoint;
-    case LabelLocation::Inside:
-        return LabelLocation::Center;
-    case LabelLocation::Outside:
-        return LabelLocation::AbovePoint;
-    case LabelLocation::None:
-    case LabelLocation::AbovePoint:
-    case LabelLocation::BelowPoint:
-    case LabelLocation::Center:
-    case LabelLocation::Left:
-    case LabelLocation::Right:
-        break;
-    }
-    return location;
-}
-
-LabelLocation FittedToAxes(LabelLocation location) {
-    switch (location) {
-    case LabelLocation::Inside:
-    case LabelLocation::Left:
-    case LabelLocation::Right:
-        return LabelLocation::Center;
-    case LabelLocation::Outside:
-        return LabelLocation::AbovePoint;
-    case LabelLocation::None:
-    case LabelLocation::AbovePoint:
-    case LabelLocation::BelowPoint:
-    case LabelLocation::Center:
-    case LabelLocation::Base:
-        break;
-    }
-    return location;
 }
 
 } // namespace
@@ -156,10 +115,7 @@ void SetProjection(Chart& chart, int projection) {
 }
 
 LabelLocation FittedLocation(ChartType type, LabelLocation location) {
-    if (location == LabelLocation::None) return location;
-    if (type == ChartType::Pie2D) return FittedToPie(location);
-    if (type == ChartType::XY2D) return FittedToXY(location);
-    return FittedToAxes(location);
+    return KindOf(type).labels.fitted[static_cast<std::size_t>(location)];
 }
 
 void FitDataLabelLocations(Chart& chart) {

@@ -1,6 +1,7 @@
 #include "dialogs/ChartKinds.h"
 
 #include "chart/ChartFunctions.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "text/LocalText.h"
 
 #include <algorithm>
@@ -62,16 +63,11 @@ TextKey KeyOf(LabelLocation location) {
 
 } // namespace
 
-std::vector<ChartType> ChartKinds(bool threeD, bool oneColumn) {
-    if (threeD) {
-        std::vector kinds{ChartType::Bar3D, ChartType::Line3D, ChartType::Area3D, ChartType::Step3D};
-        if (!oneColumn) kinds.push_back(ChartType::Combination3D);
-        return kinds;
-    }
-    std::vector kinds{ChartType::Bar2D, ChartType::Line2D, ChartType::Area2D, ChartType::Step2D};
-    if (!oneColumn) kinds.push_back(ChartType::Combination2D);
-    kinds.push_back(ChartType::Pie2D);
-    if (!oneColumn) kinds.push_back(ChartType::XY2D);
+std::vector<ChartType> KindsOffered(bool threeD, bool oneColumn) {
+    std::vector<ChartType> kinds;
+    for (const ChartKind& kind : ChartKinds)
+        if ((kind.form == ChartForm::Space) == threeD && !(oneColumn && kind.needsColumns))
+            kinds.push_back(kind.type);
     return kinds;
 }
 
@@ -79,25 +75,20 @@ QString ChartKindText(ChartType kind) {
     return LocalText(KeyOf(kind));
 }
 
-std::vector<LabelLocation> LabelLocations(ChartType type) {
-    if (type == ChartType::Pie2D) return {LabelLocation::None, LabelLocation::Inside, LabelLocation::Outside};
-    if (type == ChartType::XY2D)
-        return {LabelLocation::None,   LabelLocation::AbovePoint, LabelLocation::BelowPoint,
-                LabelLocation::Center, LabelLocation::Left,       LabelLocation::Right};
-    return {LabelLocation::None, LabelLocation::AbovePoint, LabelLocation::BelowPoint, LabelLocation::Center,
-            LabelLocation::Base};
+LabelLocation LocationOffered(ChartType type, int index) {
+    return index < 0 ? LabelLocation::None : KindOf(type).labels.offered[static_cast<std::size_t>(index)];
 }
 
 QStringList LabelLocationTexts(ChartType type) {
     QStringList texts;
-    for (const LabelLocation location : LabelLocations(type)) texts.append(LocalText(KeyOf(location)));
+    for (const LabelLocation location : KindOf(type).labels.offered) texts.append(LocalText(KeyOf(location)));
     return texts;
 }
 
 int IndexOfLabelLocation(ChartType type, LabelLocation location) {
-    const std::vector<LabelLocation> locations = LabelLocations(type);
-    const auto found = std::find(locations.begin(), locations.end(), FittedLocation(type, location));
-    return found == locations.end() ? 0 : static_cast<int>(found - locations.begin());
+    const std::span<const LabelLocation> offered = KindOf(type).labels.offered;
+    const auto found = std::find(offered.begin(), offered.end(), FittedLocation(type, location));
+    return found == offered.end() ? 0 : static_cast<int>(found - offered.begin());
 }
 
 QStringList LabelLineTexts() {

@@ -10,15 +10,15 @@ namespace QmChart6 {
 
 /// The kinds of chart in a dimension, in the order of the list that offers them, for a chart with one data
 /// column or more.
-std::vector<ChartType> ChartKinds(bool threeD, bool oneColumn);
+std::vector<ChartType> KindsOffered(bool threeD, bool oneColumn);
 
 /// What a kind is called in that list, in the process' language.
 QString ChartKindText(ChartType kind);
 
-/// The data-label locations that charts of a type have, in the order of the list that offers them.
-std::vector<LabelLocation> LabelLocations(ChartType type);
+/// The data-label location at a place of the list that offers those of a type; none before the first.
+LabelLocation LocationOffered(ChartType type, int index);
 
-/// What the locations are called, in that order.
+/// What the data-label locations that charts of a type have are called, in the order of that list.
 QStringList LabelLocationTexts(ChartType type);
 
 /// Where a location stands in that list; one that charts of the type do not have stands where the one that

@@ -1,5 +1,6 @@
 #include "dialogs/GraphSeriesProperties.h"
 
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/paint/QtColour.h"
 #include "dialogs/Captions.h"
 #include "dialogs/ChartKinds.h"
@@ -219,8 +220,7 @@ void GraphSeriesProperties::WriteLabels(DataPointLabel& label) const {
 }
 
 std::int16_t GraphSeriesProperties::QmLabels() const {
-    const std::vector<LabelLocation> locations = LabelLocations(chartType_);
-    return static_cast<std::int16_t>(locations.at(static_cast<std::size_t>(cbLabels_->currentIndex())));
+    return static_cast<std::int16_t>(LocationOffered(chartType_, cbLabels_->currentIndex()));
 }
 
 void GraphSeriesProperties::SetQmLabels(std::int16_t code) {

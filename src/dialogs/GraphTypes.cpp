@@ -1,6 +1,7 @@
 #include "dialogs/GraphTypes.h"
 
 #include "chart/ChartFunctions.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/paint/QtColour.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
@@ -182,14 +183,14 @@ void GraphTypes::FillLabels(const SeriesCollection& series) {
 }
 
 std::int16_t GraphTypes::Selected() const {
-    const std::vector<ChartType> kinds = ChartKinds(form_.RB3d->isChecked(), SampleHasOneColumn());
+    const std::vector<ChartType> kinds = KindsOffered(form_.RB3d->isChecked(), SampleHasOneColumn());
     return static_cast<std::int16_t>(kinds.at(static_cast<std::size_t>(form_.LChTypes->currentRow())));
 }
 
 void GraphTypes::SetSelected(std::int16_t type) {
     const ChartType kind = ToChartType(type);
     const bool threeD = Is3D(kind);
-    const std::vector<ChartType> kinds = ChartKinds(threeD, SampleHasOneColumn());
+    const std::vector<ChartType> kinds = KindsOffered(threeD, SampleHasOneColumn());
     const auto found = std::find(kinds.begin(), kinds.end(), kind);
     const QSignalBlocker quiet2d(form_.RB2d);
     const QSignalBlocker quiet3d(form_.RB3d);
@@ -207,7 +208,7 @@ void GraphTypes::FillKinds(int index) {
     {
         const QSignalBlocker quiet(form_.LChTypes);
         form_.LChTypes->clear();
-        for (const ChartType kind : ChartKinds(threeD, SampleHasOneColumn()))
+        for (const ChartType kind : KindsOffered(threeD, SampleHasOneColumn()))
             form_.LChTypes->addItem(ChartKindText(kind));
         form_.LChTypes->setCurrentRow(index >= 0 && index < form_.LChTypes->count() ? index : 0);
     }
@@ -252,9 +253,7 @@ void GraphTypes::RefillLabels(ChartType kind) {
 }
 
 std::int16_t GraphTypes::QmLabels() const {
-    const int index = form_.cbLabels->currentIndex();
-    if (index < 0) return static_cast<std::int16_t>(LabelLocation::None); // before the list is filled
-    return static_cast<std::int16_t>(LabelLocations(labelsOf_).at(static_cast<std::size_t>(index)));
+    return static_cast<std::int16_t>(LocationOffered(labelsOf_, form_.cbLabels->currentIndex()));
 }
 
 void GraphTypes::SetQmLabels(std::int16_t code) {

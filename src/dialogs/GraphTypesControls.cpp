@@ -108,7 +108,7 @@ QWidget* GraphTypesControls::MakeTypes(QWidget* page) {
     // Wide and high enough for every kind, so that nothing scrolls or moves when the dimension changes.
     int width = 0;
     for (const bool threeD : {false, true})
-        for (const ChartType kind : ChartKinds(threeD, false))
+        for (const ChartType kind : KindsOffered(threeD, false))
             width = std::max(width, LChTypes->fontMetrics().horizontalAdvance(ChartKindText(kind)));
     constexpr int Beside = 24;
     constexpr int BetweenLines = 4;

@@ -1,6 +1,7 @@
 #include "viewer/ControlBarCommands.h"
 
 #include "chart/ChartFunctions.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationStore.h"
 #include "dialogs/GraphConfiguration.h"

@@ -93,6 +93,7 @@ TextElement Resolve(Chart& chart, const ChartPart& part) {
     case PartCode::Series:
     case PartCode::SeriesLabel:
     case PartCode::DataPoint:
+    case PartCode::Statistics:
         break;
     }
     return {};

@@ -79,7 +79,7 @@ void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
     const QRectF page = printer.pageRect(QPrinter::DevicePixel);
     const double scale = std::min(page.width() / pageSize.width, page.height() / pageSize.height);
     const LayoutRequest request{.size = pageSize, .pixelsPerPoint = scale};
-    PaintScene(LayOut(ChartOnPaper(chart, factor), request, QtTextMeasurer()), painter, scale,
+    PaintScene(LayOut(ChartOnPaper(chart, factor), request, QtTextMeasurer()).scene, painter, scale,
                PaintTarget::Vector);
     if (!painter.end() || Failed(printer))
         RaisePrinterError(QStringLiteral("\"%1\" did not take the page").arg(printer.printerName()));

@@ -53,16 +53,9 @@ bool TakesTheSameRoom(const Title& left, const Title& right) {
 
 std::optional<CoordinateRect> StandingRect(const Title& title, const Scene& scene) {
     if (title.Location.LocationType == LocationType::Custom) return title.Location.Rect;
-    std::optional<CoordinateRect> rect;
-    for (const std::size_t index : Find(scene, {PartCode::Title})) {
-        const Shape& shape = scene.shapes[index];
-        if (!std::holds_alternative<TextLine>(shape.geometry)) continue;
-        const Box& box = shape.bounds;
-        if (!rect) rect = CoordinateRect{{box.left, box.top}, {box.right, box.bottom}};
-        rect->Min.Set(std::min(rect->Min.X, box.left), std::min(rect->Min.Y, box.top));
-        rect->Max.Set(std::max(rect->Max.X, box.right), std::max(rect->Max.Y, box.bottom));
-    }
-    return rect;
+    const std::optional<Box> text = BoundsOf(scene, {PartCode::Title});
+    if (!text) return std::nullopt;
+    return CoordinateRect{{text->left, text->top}, {text->right, text->bottom}};
 }
 
 void PlaceTitleAround(Title& title, const CoordinateRect& before, const Title& unchanged,

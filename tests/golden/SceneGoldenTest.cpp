@@ -33,7 +33,7 @@ class SceneGolden : public testing::TestWithParam<Samples::Sample> {};
 TEST_P(SceneGolden, IsLaidOutAsBefore) {
     const Samples::Sample& sample = GetParam();
     const Scene scene =
-        LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer());
+        LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer()).scene;
     const QByteArray dump = DumpScene(scene);
     ExpectGolden(QStringLiteral(QMCHART6_SOURCE_DIR "/tests/golden/scenes/%1.json")
                      .arg(QString::fromStdString(sample.name)),
@@ -42,8 +42,8 @@ TEST_P(SceneGolden, IsLaidOutAsBefore) {
 
 TEST_P(SceneGolden, IsReadBackAsItWasDumped) {
     const Samples::Sample& sample = GetParam();
-    const QByteArray dump =
-        DumpScene(LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer()));
+    const QByteArray dump = DumpScene(
+        LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer()).scene);
     EXPECT_EQ(DumpScene(ReadScene(dump)).toStdString(), dump.toStdString());
 }
 

@@ -86,7 +86,7 @@ TEST_P(SessionTest, EndsWithTheChartThatItEndedWith) {
     // Where exactly the title was depends on the machine's fonts.
     EXPECT_EQ(chart.Title.Location.LocationType, LocationType::Custom);
     chart.Title.Location = {};
-    const QByteArray dump = DumpScene(LayOut(chart, {{570, 360}}, StubTextMeasurer()));
+    const QByteArray dump = DumpScene(LayOut(chart, {{570, 360}}, StubTextMeasurer()).scene);
     ExpectGolden(Kept(GetParam().name, "-scene.json"), dump);
 }
 

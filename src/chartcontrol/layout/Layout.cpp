@@ -7,8 +7,10 @@
 #include "chartcontrol/layout/text/BackdropLayout.h"
 #include "chartcontrol/layout/text/LegendLayout.h"
 #include "chartcontrol/layout/text/TitleLayout.h"
+#include "chartcontrol/model/ChartKinds.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace QmChart6 {
 
@@ -28,13 +30,28 @@ Box PlotBox(const Chart& chart, const Box& free, const Box& whole) {
             std::clamp(asked.bottom, whole.top, whole.bottom)};
 }
 
+PointPlaces LayOutPlot(const LayoutContext& context, const Box& box) {
+    const ChartKind& kind = KindOf(context.chart.chartType());
+    switch (kind.form) {
+    case ChartForm::Pies:
+        return PointPlaces(LayOutPies(context, box));
+    case ChartForm::Space:
+        return PointPlaces(LayOutSpace(context, box));
+    case ChartForm::Flat:
+        break;
+    }
+    PlottedArea plot = LayOutCartesian(context, box);
+    return kind.pairsColumns ? PointPlaces(PairPlaces(std::move(plot)))
+                             : PointPlaces(FlatPlaces(std::move(plot)));
+}
+
 } // namespace
 
-Scene LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
-    Scene scene;
-    scene.size = request.size;
-    if (!(request.size.width >= 1 && request.size.height >= 1)) return scene;
-    SceneBuilder builder(scene);
+LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+    LaidOutChart laidOut;
+    laidOut.scene.size = request.size;
+    if (!(request.size.width >= 1 && request.size.height >= 1)) return laidOut;
+    SceneBuilder builder(laidOut.scene);
     const LayoutContext context{chart, request, measurer, builder};
     const Box whole{0, 0, request.size.width, request.size.height};
     LayOutBackdrop(builder, {PartCode::Chart}, chart.Backdrop, whole);
@@ -46,15 +63,10 @@ Scene LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasure
     const Box box = PlotBox(chart, free, whole);
     if (box.Width() < 1 || box.Height() < 1) {
         builder.Warn(QStringLiteral("the chart is too small for its plot"));
-        return scene;
+        return laidOut;
     }
-    if (chart.chartType() == ChartType::Pie2D)
-        LayOutPies(context, box);
-    else if (Is3D(chart.chartType()))
-        LayOutSpace(context, box);
-    else
-        LayOutCartesian(context, box);
-    return scene;
+    laidOut.places = LayOutPlot(context, box);
+    return laidOut;
 }
 
 } // namespace QmChart6

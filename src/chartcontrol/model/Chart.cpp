@@ -1,5 +1,7 @@
 #include "chartcontrol/model/Chart.h"
 
+#include "chartcontrol/model/ChartKinds.h"
+
 namespace QmChart6 {
 
 Chart::Chart() {

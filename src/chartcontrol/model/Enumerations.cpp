@@ -1,7 +1,4 @@
-#include "chartcontrol/model/Enumerations.h"
-
-#include <algorithm>
-#include <initializer_list>
+#include "chartcontrol/model/ChartKinds.h"
 
 namespace QmChart6 {
 
@@ -18,29 +15,24 @@ E InRange(int number, E last, const char* what) {
     return static_cast<E>(number);
 }
 
-template<class E>
-E OneOf(int number, std::initializer_list<E> values, const char* what) {
-    const auto found = std::find(values.begin(), values.end(), static_cast<E>(number));
-    if (found == values.end())
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
-                           QStringLiteral("there is no %1 %2").arg(QString::fromLatin1(what)).arg(number));
-    return *found;
+RuntimeError ThereIsNo(const char* what, int number) {
+    return RuntimeError(ErrorNumber::InvalidPropertyValue,
+                        QStringLiteral("there is no %1 %2").arg(QString::fromLatin1(what)).arg(number));
 }
 
 } // namespace
 
 ChartType ToChartType(int number) {
-    if (number >= 0 && number <= static_cast<int>(ChartType::Combination2D))
-        return static_cast<ChartType>(number);
-    return OneOf(number, {ChartType::Pie2D, ChartType::XY2D}, "chart type");
+    for (const ChartKind& kind : ChartKinds)
+        if (static_cast<int>(kind.type) == number) return kind.type;
+    throw ThereIsNo("chart type", number);
 }
 
 SeriesType ToSeriesType(int number) {
-    return OneOf(number,
-                 {SeriesType::Bar3D, SeriesType::Bar2D, SeriesType::Line3D, SeriesType::Line2D,
-                  SeriesType::Area3D, SeriesType::Area2D, SeriesType::Step3D, SeriesType::Step2D,
-                  SeriesType::XY2D, SeriesType::Pie2D},
-                 "series type");
+    for (const MarkKind& kind : MarkKinds)
+        for (const SeriesType type : kind.series)
+            if (static_cast<int>(type) == number) return type;
+    throw ThereIsNo("series type", number);
 }
 
 PenStyle ToPenStyle(int number) {
@@ -75,44 +67,6 @@ HorizontalAlignment ToHorizontalAlignment(int number) {
 }
 VerticalAlignment ToVerticalAlignment(int number) {
     return InRange(number, VerticalAlignment::Center, "a vertical alignment");
-}
-
-bool Is3D(ChartType type) {
-    return type < ChartType::Pie2D && static_cast<int>(type) % 2 == 0;
-}
-
-bool IsCombination(ChartType type) {
-    return type == ChartType::Combination2D || type == ChartType::Combination3D;
-}
-
-SeriesType SeriesTypeOf(ChartType type, int number, int count) {
-    switch (type) {
-    case ChartType::Bar3D:
-        return SeriesType::Bar3D;
-    case ChartType::Bar2D:
-        return SeriesType::Bar2D;
-    case ChartType::Line3D:
-        return SeriesType::Line3D;
-    case ChartType::Line2D:
-        return SeriesType::Line2D;
-    case ChartType::Area3D:
-        return SeriesType::Area3D;
-    case ChartType::Area2D:
-        return SeriesType::Area2D;
-    case ChartType::Step3D:
-        return SeriesType::Step3D;
-    case ChartType::Step2D:
-        return SeriesType::Step2D;
-    case ChartType::Combination3D:
-        return number <= (count + 1) / 2 ? SeriesType::Bar3D : SeriesType::Line3D;
-    case ChartType::Combination2D:
-        return number <= (count + 1) / 2 ? SeriesType::Bar2D : SeriesType::Line2D;
-    case ChartType::Pie2D:
-        return SeriesType::Pie2D;
-    case ChartType::XY2D:
-        return SeriesType::XY2D;
-    }
-    return SeriesType::Bar2D;
 }
 
 } // namespace QmChart6

@@ -128,11 +128,4 @@ Orientation ToOrientation(int number);
 HorizontalAlignment ToHorizontalAlignment(int number);
 VerticalAlignment ToVerticalAlignment(int number);
 
-bool Is3D(ChartType type);
-bool IsCombination(ChartType type);
-
-/// What series `number` (from 1) of `count` draws as when the chart's type is set: in a combination the first
-/// half are bars and the rest lines, otherwise every series is what the chart is.
-SeriesType SeriesTypeOf(ChartType type, int number, int count);
-
 } // namespace QmChart6

@@ -1,5 +1,6 @@
 #include "chartcontrol/model/Series.h"
 
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/model/Palette.h"
 
 namespace QmChart6 {

@@ -48,7 +48,8 @@ QByteArray EncodePicture(const Picture& picture, PictureFormat format, int scale
     const Scene scene = LayOut(picture.chart,
                                {{picture.width * PointsPerPixel, picture.height * PointsPerPixel},
                                 bitmap ? scale / PointsPerPixel : VectorPixelsPerPoint},
-                               measurer);
+                               measurer)
+                            .scene;
     switch (format) {
     case PictureFormat::Bmp:
         return EncodeBmp(ImageOfScene(scene, scale));

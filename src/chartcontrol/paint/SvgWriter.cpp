@@ -62,6 +62,7 @@ const char* ClassOf(PartCode code) {
     case PartCode::Plot:
         return "plot";
     case PartCode::Series:
+    case PartCode::Statistics:
         return "series";
     case PartCode::SeriesLabel:
         return "series-label";
@@ -77,6 +78,11 @@ const char* ClassOf(PartCode code) {
         return "axis-title";
     }
     return "part";
+}
+
+/// Whether the class of such parts tells their number too.
+bool IsNumbered(PartCode code) {
+    return code == PartCode::Series || code == PartCode::Statistics || code == PartCode::Axis;
 }
 
 class SvgWriter {
@@ -189,8 +195,7 @@ private:
         clip_ = shape.clip;
         const QByteArray name = ClassOf(part.code);
         svg_ += "<g class=\"" + name;
-        if (part.code == PartCode::Series || part.code == PartCode::Axis)
-            svg_ += ' ' + name + '-' + QByteArray::number(part.index1);
+        if (IsNumbered(part.code)) svg_ += ' ' + name + '-' + QByteArray::number(part.index1);
         svg_ += '"';
         if (clip_ != NoClip) svg_ += " clip-path=\"url(#clip" + QByteArray::number(clip_) + ")\"";
         svg_ += ">\n";

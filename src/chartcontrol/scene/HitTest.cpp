@@ -120,4 +120,15 @@ std::vector<std::size_t> Find(const Scene& scene, Part part) {
     return found;
 }
 
+std::optional<Box> BoundsOf(const Scene& scene, Part part) {
+    std::optional<Box> bounds;
+    for (const std::size_t index : Find(scene, part)) {
+        const Box& box = scene.shapes[index].bounds;
+        if (!bounds) bounds = box;
+        bounds = {std::min(bounds->left, box.left), std::min(bounds->top, box.top),
+                  std::max(bounds->right, box.right), std::max(bounds->bottom, box.bottom)};
+    }
+    return bounds;
+}
+
 } // namespace QmChart6

@@ -16,6 +16,9 @@ bool Covers(const Scene& scene, const Shape& shape, Point point, double slack = 
 /// The index of the topmost shape that covers the point.
 std::optional<std::size_t> Hit(const Scene& scene, Point point, double slack = 2);
 
+/// The box round all shapes that show a part; nothing where there are none. AnyIndex stands for any.
+std::optional<Box> BoundsOf(const Scene& scene, Part part);
+
 /// The indexes of the shapes that show a part; AnyIndex as index1 or index2 stands for any.
 std::vector<std::size_t> Find(const Scene& scene, Part part);
 

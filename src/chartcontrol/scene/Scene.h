@@ -60,13 +60,16 @@ enum class PartCode {
     Axis = 9,
     AxisLabel = 10,
     AxisTitle = 11,
+    /// The statistics lines of a series. Outside the scene they are the series.
+    Statistics = 12,
 };
 
 /// In a part that is looked for: an index that may be any. 0 is an index like others, the X axis' for one.
 inline constexpr int AnyIndex = -1;
 
 /// What a shape shows: the part and its indexes. index1 is the axis id of an axis part, the series number of
-/// a series, data point or label; index2 the data point (0: none in particular) or the index of the axis.
+/// a series, its statistics, a data point or label; index2 the data point (0: none in particular) or the
+/// index of the axis.
 struct Part {
     PartCode code = PartCode::Chart;
     int index1 = 0;

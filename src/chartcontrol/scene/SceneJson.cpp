@@ -61,9 +61,9 @@ QByteArray ColourText(Colour colour) {
 }
 
 QByteArray PartName(PartCode code) {
-    static constexpr std::array Names{"chart",      "title",  "footnote",    "legend",
-                                      "plot",       "series", "seriesLabel", "dataPoint",
-                                      "pointLabel", "axis",   "axisLabel",   "axisTitle"};
+    static constexpr std::array Names{"chart",     "title",       "footnote",  "legend",     "plot",
+                                      "series",    "seriesLabel", "dataPoint", "pointLabel", "axis",
+                                      "axisLabel", "axisTitle",   "statistics"};
     return Names.at(static_cast<std::size_t>(code));
 }
 

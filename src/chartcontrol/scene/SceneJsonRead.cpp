@@ -136,8 +136,9 @@ Geometry ReadGeometry(const Reader& reader, Scene& scene) {
 Shape ReadShape(const Reader& reader, Scene& scene) {
     Shape shape;
     const QJsonArray part = reader.Array("part", 3);
-    shape.part = {static_cast<PartCode>(reader.ToInteger(part[0], "part", 0, 11)),
-                  reader.ToInteger(part[1], "part", -Any, Any), reader.ToInteger(part[2], "part", -Any, Any)};
+    shape.part = {
+        static_cast<PartCode>(reader.ToInteger(part[0], "part", 0, static_cast<int>(PartCode::Statistics))),
+        reader.ToInteger(part[1], "part", -Any, Any), reader.ToInteger(part[2], "part", -Any, Any)};
     shape.geometry = ReadGeometry(reader, scene);
     if (reader.Has("stroke")) {
         const QJsonArray stroke = reader.Array("stroke", 3);

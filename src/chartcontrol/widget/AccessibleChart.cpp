@@ -1,9 +1,8 @@
 #include "chartcontrol/widget/AccessibleChart.h"
 
 #include "base/Twips.h"
-#include "chartcontrol/layout/PointAt.h"
+#include "chartcontrol/layout/SelectionHandles.h"
 #include "chartcontrol/layout/data/SeriesLook.h"
-#include "chartcontrol/scene/SelectionHandles.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "chartcontrol/widget/ChartWords.h"
 
@@ -187,16 +186,16 @@ QAccessibleInterface* AccessiblePart::child(int index) const {
 
 QRect AccessiblePart::rect() const {
     if (!isValid()) return {};
-    const Scene& scene = control_->CurrentScene();
+    const LaidOutChart& laidOut = control_->CurrentLayout();
     const QPoint corner = control_->mapToGlobal(QPoint(0, 0));
     if (point_ > 0) {
-        const auto place = PlaceOfPoint(std::as_const(*control_).Model(), scene, {series_, point_});
+        const auto place = laidOut.places.At({series_, point_});
         if (!place) return {};
         const QPoint center = PixelOf(*place).toPoint() + corner;
         return {center.x() - PointExtent / 2, center.y() - PointExtent / 2, PointExtent, PointExtent};
     }
     QPolygonF places;
-    for (const Point& place : HandlePlaces(scene, {PartCode::Series, series_, AnyIndex}))
+    for (const Point& place : HandlePlaces(laidOut, {PartCode::Series, series_, AnyIndex}))
         places += PixelOf(place);
     if (places.isEmpty()) return {};
     const int half = PointExtent / 2;

@@ -31,7 +31,7 @@ void ChartControl::SetRepaint(bool on) {
 
 void ChartControl::Refresh() {
     if (!repaint_) return;
-    scene_.reset();
+    laidOut_.reset();
     DropSelectionThatIsGone();
     update();
 }
@@ -40,16 +40,16 @@ double ChartControl::PixelsPerPoint() const {
     return devicePixelRatioF() / PointsPerPixel;
 }
 
-const Scene& ChartControl::CurrentScene() {
+const LaidOutChart& ChartControl::CurrentLayout() {
     const double pixelsPerPoint = PixelsPerPoint();
     const bool otherScreen = repaint_ && scenePixelsPerPoint_ != pixelsPerPoint;
-    if (!scene_ || otherScreen) {
+    if (!laidOut_ || otherScreen) {
         const Size size{width() * PointsPerPixel, height() * PointsPerPixel};
-        scene_ = LayOut(chart_, {.size = size, .pixelsPerPoint = pixelsPerPoint}, QtTextMeasurer());
+        laidOut_ = LayOut(chart_, {.size = size, .pixelsPerPoint = pixelsPerPoint}, QtTextMeasurer());
         scenePixelsPerPoint_ = pixelsPerPoint;
         picture_ = QImage();
     }
-    return *scene_;
+    return *laidOut_;
 }
 
 void ChartControl::CopyToClipboard() const {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "chartcontrol/model/Chart.h"
-#include "chartcontrol/scene/Scene.h"
+#include "chartcontrol/layout/Layout.h"
 #include "chartcontrol/widget/ChartPart.h"
 #include "chartcontrol/widget/ChartVocabulary.h"
 
@@ -40,7 +39,9 @@ public:
     void Refresh();
 
     /// The scene of the model at the widget's size, laid out when it is asked for and out of date.
-    [[nodiscard]] const Scene& CurrentScene();
+    [[nodiscard]] const Scene& CurrentScene() { return CurrentLayout().scene; }
+    /// The same, with the places of the data points.
+    [[nodiscard]] const LaidOutChart& CurrentLayout();
 
     /// Puts the chart on the clipboard as SVG, PNG, BMP, EMF, PDF and its table as tab-separated text, each
     /// made when it is asked for, all from the chart as it is now.
@@ -99,7 +100,7 @@ private:
     ChartVocabulary vocabulary_;
     [[nodiscard]] const QImage& CurrentPicture();
 
-    std::optional<Scene> scene_;
+    std::optional<LaidOutChart> laidOut_;
     QImage picture_; // of the scene; none while it is not painted
     double scenePixelsPerPoint_ = 0;
     bool repaint_ = true;

@@ -1,5 +1,6 @@
 #include "base/Twips.h"
-#include "chartcontrol/layout/PointAt.h"
+#include "chartcontrol/layout/data/DataPointHit.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "chartcontrol/widget/ChartWords.h"
 #include "chartcontrol/widget/PartWalk.h"

@@ -1,7 +1,6 @@
 #include "base/Twips.h"
-#include "chartcontrol/layout/PointAt.h"
+#include "chartcontrol/layout/SelectionHandles.h"
 #include "chartcontrol/paint/PaintScene.h"
-#include "chartcontrol/scene/SelectionHandles.h"
 #include "chartcontrol/widget/AccessibleChart.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "qmchart6/RuntimeError.h"
@@ -17,7 +16,7 @@ void ChartControl::TwipsToChartPart(int x, int y, int& part, int& index1, int& i
     const bool isInside = x >= 0 && y >= 0 && x < TwipsOfPixels(width()) && y < TwipsOfPixels(height());
     const double pointsPerTwip = PointsPerPixel / TwipsPerPixel;
     const ChartPart found =
-        isInside ? PartAt(chart_, CurrentScene(), {x * pointsPerTwip, y * pointsPerTwip}) : ChartPart{};
+        isInside ? PartAt(CurrentLayout(), {x * pointsPerTwip, y * pointsPerTwip}) : ChartPart{};
     part = found.part;
     index1 = found.index1;
     index2 = found.index2;
@@ -27,7 +26,7 @@ void ChartControl::TwipsToChartPart(int x, int y, int& part, int& index1, int& i
 
 ChartPart ChartControl::PartAtPixel(const QPointF& place) {
     if (!QRectF(rect()).contains(place)) return {};
-    return PartAt(chart_, CurrentScene(), {place.x() * PointsPerPixel, place.y() * PointsPerPixel});
+    return PartAt(CurrentLayout(), {place.x() * PointsPerPixel, place.y() * PointsPerPixel});
 }
 
 void ChartControl::SelectPart(int part, int index1, int index2, int index3, int index4) {
@@ -63,10 +62,9 @@ void ChartControl::DropSelectionThatIsGone() {
 
 QPoint ChartControl::PlaceOfSelection() {
     std::optional<Point> place;
-    if (selected_.IsOfSeries())
-        place = PlaceOfPoint(chart_, CurrentScene(), {selected_.index1, selected_.index2});
+    if (selected_.IsOfSeries()) place = CurrentLayout().places.At({selected_.index1, selected_.index2});
     if (!place && !selected_.IsNone()) {
-        const std::vector<Point> handles = HandlePlaces(CurrentScene(), ShapesOf(selected_));
+        const std::vector<Point> handles = HandlePlaces(CurrentLayout(), ShapesOf(selected_));
         if (!handles.empty()) place = handles.front();
     }
     if (!place) return rect().center();
@@ -75,10 +73,10 @@ QPoint ChartControl::PlaceOfSelection() {
 
 void ChartControl::PaintSelection(QPainter& painter) {
     if (selected_.IsNone()) return;
-    const Scene& scene = CurrentScene();
+    const LaidOutChart& laidOut = CurrentLayout();
     std::optional<Point> current;
-    if (selected_.IsOfSeries()) current = PlaceOfPoint(chart_, scene, {selected_.index1, selected_.index2});
-    PaintScene(SelectionHandles(scene, ShapesOf(selected_), current), painter, 1 / PointsPerPixel,
+    if (selected_.IsOfSeries()) current = laidOut.places.At({selected_.index1, selected_.index2});
+    PaintScene(SelectionHandles(laidOut, ShapesOf(selected_), current), painter, 1 / PointsPerPixel,
                PaintTarget::Raster);
 }
 

@@ -1,6 +1,5 @@
 #include "chartcontrol/widget/ChartPart.h"
 
-#include "chartcontrol/layout/PointAt.h"
 #include "chartcontrol/scene/HitTest.h"
 #include "qmchart6/RuntimeError.h"
 
@@ -18,9 +17,9 @@ bool ChartPart::IsOfSeries() const {
     return part == static_cast<int>(PartCode::Series) || part == static_cast<int>(PartCode::DataPoint);
 }
 
-ChartPart PartAt(const Chart& chart, const Scene& scene, Point place) {
-    const std::optional<std::size_t> hit = Hit(scene, place);
-    const Part part = hit ? scene.shapes[*hit].part : Part{};
+ChartPart PartAt(const LaidOutChart& laidOut, Point place) {
+    const std::optional<std::size_t> hit = Hit(laidOut.scene, place);
+    const Part part = hit ? laidOut.scene.shapes[*hit].part : Part{};
     const int code = static_cast<int>(part.code);
     switch (part.code) {
     case PartCode::Chart:
@@ -32,9 +31,11 @@ ChartPart PartAt(const Chart& chart, const Scene& scene, Point place) {
     case PartCode::Series:
     case PartCode::SeriesLabel:
     case PartCode::DataPoint:
-    case PartCode::PointLabel: {
-        const std::optional<DataPointHit> point = PointAt(chart, scene, part, place);
-        return {code, part.index1, point ? point->category : part.index2};
+    case PartCode::PointLabel:
+    case PartCode::Statistics: {
+        const std::optional<DataPointHit> point = laidOut.places.Of(part, place);
+        const PartCode shown = part.code == PartCode::Statistics ? PartCode::Series : part.code;
+        return {static_cast<int>(shown), part.index1, point ? point->category : part.index2};
     }
     case PartCode::Axis:
     case PartCode::AxisLabel:
@@ -62,6 +63,7 @@ Part ShapesOf(const ChartPart& part) {
     case PartCode::Footnote:
     case PartCode::Legend:
     case PartCode::Plot:
+    case PartCode::Statistics:
         break;
     }
     return {code, AnyIndex, AnyIndex};

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "chartcontrol/model/Chart.h"
-#include "chartcontrol/scene/Scene.h"
+#include "chartcontrol/layout/Layout.h"
 
 #include <optional>
 
@@ -28,7 +27,7 @@ struct ChartPart {
 };
 
 /// The part that covers a place, in points; the chart itself where no other does.
-ChartPart PartAt(const Chart& chart, const Scene& scene, Point place);
+ChartPart PartAt(const LaidOutChart& laidOut, Point place);
 
 /// The shapes of a part that is not NoPart, as Find takes them: a series' shapes whatever point is named.
 Part ShapesOf(const ChartPart& part);

@@ -28,7 +28,7 @@ QString SeriesWords(const ChartVocabulary& words, const Chart& chart, int series
 }
 
 QString PointWords(const ChartVocabulary& words, const Chart& chart, DataPointHit point) {
-    if (chart.chartType() == ChartType::XY2D) {
+    if (PairsColumns(chart)) {
         const XYPairs pairs(chart, point.series);
         return QStringLiteral("%1; %2").arg(NumberWords(words, pairs.X(point.category - 1)),
                                             NumberWords(words, pairs.Y(point.category - 1)));
@@ -56,7 +56,7 @@ QString ChartWords(const ChartVocabulary& words, const Chart& chart) {
             greatest = std::max(greatest, values[i]);
         }
     }
-    const bool isXY = chart.chartType() == ChartType::XY2D;
+    const bool isXY = PairsColumns(chart);
     const QString what =
         words.contents.arg(words.kinds.at(chart.chartType()), CountedWords(words.series, drawn),
                            CountedWords(isXY ? words.points : words.categories, chart.CategoryCount()));

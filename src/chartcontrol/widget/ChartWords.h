@@ -1,6 +1,6 @@
 #pragma once
 
-#include "chartcontrol/layout/PointAt.h"
+#include "chartcontrol/layout/data/DataPointHit.h"
 #include "chartcontrol/widget/ChartVocabulary.h"
 
 #include <QString>

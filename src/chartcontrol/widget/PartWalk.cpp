@@ -1,6 +1,6 @@
 #include "chartcontrol/widget/PartWalk.h"
 
-#include "chartcontrol/layout/PointAt.h"
+#include "chartcontrol/layout/data/DataPointHit.h"
 #include "chartcontrol/layout/data/SeriesLook.h"
 
 #include <algorithm>

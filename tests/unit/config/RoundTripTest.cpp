@@ -12,7 +12,7 @@ using namespace QmChart6;
 namespace {
 
 QByteArray DumpOf(const Chart& chart) {
-    return DumpScene(LayOut(chart, {.size = {480, 320}}, QtTextMeasurer()));
+    return DumpScene(LayOut(chart, {.size = {480, 320}}, QtTextMeasurer()).scene);
 }
 
 /// Everything of a viewer that a look holds.

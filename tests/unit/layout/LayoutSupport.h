@@ -11,8 +11,13 @@
 namespace QmChart6 {
 
 /// The chart laid out with the stub font, in points.
-inline Scene LaidOut(const Chart& chart, Size size = {480, 315}, double pixelsPerPoint = 4.0 / 3.0) {
+inline LaidOutChart LaidOutWhole(const Chart& chart, Size size = {480, 315},
+                                 double pixelsPerPoint = 4.0 / 3.0) {
     return LayOut(chart, {size, pixelsPerPoint}, StubTextMeasurer());
+}
+
+inline Scene LaidOut(const Chart& chart, Size size = {480, 315}, double pixelsPerPoint = 4.0 / 3.0) {
+    return LaidOutWhole(chart, size, pixelsPerPoint).scene;
 }
 
 /// The shapes of one kind of geometry that show a part.

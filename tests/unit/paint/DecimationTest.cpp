@@ -65,8 +65,8 @@ const std::vector<Case>& Cases() {
 void ExpectSamePicture(const Chart& chart) {
     const QtTextMeasurer measurer;
     constexpr double sofine = 400;
-    const Scene picked = LayOut(chart, {PictureSize, PixelsPerPoint}, measurer);
-    const Scene all = LayOut(chart, {PictureSize, sofine}, measurer);
+    const Scene picked = LayOut(chart, {PictureSize, PixelsPerPoint}, measurer).scene;
+    const Scene all = LayOut(chart, {PictureSize, sofine}, measurer).scene;
     ASSERT_LT(picked.points.size() + picked.shapes.size(), all.points.size() + all.shapes.size());
     const QImage one = Painted(picked, PaintTarget::Raster);
     const bool bars = chart.chartType() == ChartType::Bar2D;

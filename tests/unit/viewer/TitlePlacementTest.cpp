@@ -22,7 +22,7 @@ Scene SceneOf(const Title& title) {
     Chart chart;
     chart.SetGridSize(3, 2);
     chart.Title = title;
-    return LayOut(chart, {ChartSize}, StubTextMeasurer());
+    return LayOut(chart, {ChartSize}, StubTextMeasurer()).scene;
 }
 
 Coordinate CenterOf(const CoordinateRect& rect) {

@@ -56,10 +56,9 @@ TEST_F(ChartPartTest, EveryTypesMarksAreItsSeries) {
         SCOPED_TRACE(name);
         chart.Model() = Samples::Named(name).make();
         chart.Refresh();
-        const Scene& scene = chart.CurrentScene();
         int met = 0;
         for (int category = 1; category <= chart.Model().CategoryCount(); ++category) {
-            const auto place = PlaceOfPoint(chart.Model(), scene, {1, category});
+            const auto place = chart.CurrentLayout().places.At({1, category});
             if (!place) continue;
             const ChartPart part = PartAtPixels(PixelOf(*place));
             met += part == ChartPart{5, 1, category} ? 1 : 0;

@@ -195,8 +195,7 @@ TEST_F(InputTest, ATipTellsSeriesCategoryAndValue) {
 
 TEST_F(InputTest, ATipOnALineTellsTheNearestPoint) {
     Show("line-4-series");
-    const Scene& scene = chart.CurrentScene();
-    const auto place = PlaceOfPoint(chart.Model(), scene, {1, 4});
+    const auto place = chart.CurrentLayout().places.At({1, 4});
     ASSERT_TRUE(place.has_value());
     const double value = chart.Model().SeriesValues(1)[3];
     EXPECT_EQ(TipAt(PixelOf(*place)), QStringLiteral("North\nApril: %1").arg(value));
@@ -207,7 +206,7 @@ TEST_F(InputTest, ATipInAnXYChartTellsBothNumbers) {
     chart.Model().DataGrid.SetValue(1, 1, 210);
     chart.Model().DataGrid.SetValue(1, 2, 62.5);
     chart.Refresh();
-    const auto place = PlaceOfPoint(chart.Model(), chart.CurrentScene(), {1, 1});
+    const auto place = chart.CurrentLayout().places.At({1, 1});
     ASSERT_TRUE(place.has_value());
     EXPECT_TRUE(TipAt(PixelOf(*place)).endsWith(QStringLiteral("\n210; 62.5")));
 }

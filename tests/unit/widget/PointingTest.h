@@ -1,6 +1,5 @@
 #pragma once
 
-#include "chartcontrol/layout/PointAt.h"
 #include "chartcontrol/scene/HitTest.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "support/SampleCharts.h"

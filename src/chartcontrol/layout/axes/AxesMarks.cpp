@@ -115,7 +115,7 @@ void LayOutGrid(const LayoutContext& context, const PlotDemand& demand, const Ax
     const Plot& plot = context.chart.Plot;
     const Box& box = plan.area.box;
     if (HasGrid(plot.Axis(AxisId::X))) {
-        if (demand.isXY)
+        if (demand.pairsColumns)
             for (int i = 0; i < plan.across.ticks.count; ++i)
                 GridAt(context, AxisId::X, box, plan.area.across.At(plan.across.ticks.At(i)));
         else
@@ -142,7 +142,7 @@ void LayOutAxes(const LayoutContext& context, const PlotDemand& demand, const Ax
     if (plan.showX) {
         const double y = demand.keepZero ? PlotArea::BaseOf(plan.area.primary) : area.bottom;
         AxisLine(context, AxisId::X, {area.left, y}, {area.right, y});
-        if (demand.isXY)
+        if (demand.pairsColumns)
             AcrossLabels(context, plan);
         else
             CategoryAxis(context, plan);

@@ -116,7 +116,7 @@ private:
     }
 
     void PlanAcross() {
-        if (demand_.isXY) {
+        if (demand_.pairsColumns) {
             plan_.across = PlanValueAxis(context_, AxisOf(AxisId::X),
                                          {demand_.across, false, plan_.area.box.Width(), true});
             return;
@@ -130,14 +130,14 @@ private:
     }
 
     [[nodiscard]] double AcrossDepth() const {
-        return demand_.isXY ? plan_.across.line.Height() : plan_.categories.Depth();
+        return demand_.pairsColumns ? plan_.across.line.Height() : plan_.categories.Depth();
     }
 
     /// Labels at the ends of the horizontal axis may reach beyond the plot, but not beyond the box.
     void LeaveRoomForOverhang(double titlesLeft, double titlesRight) {
         double left = 0;
         double right = 0;
-        if (demand_.isXY && plan_.showX) {
+        if (demand_.pairsColumns && plan_.showX) {
             left = plan_.across.labels.front().width / 2;
             right = plan_.across.labels.back().width / 2;
         }

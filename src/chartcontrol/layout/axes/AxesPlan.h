@@ -12,7 +12,8 @@ namespace QmChart6 {
 
 /// What the series of a plot with axes ask of its axes.
 struct PlotDemand {
-    bool isXY = false;
+    /// The axis across carries numbers, not categories.
+    bool pairsColumns = false;
     /// Points stand on the ends of the axis, as areas do that have it to themselves.
     bool onEnds = false;
     bool keepZero = false;
@@ -20,17 +21,13 @@ struct PlotDemand {
     ValueRange across;
     ValueRange primary;
     ValueRange secondary;
-    std::vector<int> bars;
-    std::vector<int> areas;
-    std::vector<int> others;
+    /// The series that are drawn.
+    std::vector<int> series;
 
     [[nodiscard]] bool HasValues() const { return !primary.IsEmpty() || !secondary.IsEmpty(); }
 };
 
 PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted);
-
-/// Whether the first and the last category stand on the ends of the axis: where all series are areas.
-bool StandsOnEnds(const Chart& chart);
 
 /// How much of the axes' furniture is drawn; a small chart does without some.
 enum class Furniture { All, NoTitles, None };

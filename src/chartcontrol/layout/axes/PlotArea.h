@@ -1,6 +1,5 @@
 #pragma once
 
-#include "chartcontrol/model/Chart.h"
 #include "chartcontrol/scale/LinearMap.h"
 #include "chartcontrol/scene/Scene.h"
 
@@ -21,9 +20,7 @@ struct PlotArea {
     double pixelsPerPoint = 1;
 
     [[nodiscard]] double CategoryX(int category) const { return firstX + category * slot; }
-    [[nodiscard]] const LinearMap& MapOf(const Series& series) const {
-        return series.SecondaryAxis ? secondary : primary;
-    }
+    [[nodiscard]] const LinearMap& MapOf(bool onSecondary) const { return onSecondary ? secondary : primary; }
     /// Where bars and areas of the map stand: at zero, or at the end of the axis that is nearest to it.
     [[nodiscard]] static double BaseOf(const LinearMap& map) {
         return map.At(map.low > 0 ? map.low : map.high < 0 ? map.high : 0);

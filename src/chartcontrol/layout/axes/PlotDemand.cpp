@@ -16,7 +16,7 @@ void IncludeAll(ValueRange& range, const Values& values) {
     for (int i = 0; i < values.count; ++i) range.Include(values[i]);
 }
 
-void AddXY(PlotDemand& demand, const Chart& chart, int number) {
+void IncludePairs(PlotDemand& demand, const Chart& chart, int number) {
     ValueRange& upright =
         chart.Plot.SeriesCollection(number).SecondaryAxis ? demand.secondary : demand.primary;
     const XYPairs pairs(chart, number);
@@ -29,49 +29,32 @@ void AddXY(PlotDemand& demand, const Chart& chart, int number) {
     }
     demand.across.Include(x);
     upright.Include(y);
-    demand.others.push_back(number);
 }
 
-void AddSeries(PlotDemand& demand, const Chart& chart, const PlottedValues& plotted, int number) {
-    const Series& series = chart.Plot.SeriesCollection(number);
-    IncludeAll(series.SecondaryAxis ? demand.secondary : demand.primary, plotted.Top(number));
-    switch (MarkKindOf(chart, number)) {
-    case MarkKind::Bar:
-        demand.bars.push_back(number);
-        break;
-    case MarkKind::Area:
-        demand.areas.push_back(number);
-        break;
-    case MarkKind::Line:
-    case MarkKind::Step:
-    case MarkKind::XY:
-    case MarkKind::Pie:
-        demand.others.push_back(number);
-        break;
-    }
+/// Whether the first and the last category stand on the ends of the axis: where all series are areas.
+bool StandsOnEnds(const Chart& chart) {
+    const int count = chart.Plot.SeriesCollection.Count();
+    for (int number = 1; number <= count; ++number)
+        if (!KindOf(MarkOfSeries(chart, number)).reachesEnds) return false;
+    return count > 0 && chart.CategoryCount() > 1;
 }
 
 } // namespace
 
-bool StandsOnEnds(const Chart& chart) {
-    const int count = chart.Plot.SeriesCollection.Count();
-    for (int number = 1; number <= count; ++number)
-        if (MarkKindOf(chart, number) != MarkKind::Area) return false;
-    return count > 0 && chart.CategoryCount() > 1;
-}
-
 PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted) {
     PlotDemand demand;
-    demand.isXY = chart.chartType() == ChartType::XY2D;
+    demand.pairsColumns = PairsColumns(chart);
+    demand.keepZero = plotted.IsChanged();
     for (int number = 1; number <= chart.Plot.SeriesCollection.Count(); ++number) {
-        if (!IsDrawn(chart, number)) continue;
-        demand.usesSecondary = demand.usesSecondary || chart.Plot.SeriesCollection(number).SecondaryAxis;
-        if (demand.isXY)
-            AddXY(demand, chart, number);
+        if (!plotted.IsDrawn(number)) continue;
+        demand.series.push_back(number);
+        demand.keepZero = demand.keepZero || KindOf(plotted.MarkOf(number)).standsOnZero;
+        demand.usesSecondary = demand.usesSecondary || plotted.IsSecondary(number);
+        if (demand.pairsColumns)
+            IncludePairs(demand, chart, number);
         else
-            AddSeries(demand, chart, plotted, number);
+            IncludeAll(plotted.IsSecondary(number) ? demand.secondary : demand.primary, plotted.Top(number));
     }
-    demand.keepZero = !demand.bars.empty() || !demand.areas.empty() || plotted.IsChanged();
     demand.onEnds = StandsOnEnds(chart);
     return demand;
 }

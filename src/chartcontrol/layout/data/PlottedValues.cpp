@@ -76,29 +76,34 @@ double Whole(double share) {
 } // namespace
 
 PlottedValues::PlottedValues(const Chart& chart)
-    : chart_(chart), series_(chart.Plot.SeriesCollection.Count()), categories_(chart.CategoryCount()) {
-    if (chart.chartType() == ChartType::XY2D || chart.chartType() == ChartType::Pie2D) return;
-    stacked_ = chart.Stacking;
+    : grid_(chart.DataGrid), inRows_(chart.Plot.DataSeriesInRow), categories_(chart.CategoryCount()) {
     bool shares = false;
-    for (int number = 1; number <= series_; ++number) shares = shares || IsShare(number);
+    for (int number = 1; number <= chart.Plot.SeriesCollection.Count(); ++number) {
+        const Series& series = chart.Plot.SeriesCollection(number);
+        const bool share = chart.Plot.Axis(AxisOf(series)).AxisScale.Type == ScaleType::Percent;
+        series_.push_back(
+            {MarkOfSeries(chart, number), QmChart6::IsDrawn(chart, number), series.SecondaryAxis, share});
+        shares = shares || share;
+    }
+    if (!KindOf(chart.chartType()).stacks) return;
+    stacked_ = chart.Stacking;
     if (!shares && !stacked_) return;
-    tops_.resize(static_cast<std::size_t>(series_) * static_cast<std::size_t>(categories_));
-    for (int number = 1; number <= series_; ++number) {
-        const Values values = chart.SeriesValues(number);
+    tops_.resize(series_.size() * static_cast<std::size_t>(categories_));
+    for (int number = 1; number <= SeriesCount(); ++number) {
+        const Values values = OfGrid(number);
         for (int category = 0; category < categories_; ++category)
             At(tops_, number, category) = values[category];
     }
-    if (shares) ToShares();
+    if (shares) ToShares(chart);
     if (stacked_) Stack();
 }
 
-bool PlottedValues::IsShare(int series) const {
-    return chart_.Plot.Axis(AxisOf(chart_.Plot.SeriesCollection(series))).AxisScale.Type ==
-           ScaleType::Percent;
+Values PlottedValues::OfGrid(int series) const {
+    return inRows_ ? grid_.Row(series) : grid_.ColumnWithBlocks(series);
 }
 
 Values PlottedValues::Top(int series) const {
-    if (tops_.empty()) return chart_.SeriesValues(series);
+    if (tops_.empty()) return OfGrid(series);
     return {tops_.data() + static_cast<std::ptrdiff_t>(series - 1) * categories_, 1, categories_, nullptr,
             nullptr};
 }
@@ -114,12 +119,12 @@ double& PlottedValues::At(std::vector<double>& table, int series, int category) 
                  static_cast<std::size_t>(category)];
 }
 
-void PlottedValues::ToShares() {
-    const Bases bases(chart_, series_, categories_);
-    for (int number = 1; number <= series_; ++number) {
+void PlottedValues::ToShares(const Chart& chart) {
+    const Bases bases(chart, SeriesCount(), categories_);
+    for (int number = 1; number <= SeriesCount(); ++number) {
         if (!IsShare(number)) continue;
-        const PercentBasis basis =
-            chart_.Plot.Axis(AxisOf(chart_.Plot.SeriesCollection(number))).AxisScale.PercentBasis;
+        const AxisId axis = IsSecondary(number) ? AxisId::SecondaryY : AxisId::Y;
+        const PercentBasis basis = chart.Plot.Axis(axis).AxisScale.PercentBasis;
         for (int category = 0; category < categories_; ++category) {
             double& value = At(tops_, number, category);
             const double whole = bases.Of(basis, number, category);
@@ -130,7 +135,6 @@ void PlottedValues::ToShares() {
 
 void PlottedValues::Stack() {
     // Series pile up by axis and by kind of mark; what is negative piles up downwards.
-    constexpr std::size_t kinds = 6;
     constexpr std::size_t axes = 2;
     struct Pile {
         double up = 0;
@@ -138,17 +142,17 @@ void PlottedValues::Stack() {
     };
     bases_.resize(tops_.size());
     for (int category = 0; category < categories_; ++category) {
-        std::array<Pile, kinds * axes> piles{};
-        for (int number = 1; number <= series_; ++number) {
-            const std::size_t axis = chart_.Plot.SeriesCollection(number).SecondaryAxis ? 1 : 0;
-            Pile& pile = piles[static_cast<std::size_t>(MarkKindOf(chart_, number)) * axes + axis];
+        std::array<Pile, MarkKinds.size() * axes> piles{};
+        for (int number = 1; number <= SeriesCount(); ++number) {
+            const Drawn& drawn = Of(number);
+            Pile& pile = piles[static_cast<std::size_t>(drawn.mark) * axes + (drawn.secondary ? 1 : 0)];
             double& top = At(tops_, number, category);
             const double value = top;
             double& level = value < 0 ? pile.down : pile.up;
             At(bases_, number, category) = level;
             if (std::isnan(value)) continue;
             level += value;
-            top = IsShare(number) ? Whole(level) : level;
+            top = drawn.share ? Whole(level) : level;
         }
     }
 }

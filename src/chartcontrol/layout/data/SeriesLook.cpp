@@ -4,26 +4,12 @@
 
 namespace QmChart6 {
 
-MarkKind MarkKindOf(const Chart& chart, int series) {
-    if (chart.chartType() == ChartType::Pie2D) return MarkKind::Pie;
-    if (chart.chartType() == ChartType::XY2D) return MarkKind::XY;
-    switch (chart.Plot.SeriesCollection(series).SeriesType) {
-    case SeriesType::Line3D:
-    case SeriesType::Line2D:
-    case SeriesType::XY2D:
-        return MarkKind::Line;
-    case SeriesType::Area3D:
-    case SeriesType::Area2D:
-        return MarkKind::Area;
-    case SeriesType::Step3D:
-    case SeriesType::Step2D:
-        return MarkKind::Step;
-    case SeriesType::Bar3D:
-    case SeriesType::Bar2D:
-    case SeriesType::Pie2D:
-        break;
-    }
-    return MarkKind::Bar;
+Mark MarkOfSeries(const Chart& chart, int series) {
+    return MarkOf(chart.chartType(), chart.Plot.SeriesCollection(series).SeriesType);
+}
+
+bool PairsColumns(const Chart& chart) {
+    return KindOf(chart.chartType()).pairsColumns;
 }
 
 MarkerStyle MarkerStyleOf(const Series& series, int number) {
@@ -46,12 +32,12 @@ Stroke LineStrokeOf(const Series& series) {
 }
 
 bool IsDrawn(const Chart& chart, int series) {
-    return chart.chartType() != ChartType::XY2D || series % 2 == 1;
+    return !PairsColumns(chart) || series % 2 == 1;
 }
 
 QString LegendName(const Chart& chart, int series) {
     const QString& own = chart.SeriesName(series);
-    if (chart.chartType() != ChartType::XY2D || series == chart.Plot.SeriesCollection.Count()) return own;
+    if (!PairsColumns(chart) || series == chart.Plot.SeriesCollection.Count()) return own;
     const QString& next = chart.SeriesName(series + 1);
     if (own.isEmpty() || next.isEmpty()) return own + next;
     return own + QStringLiteral(" / ") + next;

@@ -1,15 +1,18 @@
 #pragma once
 
 #include "chartcontrol/model/Chart.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/scene/SceneBuilder.h"
 
 namespace QmChart6 {
 
 // How a series is drawn, decided once for the plot and for the legend.
 
-/// What a series is drawn as. The 3D types are the same marks in space.
-enum class MarkKind { Bar, Line, Area, Step, XY, Pie };
-MarkKind MarkKindOf(const Chart& chart, int series);
+/// What a series is drawn with. The 3D types are the same marks in space.
+Mark MarkOfSeries(const Chart& chart, int series);
+
+/// Whether columns belong together in pairs, as in an XY chart.
+bool PairsColumns(const Chart& chart);
 
 /// The style of a series' markers; an automatic one goes by the series' number.
 MarkerStyle MarkerStyleOf(const Series& series, int number);

@@ -11,8 +11,11 @@ namespace QmChart6 {
 class XYPairs {
 public:
     XYPairs(const Chart& chart, int series)
-        : own_(chart.SeriesValues(series)), paired_(series < chart.Plot.SeriesCollection.Count()),
-          next_(paired_ ? chart.SeriesValues(series + 1) : own_) {}
+        : XYPairs(chart.SeriesValues(series),
+                  series < chart.Plot.SeriesCollection.Count() ? chart.SeriesValues(series + 1) : Values{}) {}
+    /// `next` without values where the series is unpaired.
+    XYPairs(const Values& own, const Values& next)
+        : own_(own), paired_(next.first != nullptr), next_(paired_ ? next : own) {}
 
     [[nodiscard]] int Count() const { return own_.count; }
     [[nodiscard]] double X(int index) const { return paired_ ? own_[index] : index + 1; }

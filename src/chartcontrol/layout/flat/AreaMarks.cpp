@@ -12,7 +12,7 @@ namespace {
 constexpr double LoneShare = 0.1;
 
 void AddEdgePoints(const PlotContext& context, int number, const Runs& runs, std::size_t run) {
-    const LinearMap& map = context.MapOf(number);
+    const LinearMap& map = context.plot.MapOf(number);
     for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
         context.builder.AddPoint(
             {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
@@ -21,7 +21,7 @@ void AddEdgePoints(const PlotContext& context, int number, const Runs& runs, std
 /// The way back along what a series is piled on.
 void AddBasePoints(const PlotContext& context, int number, const Values& bases, const Runs& runs,
                    std::size_t run) {
-    const LinearMap& map = context.MapOf(number);
+    const LinearMap& map = context.plot.MapOf(number);
     for (std::size_t i = runs.starts[run + 1]; i-- > runs.starts[run];) {
         const int category = runs.samples[i].category;
         context.builder.AddPoint({context.area.CategoryX(category), map.At(bases[category])});
@@ -35,18 +35,18 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
     const double end = context.area.CategoryX(last.category);
     if (&first == &last) {
         const double lone = LoneShare * context.area.slot / 2;
-        const double y = context.Y(number, first.value);
-        const double base =
-            bases.first == nullptr ? context.BaseY(number) : context.Y(number, bases[first.category]);
+        const double y = context.plot.Y(number, first.value);
+        const double base = bases.first == nullptr ? context.plot.BaseY(number)
+                                                   : context.plot.Y(number, bases[first.category]);
         for (const Point& point : {Point{start - lone, base}, Point{start - lone, y}, Point{start + lone, y},
                                    Point{start + lone, base}})
             context.builder.AddPoint(point);
         return;
     }
-    if (bases.first == nullptr) context.builder.AddPoint({start, context.BaseY(number)});
+    if (bases.first == nullptr) context.builder.AddPoint({start, context.plot.BaseY(number)});
     AddEdgePoints(context, number, runs, run);
     if (bases.first == nullptr)
-        context.builder.AddPoint({end, context.BaseY(number)});
+        context.builder.AddPoint({end, context.plot.BaseY(number)});
     else
         AddBasePoints(context, number, bases, runs, run);
 }

@@ -1,21 +1,24 @@
 #pragma once
 
-#include "chartcontrol/layout/flat/PlotContext.h"
+#include "chartcontrol/layout/axes/PlotArea.h"
+#include "chartcontrol/layout/data/PlottedValues.h"
 
 #include <vector>
 
 namespace QmChart6 {
 
 /// How the bars of one category share its slot: their width, and where each series' bar starts, from the
-/// middle of the slot. The order is that of the series that it was made for.
+/// middle of the slot.
 struct BarCluster {
     double barWidth = 0;
-    std::vector<double> left;
+    std::vector<double> left; // by the series' number - 1; of bars only
+
+    [[nodiscard]] double LeftOf(int series) const { return left[static_cast<std::size_t>(series) - 1]; }
 };
 
 /// The cluster of the bar series. Piled series stand in one place, one for each value axis. BarGap and XGap
 /// of the plot are percents of a bar's width; a bar is never wider than a sixth of the plot, so that few do
 /// not become walls.
-BarCluster ClusterOf(const PlotContext& context, const std::vector<int>& series);
+BarCluster ClusterOf(const Plot& plot, const PlottedValues& plotted, const PlotArea& area);
 
 } // namespace QmChart6

@@ -2,13 +2,13 @@
 
 #include "chartcontrol/layout/axes/AxesMarks.h"
 #include "chartcontrol/layout/axes/AxesPlan.h"
-#include "chartcontrol/layout/data/SeriesLook.h"
 #include "chartcontrol/layout/flat/DataLabels.h"
 #include "chartcontrol/layout/flat/Marks.h"
 #include "chartcontrol/layout/flat/PlotContext.h"
 #include "chartcontrol/layout/flat/StatisticsLines.h"
 
 #include <algorithm>
+#include <array>
 
 namespace QmChart6 {
 
@@ -34,38 +34,56 @@ bool MayOverflow(const Chart& chart) {
     return false;
 }
 
+/// How a mark is drawn: all its series at once, or each by itself, and how many points a sample of it takes.
+struct Drawing {
+    Mark mark;
+    double points = 1;
+    void (*all)(const PlotContext& context, const std::vector<int>& series) = nullptr;
+    void (*one)(const PlotContext& context, int series) = nullptr;
+};
+
+/// What is drawn at once comes first, in this order; then the others, in the order of the series.
+constexpr std::array Drawings{
+    Drawing{.mark = Mark::Area, .points = 2, .all = LayOutAreas},
+    Drawing{.mark = Mark::Bar, .points = 0, .all = LayOutBars},
+    Drawing{.mark = Mark::Line, .one = LayOutLine},
+    Drawing{.mark = Mark::Step, .points = 2, .one = LayOutStep},
+    Drawing{.mark = Mark::XY, .one = LayOutXY},
+};
+
+const Drawing* DrawingOf(Mark mark) {
+    const auto found = std::find_if(Drawings.begin(), Drawings.end(),
+                                    [mark](const Drawing& drawing) { return drawing.mark == mark; });
+    return found == Drawings.end() ? nullptr : &*found;
+}
+
 /// Points that the series will need at the most.
 std::size_t MostPoints(const PlotContext& context, const PlotDemand& demand) {
     constexpr double pointsOfColumn = 4;
     const double columns = context.area.box.Width() * context.area.pixelsPerPoint + 1;
-    const double each = demand.isXY
-                            ? context.chart.CategoryCount()
-                            : std::min<double>(context.chart.CategoryCount(), pointsOfColumn * columns);
-    return static_cast<std::size_t>(each *
-                                    static_cast<double>(demand.areas.size() * 2 + demand.others.size()));
+    const double samples = demand.pairsColumns
+                               ? context.plotted.CategoryCount()
+                               : std::min<double>(context.plotted.CategoryCount(), pointsOfColumn * columns);
+    double points = 0;
+    for (const int series : demand.series)
+        if (const Drawing* drawing = DrawingOf(context.plotted.MarkOf(series)))
+            points += samples * drawing->points;
+    return static_cast<std::size_t>(points);
 }
 
 void LayOutMarks(const PlotContext& context, const PlotDemand& demand) {
     context.builder.Reserve(MostPoints(context, demand));
     if (MayOverflow(context.chart)) context.builder.SetClip(context.area.box);
-    LayOutAreas(context, demand.areas);
-    LayOutBars(context, demand.bars);
-    for (const int series : demand.others) {
-        switch (MarkKindOf(context.chart, series)) {
-        case MarkKind::Line:
-            LayOutLine(context, series);
-            break;
-        case MarkKind::Step:
-            LayOutStep(context, series);
-            break;
-        case MarkKind::XY:
-            LayOutXY(context, series);
-            break;
-        case MarkKind::Bar:
-        case MarkKind::Area:
-        case MarkKind::Pie:
-            break;
-        }
+    for (const Drawing& drawing : Drawings) {
+        if (drawing.all == nullptr) continue;
+        std::vector<int> together;
+        for (const int series : demand.series)
+            if (context.plotted.MarkOf(series) == drawing.mark) together.push_back(series);
+        drawing.all(context, together);
+    }
+    for (const int series : demand.series) {
+        const Drawing* drawing = DrawingOf(context.plotted.MarkOf(series));
+        if (drawing != nullptr && drawing->one != nullptr) drawing->one(context, series);
     }
     LayOutStatistics(context);
     context.builder.SetClip({});
@@ -73,17 +91,21 @@ void LayOutMarks(const PlotContext& context, const PlotDemand& demand) {
 
 } // namespace
 
-void LayOutCartesian(const LayoutContext& context, const Box& box) {
-    const PlottedValues plotted(context.chart);
-    const PlotDemand demand = DemandOf(context.chart, plotted);
+PlottedArea LayOutCartesian(const LayoutContext& context, const Box& box) {
+    PlottedArea finished;
+    finished.plotted = PlottedValues(context.chart);
+    const PlotDemand demand = DemandOf(context.chart, finished.plotted);
     if (!demand.HasValues()) context.builder.Warn(QStringLiteral("there is no value to show"));
     const AxesPlan plan = PlanThatFits(context, demand, box);
+    finished.area = plan.area;
+    finished.bars = ClusterOf(context.chart.Plot, finished.plotted, finished.area);
     context.builder.AddRectangle({PartCode::Plot}, plan.area.box, {});
     LayOutGrid(context, demand, plan);
-    const PlotContext plot{context, plan.area, plotted};
+    const PlotContext plot{context, finished};
     LayOutMarks(plot, demand);
     LayOutAxes(context, demand, plan, box);
-    LayOutDataLabels(plot, demand.bars);
+    LayOutDataLabels(plot);
+    return finished;
 }
 
 } // namespace QmChart6

@@ -2,7 +2,6 @@
 
 #include "chartcontrol/layout/data/SeriesLook.h"
 #include "chartcontrol/layout/data/XYPairs.h"
-#include "chartcontrol/layout/flat/BarCluster.h"
 #include "chartcontrol/layout/text/LabelLines.h"
 #include "chartcontrol/layout/text/LabelPlaces.h"
 #include "chartcontrol/layout/text/LabelText.h"
@@ -32,9 +31,8 @@ struct Candidate {
 
 class Labeller {
 public:
-    Labeller(const PlotContext& context, const std::vector<int>& bars)
-        : context_(context), bars_(bars), cluster_(ClusterOf(context, bars)),
-          taken_(context.area.box.Grown(1)), texts_(context.chart) {}
+    explicit Labeller(const PlotContext& context)
+        : context_(context), taken_(context.area.box.Grown(1)), texts_(context.chart) {}
 
     void Run() {
         for (int number = 1; number <= context_.chart.Plot.SeriesCollection.Count(); ++number)
@@ -56,7 +54,7 @@ private:
         const DataPoints& points = SeriesOf(number).DataPoints;
         if (!ShowsLabel(points.Item(DataPoints::All).DataPointLabel) && !points.HasOwn()) return;
         const std::size_t first = candidates_.size();
-        if (MarkKindOf(context_.chart, number) == MarkKind::XY)
+        if (PairsColumns(context_.chart))
             CollectXY(number);
         else
             CollectCategories(number);
@@ -97,21 +95,16 @@ private:
         const Series& series = SeriesOf(number);
         const double half =
             LineLookOf(series).markers ? series.DataPoints.Item(DataPoints::All).Marker.Size / 2 : 0;
-        const double y = context_.Y(number, value);
+        const double y = context_.plot.Y(number, value);
         return {{x - half, y - half, x + half, y + half}, false, value < 0};
     }
 
     [[nodiscard]] LabelAnchor AnchorOf(int number, int category) const {
-        const double x = context_.area.CategoryX(category);
         const double top = context_.plotted.Top(number)[category];
-        const auto bar = std::find(bars_.begin(), bars_.end(), number);
-        if (bar == bars_.end()) return PointAt(number, x, top);
-        const Values bases = context_.plotted.Base(number);
-        const double base =
-            bases.first == nullptr ? context_.BaseY(number) : context_.Y(number, bases[category]);
-        const double left = x + cluster_.left[static_cast<std::size_t>(bar - bars_.begin())];
-        const double y = context_.Y(number, top);
-        return {{left, std::min(y, base), left + cluster_.barWidth, std::max(y, base)}, true, y > base};
+        if (context_.plotted.MarkOf(number) != Mark::Bar)
+            return PointAt(number, context_.area.CategoryX(category), top);
+        const bool down = context_.plot.Y(number, top) > context_.plot.BaseY(number, category);
+        return {context_.plot.BarOf(number, category), true, down};
     }
 
     bool Place(const Candidate& candidate) {
@@ -143,8 +136,6 @@ private:
     }
 
     const PlotContext& context_;
-    const std::vector<int>& bars_;
-    BarCluster cluster_;
     Occupancy taken_;
     LabelTexts texts_;
     std::vector<Candidate> candidates_;
@@ -152,8 +143,8 @@ private:
 
 } // namespace
 
-void LayOutDataLabels(const PlotContext& context, const std::vector<int>& bars) {
-    Labeller(context, bars).Run();
+void LayOutDataLabels(const PlotContext& context) {
+    Labeller(context).Run();
 }
 
 } // namespace QmChart6

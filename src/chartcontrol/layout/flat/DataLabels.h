@@ -2,13 +2,11 @@
 
 #include "chartcontrol/layout/flat/PlotContext.h"
 
-#include <vector>
-
 namespace QmChart6 {
 
-/// The data labels of a plot with axes. `bars` are the series drawn as bars, in order. A label that would
+/// The data labels of a plot with axes. A label that would
 /// cover another or leave the plot moves to the next best place; where there is none it is left out, the
 /// least telling first: those that are neither the ends nor the extremes of their series.
-void LayOutDataLabels(const PlotContext& context, const std::vector<int>& bars);
+void LayOutDataLabels(const PlotContext& context);
 
 } // namespace QmChart6

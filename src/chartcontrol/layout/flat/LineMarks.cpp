@@ -7,7 +7,7 @@ namespace QmChart6 {
 
 void LayOutLine(const PlotContext& context, int number) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = context.area.MapOf(series);
+    const LinearMap& map = context.plot.MapOf(number);
     const LineLook look = LineLookOf(series);
     const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
     const Runs& runs = *collected;

@@ -8,7 +8,11 @@ namespace QmChart6 {
 /// The markers of a line's samples, one look for all, then those points that have a look of their own.
 void LayOutMarkers(const PlotContext& context, int series, const Runs& runs);
 
-/// A dot for every sample that stands alone between missing values, where a line would not show it.
+/// A dot at each of the builder's pending points: values that stand alone between missing ones, where a line
+/// would not show them.
+void AddDots(const PlotContext& context, int series);
+
+/// Dots for the runs of a single sample.
 void LayOutLoneSamples(const PlotContext& context, int series, const Runs& runs);
 
 } // namespace QmChart6

@@ -14,7 +14,7 @@ namespace {
 /// pair's x.
 Statistics StatisticsOf(const Chart& chart, int number) {
     Statistics statistics;
-    if (MarkKindOf(chart, number) == MarkKind::XY) {
+    if (PairsColumns(chart)) {
         const XYPairs pairs(chart, number);
         for (int i = 0; i < pairs.Count(); ++i)
             if (pairs.Has(i)) statistics.Add(pairs.X(i), pairs.Y(i));
@@ -51,28 +51,25 @@ private:
     [[nodiscard]] bool Asked(int flag) const { return (line_.Flag & flag) != 0; }
     [[nodiscard]] double PlaceOf(double x) const {
         const PlotArea& area = context_.area;
-        return MarkKindOf(context_.chart, number_) == MarkKind::XY ? area.across.At(x)
-                                                                   : area.CategoryX(0) + (x - 1) * area.slot;
+        return PairsColumns(context_.chart) ? area.across.At(x) : area.CategoryX(0) + (x - 1) * area.slot;
     }
     void Add(Point from, Point to, PenStyle style) {
-        const Part part{PartCode::Series, number_};
+        const Part part{PartCode::Statistics, number_};
         // On bars and areas of its own colour the line would not be seen without a rim.
         const Colour ground = context_.chart.Backdrop.Fill.Brush.FillColor;
-        const MarkKind kind = MarkKindOf(context_.chart, number_);
-        const bool onFaces = kind == MarkKind::Bar || kind == MarkKind::Area;
-        if (onFaces)
+        if (KindOf(MarkOfSeries(context_.chart, number_)).isFilled)
             context_.builder.AddLine(part, from, to, {PenStyle::Solid, line_.Width + Rim, ground}, false);
         context_.builder.AddLine(part, from, to, {style, line_.Width, line_.VtColor}, false);
     }
     void Level(double value, PenStyle style) {
-        const double y = context_.Y(number_, value);
+        const double y = context_.plot.Y(number_, value);
         Add({context_.area.box.left, y}, {context_.area.box.right, y}, style);
     }
     void Regression() {
         const double first = statistics_.FirstX();
         const double last = statistics_.LastX();
-        Add({PlaceOf(first), context_.Y(number_, statistics_.Fitted(first))},
-            {PlaceOf(last), context_.Y(number_, statistics_.Fitted(last))}, PenStyle::Solid);
+        Add({PlaceOf(first), context_.plot.Y(number_, statistics_.Fitted(first))},
+            {PlaceOf(last), context_.plot.Y(number_, statistics_.Fitted(last))}, PenStyle::Solid);
     }
 
     const PlotContext& context_;

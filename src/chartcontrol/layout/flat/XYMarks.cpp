@@ -1,5 +1,6 @@
 #include "chartcontrol/layout/data/SeriesLook.h"
 #include "chartcontrol/layout/data/XYPairs.h"
+#include "chartcontrol/layout/flat/MarkerMarks.h"
 #include "chartcontrol/layout/flat/Marks.h"
 
 #include <algorithm>
@@ -44,18 +45,21 @@ private:
     std::vector<std::uint64_t> taken_;
 };
 
-/// Runs of consecutive points closer than half a device pixel are one point of the line.
-void AddLine(const PlotContext& context, int number, const XYPairs& pairs) {
-    const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = context.area.MapOf(series);
+/// The line through the points, interrupted by missing ones. Runs of consecutive points closer than half a
+/// device pixel are one point of the line; a run of a single one is no line. Gives those.
+std::vector<Point> AddLine(const PlotContext& context, int number, const XYPairs& pairs) {
+    const Stroke stroke = LineStrokeOf(context.chart.Plot.SeriesCollection(number));
+    const LinearMap& map = context.plot.MapOf(number);
     const double near = 0.5 / context.area.pixelsPerPoint;
+    std::vector<Point> alone;
     Point before{};
     for (int i = 0; i <= pairs.Count(); ++i) {
         if (i == pairs.Count() || !pairs.Has(i)) {
-            if (context.builder.PendingPoints() > 1)
-                context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
-            else
+            if (context.builder.PendingPoints() == 1) {
+                alone.push_back(before);
                 context.builder.DropPendingPoints();
+            }
+            context.builder.AddPolyline({PartCode::Series, number}, stroke);
             continue;
         }
         const Point point{context.area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
@@ -65,11 +69,12 @@ void AddLine(const PlotContext& context, int number, const XYPairs& pairs) {
         context.builder.AddPoint(point);
         before = point;
     }
+    return alone;
 }
 
 void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = context.area.MapOf(series);
+    const LinearMap& map = context.plot.MapOf(number);
     PixelSet pixels(context.area);
     // The maps' factors are worked out once: there may be a great many points.
     const LinearMap& across = context.area.across;
@@ -92,8 +97,14 @@ void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
 void LayOutXY(const PlotContext& context, int number) {
     const XYPairs pairs(context.chart, number);
     const LineLook look = LineLookOf(context.chart.Plot.SeriesCollection(number));
-    if (look.line) AddLine(context, number, pairs);
-    if (look.markers) AddMarkers(context, number, pairs);
+    std::vector<Point> alone;
+    if (look.line) alone = AddLine(context, number, pairs);
+    if (look.markers) {
+        AddMarkers(context, number, pairs);
+        return;
+    }
+    for (const Point& point : alone) context.builder.AddPoint(point);
+    AddDots(context, number);
 }
 
 } // namespace QmChart6

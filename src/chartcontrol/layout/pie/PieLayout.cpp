@@ -34,9 +34,10 @@ class PiesLayout {
 public:
     PiesLayout(const LayoutContext& context, const Box& box)
         : context_(context), chart_(context.chart), box_(box), texts_(context.chart), taken_(box),
-          nameFont_(chart_.Plot.Axis(AxisId::X).Labels.Item(1).VtFont) {}
+          nameFont_(chart_.Plot.Axis(AxisId::X).Labels.Item(1).VtFont),
+          places_(chart_.Plot.SeriesCollection.Count(), chart_.CategoryCount()) {}
 
-    void Run() {
+    PiePlaces Run() {
         grid_ = ChooseGrid();
         if (grid_.shown < chart_.CategoryCount())
             Warn(QStringLiteral("%1 of %2 pies have no room")
@@ -45,6 +46,7 @@ public:
         for (int category = 0; category < grid_.shown; ++category) Pie(category);
         if (negatives_ > 0) Warn(QStringLiteral("%1 negative values have no slice").arg(negatives_));
         if (omittedLabels_ > 0) Warn(QStringLiteral("%1 data labels have no room").arg(omittedLabels_));
+        return std::move(places_);
     }
 
 private:
@@ -65,7 +67,7 @@ private:
             const bool isInside = location == LabelLocation::Inside || location == LabelLocation::Center;
             if (ShowsLabel(look.DataPointLabel) && isInside == inside)
                 labels.push_back({{PartCode::PointLabel, number, category + 1},
-                                  texts_.Of(look.DataPointLabel, number, category, value),
+                                  texts_.WithShare(look.DataPointLabel, number, value, value / sum),
                                   before + value / sum / 2,
                                   value / sum,
                                   &look});
@@ -171,9 +173,10 @@ private:
             const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
             const double share = value / sum;
             const double end = before + share;
-            context_.builder.AddSlice({PartCode::Series, number, category + 1},
-                                      {round, TurnStart - 360 * end, 360 * share}, FillOf(look.Brush),
+            const Slice slice{round, TurnStart - 360 * end, 360 * share};
+            context_.builder.AddSlice({PartCode::Series, number, category + 1}, slice, FillOf(look.Brush),
                                       StrokeOf(look.EdgePen));
+            places_.Add({number, category + 1}, slice);
             before = end;
         }
         Separators(category, center, radius, sum);
@@ -223,19 +226,20 @@ private:
     Occupancy taken_;
     Font nameFont_;
     PieGrid grid_;
+    PiePlaces places_;
     int negatives_ = 0;
     int omittedLabels_ = 0;
 };
 
 } // namespace
 
-void LayOutPies(const LayoutContext& context, const Box& box) {
+PiePlaces LayOutPies(const LayoutContext& context, const Box& box) {
     if (context.chart.CategoryCount() == 0 || context.chart.Plot.SeriesCollection.Count() == 0) {
         context.builder.Warn(QStringLiteral("there is no value to show"));
-        return;
+        return {};
     }
     context.builder.AddRectangle({PartCode::Plot}, box, {}); // to be pointed at, between the pies too
-    PiesLayout(context, box).Run();
+    return PiesLayout(context, box).Run();
 }
 
 } // namespace QmChart6

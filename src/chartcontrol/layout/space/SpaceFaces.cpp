@@ -37,8 +37,10 @@ Colour Shaded(Colour colour, SpacePoint normal) {
     return Lit(colour, light);
 }
 
-void SpaceFaces::Add(Part part, std::span<const SpacePoint> corners, SpacePoint normal, const Brush& brush) {
-    if (!corners.empty() && plan_.View().Sees(normal, corners.front())) Draw(part, corners, normal, brush);
+SpaceFaces::Drawn SpaceFaces::Add(Part part, std::span<const SpacePoint> corners, SpacePoint normal,
+                                  const Brush& brush) {
+    const bool isSeen = !corners.empty() && plan_.View().Sees(normal, corners.front());
+    return isSeen ? Draw(part, corners, normal, brush) : Drawn{};
 }
 
 void SpaceFaces::AddSheet(Part part, std::span<const SpacePoint> corners, SpacePoint normal,
@@ -47,22 +49,33 @@ void SpaceFaces::AddSheet(Part part, std::span<const SpacePoint> corners, SpaceP
     Draw(part, corners, plan_.View().Sees(normal, corners.front()) ? normal : normal * -1, brush);
 }
 
-void SpaceFaces::Draw(Part part, std::span<const SpacePoint> corners, SpacePoint normal, const Brush& brush) {
-    for (const SpacePoint& corner : corners) builder_.AddPoint(plan_.Page(corner));
+SpaceFaces::Drawn SpaceFaces::Draw(Part part, std::span<const SpacePoint> corners, SpacePoint normal,
+                                   const Brush& brush) {
+    Point sum;
+    for (const SpacePoint& corner : corners) {
+        const Point page = plan_.Page(corner);
+        builder_.AddPoint(page);
+        sum = {sum.x + page.x, sum.y + page.y};
+    }
     SceneFill fill = FillOf(brush);
     fill.colour = Shaded(fill.colour, normal);
     fill.patternColour = Shaded(fill.patternColour, normal);
     const bool open = brush.Style == BrushStyle::None;
     builder_.AddPolygon(
         part, fill, {PenStyle::Solid, EdgeWidth, Lit(Shaded(brush.FillColor, normal), open ? 1 : EdgeLight)});
+    const Box& bounds = builder_.Built().shapes.back().bounds;
+    const auto count = static_cast<double>(corners.size());
+    return {{sum.x / count, sum.y / count}, bounds.Width() * bounds.Height()};
 }
 
-void SpaceFaces::AddBox(Part part, SpacePoint low, SpacePoint high, const Brush& brush) {
+Point SpaceFaces::AddBox(Part part, SpacePoint low, SpacePoint high, const Brush& brush) {
     const auto corner = [&](bool x, bool y, bool z) {
         return SpacePoint{x ? high.x : low.x, y ? high.y : low.y, z ? high.z : low.z};
     };
+    Drawn largest;
     const auto face = [&](const std::array<SpacePoint, 4>& corners, SpacePoint normal) {
-        Add(part, corners, normal, brush);
+        const Drawn drawn = Add(part, corners, normal, brush);
+        if (drawn.room > largest.room) largest = drawn;
     };
     face({corner(false, false, true), corner(true, false, true), corner(true, true, true),
           corner(false, true, true)},
@@ -82,6 +95,7 @@ void SpaceFaces::AddBox(Part part, SpacePoint low, SpacePoint high, const Brush&
     face({corner(false, false, false), corner(true, false, false), corner(true, true, false),
           corner(false, true, false)},
          {0, 0, -1});
+    return largest.middle;
 }
 
 } // namespace QmChart6

@@ -11,17 +11,23 @@ namespace QmChart6 {
 /// Draws flat faces in space, shaded by how they are turned.
 class SpaceFaces {
 public:
+    /// A face as it is on the page: the mean of its corners, and how large the box round it is.
+    struct Drawn {
+        Point middle;
+        double room = 0;
+    };
+
     SpaceFaces(SceneBuilder& builder, const SpacePlan& plan) : builder_(builder), plan_(plan) {}
 
-    /// A face with its outward normal; nothing when it is seen from behind.
-    void Add(Part part, std::span<const SpacePoint> corners, SpacePoint normal, const Brush& brush);
+    /// A face with its outward normal; nothing, and no room, when it is seen from behind.
+    Drawn Add(Part part, std::span<const SpacePoint> corners, SpacePoint normal, const Brush& brush);
     /// A face that is seen from both sides.
     void AddSheet(Part part, std::span<const SpacePoint> corners, SpacePoint normal, const Brush& brush);
-    /// The seen faces of an upright box.
-    void AddBox(Part part, SpacePoint low, SpacePoint high, const Brush& brush);
+    /// The seen faces of an upright box. Gives the middle of the largest of them.
+    Point AddBox(Part part, SpacePoint low, SpacePoint high, const Brush& brush);
 
 private:
-    void Draw(Part part, std::span<const SpacePoint> corners, SpacePoint normal, const Brush& brush);
+    Drawn Draw(Part part, std::span<const SpacePoint> corners, SpacePoint normal, const Brush& brush);
 
     SceneBuilder& builder_;
     const SpacePlan& plan_;

@@ -107,15 +107,16 @@ private:
 
 } // namespace
 
-void LayOutSpace(const LayoutContext& context, const Box& box) {
+SpacePlaces LayOutSpace(const LayoutContext& context, const Box& box) {
     const PlottedValues plotted(context.chart);
     const PlotDemand demand = DemandOf(context.chart, plotted);
     if (!demand.HasValues()) context.builder.Warn(QStringLiteral("there is no value to show"));
     const SpacePlan plan = PlanThatFits(context, demand, plotted, box);
     LayOutWalls(context, demand, plan);
-    LayOutSpaceMarks(context, plan, plotted);
+    SpacePlaces places = LayOutSpaceMarks(context, plan, plotted);
     LayOutSpaceAxes(context, plan, box);
     SpaceLabels(context, plan, plotted, box).Run();
+    return places;
 }
 
 } // namespace QmChart6

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace QmChart6 {
 
@@ -14,21 +15,36 @@ namespace {
 /// How much of its row a mark fills in depth, the rest being gap.
 constexpr double BarDepthShare = 0.5;
 constexpr double TapeDepthShare = 0.7;
+/// How much of its slot a piece of tape, or of an area, takes whose value stands alone between missing ones.
+constexpr double LoneTapeShare = 0.3;
+constexpr double LoneAreaShare = 0.1;
 
 /// The places of one series in its row: y in space by column, not-a-number where its value is missing.
 struct Track {
     int series = 0;
-    MarkKind kind = MarkKind::Bar;
+    Mark mark = Mark::Bar;
+    /// By column: which category is drawn, from 0, and where its mark reaches from and to.
+    std::vector<int> category;
     std::vector<double> top;
     std::vector<double> base;
+    /// The middle of a bar as it is seen.
+    std::vector<Point> middle;
 
     [[nodiscard]] bool Has(std::size_t column) const { return !std::isnan(top[column]); }
+    /// Whether the neighbours' values are missing.
+    [[nodiscard]] bool IsAlone(std::size_t column) const {
+        const bool before = column > 0 && Has(column - 1);
+        const bool after = column + 1 < top.size() && Has(column + 1);
+        return Has(column) && !before && !after;
+    }
 };
 
 class RowMarks {
 public:
-    RowMarks(const LayoutContext& context, const SpacePlan& plan, const PlottedValues& plotted, int row)
-        : context_(context), plan_(plan), plotted_(plotted), faces_(context.builder, plan), row_(row) {
+    RowMarks(const LayoutContext& context, const SpacePlan& plan, const PlottedValues& plotted, int row,
+             SpacePlaces& places)
+        : context_(context), plan_(plan), plotted_(plotted), faces_(context.builder, plan), row_(row),
+          places_(places) {
         for (int number = 1; number <= context.chart.Plot.SeriesCollection.Count(); ++number)
             if (plan.rowOfSeries[static_cast<std::size_t>(number) - 1] == row)
                 tracks_.push_back(TrackOf(number));
@@ -36,24 +52,14 @@ public:
 
     void Run() {
         if (tracks_.empty() || plan_.columns.empty()) return;
-        const std::vector<int> columns = plan_.View().FarToNearX(plan_.columns);
-        switch (tracks_.front().kind) {
-        case MarkKind::Bar:
-            Bars(columns);
-            break;
-        case MarkKind::Area:
-            Areas();
-            break;
-        case MarkKind::Line:
-            Tapes();
-            break;
-        case MarkKind::Step:
-            Steps(columns);
-            break;
-        case MarkKind::XY:
-        case MarkKind::Pie:
-            break;
-        }
+        static constexpr std::array<std::pair<Mark, void (RowMarks::*)()>, 4> drawings{
+            {{Mark::Bar, &RowMarks::Bars},
+             {Mark::Area, &RowMarks::Areas},
+             {Mark::Line, &RowMarks::Tapes},
+             {Mark::Step, &RowMarks::Steps}}};
+        for (const auto& [mark, draw] : drawings)
+            if (mark == tracks_.front().mark) (this->*draw)();
+        for (const Track& track : tracks_) TellPlaces(track);
     }
 
 private:
@@ -63,16 +69,16 @@ private:
     [[nodiscard]] double X(std::size_t column) const { return plan_.columns[column]; }
     [[nodiscard]] std::size_t Last() const { return plan_.columns.size() - 1; }
 
-    [[nodiscard]] const Brush& BrushOf(int series, std::size_t column) const {
-        return context_.chart.Plot.SeriesCollection(series)
-            .DataPoints.Item(plan_.categories[column] + 1)
+    [[nodiscard]] const Brush& BrushOf(const Track& track, std::size_t column) const {
+        return context_.chart.Plot.SeriesCollection(track.series)
+            .DataPoints.Item(track.category[column] + 1)
             .Brush;
     }
     [[nodiscard]] const Brush& BrushOf(int series) const {
         return context_.chart.Plot.SeriesCollection(series).DataPoints.Item(DataPoints::All).Brush;
     }
-    [[nodiscard]] Part PartOf(int series, std::size_t column) const {
-        return {PartCode::Series, series, plan_.categories[column] + 1};
+    [[nodiscard]] static Part PartOf(const Track& track, std::size_t column) {
+        return {PartCode::Series, track.series, track.category[column] + 1};
     }
 
     /// The category of a column's categories whose value reaches farthest.
@@ -90,19 +96,21 @@ private:
         const LinearMap& map = plan_.MapOf(context_.chart.Plot.SeriesCollection(number));
         const Values tops = plotted_.Top(number);
         const Values bases = plotted_.Base(number);
-        Track track{number, MarkKindOf(context_.chart, number), {}, {}};
+        Track track{number, plotted_.MarkOf(number), {}, {}, {}, {}};
         for (std::size_t column = 0; column < plan_.columns.size(); ++column) {
             const int category = Farthest(tops, column);
+            track.category.push_back(category);
             track.top.push_back(map.At(tops[category]));
             track.base.push_back(bases.first == nullptr ? PlotArea::BaseOf(map) : map.At(bases[category]));
         }
+        track.middle.resize(plan_.columns.size());
         return track;
     }
 
     /// The tracks in the order in which those of a column hide each other.
-    [[nodiscard]] std::vector<const Track*> Piled(std::size_t column) const {
-        std::vector<const Track*> piled;
-        for (const Track& track : tracks_)
+    [[nodiscard]] std::vector<Track*> Piled(std::size_t column) {
+        std::vector<Track*> piled;
+        for (Track& track : tracks_)
             if (track.Has(column)) piled.push_back(&track);
         const bool fromAbove = plan_.View().IsBeyondY(plan_.size.y / 2);
         std::stable_sort(piled.begin(), piled.end(), [&](const Track* a, const Track* b) {
@@ -113,15 +121,18 @@ private:
         return piled;
     }
 
-    void Bars(const std::vector<int>& columns) {
+    [[nodiscard]] std::vector<int> Columns() const { return plan_.View().FarToNearX(plan_.columns); }
+
+    void Bars() {
         const double half = plan_.slot / (1 + std::max(0.0, context_.chart.Plot.XGap / 100)) / 2;
-        for (const int index : columns) {
+        for (const int index : Columns()) {
             const auto column = static_cast<std::size_t>(index);
-            for (const Track* track : Piled(column)) {
+            for (Track* track : Piled(column)) {
                 const double low = std::min(track->top[column], track->base[column]);
                 const double high = std::max(track->top[column], track->base[column]);
-                faces_.AddBox(PartOf(track->series, column), {X(column) - half, low, Front(BarDepthShare)},
-                              {X(column) + half, high, Back(BarDepthShare)}, BrushOf(track->series, column));
+                track->middle[column] =
+                    faces_.AddBox(PartOf(*track, column), {X(column) - half, low, Front(BarDepthShare)},
+                                  {X(column) + half, high, Back(BarDepthShare)}, BrushOf(*track, column));
             }
         }
     }
@@ -148,7 +159,7 @@ private:
             const auto column = static_cast<std::size_t>(index);
             for (const Track* track : Piled(column))
                 if (track->Has(column + 1))
-                    Sheet(PartOf(track->series, column), {X(column), track->top[column], 0},
+                    Sheet(PartOf(*track, column), {X(column), track->top[column], 0},
                           {X(column + 1), track->top[column + 1], 0}, TapeDepthShare, BrushOf(track->series));
         }
         LoneTapes();
@@ -156,26 +167,23 @@ private:
 
     /// Values between missing ones, or of a single category, are short pieces of tape.
     void LoneTapes() {
-        constexpr double share = 0.3;
+        const double half = LoneTapeShare * plan_.slot / 2;
         for (const Track& track : tracks_)
             for (std::size_t column = 0; column <= Last(); ++column) {
-                const bool before = column > 0 && track.Has(column - 1);
-                const bool after = column < Last() && track.Has(column + 1);
-                if (!track.Has(column) || before || after) continue;
-                const double half = share * plan_.slot / 2;
-                Sheet(PartOf(track.series, column), {X(column) - half, track.top[column], 0},
+                if (!track.IsAlone(column)) continue;
+                Sheet(PartOf(track, column), {X(column) - half, track.top[column], 0},
                       {X(column) + half, track.top[column], 0}, TapeDepthShare, BrushOf(track.series));
             }
     }
 
-    void Steps(const std::vector<int>& columns) {
-        for (const int index : columns) {
+    void Steps() {
+        for (const int index : Columns()) {
             const auto column = static_cast<std::size_t>(index);
             const double left = X(column) - plan_.slot / 2;
             const double right = X(column) + plan_.slot / 2;
             const bool fromRight = plan_.View().IsBeyondX(X(column));
             for (const Track* track : Piled(column)) {
-                const Part part = PartOf(track->series, column);
+                const Part part = PartOf(*track, column);
                 const double y = track->top[column];
                 const auto riser = [&] {
                     if (column < Last() && track->Has(column + 1))
@@ -196,12 +204,25 @@ private:
             for (const Track* track : Piled(column))
                 if (track->Has(column + 1)) Stretch(*track, column);
         }
+        LoneAreas();
         for (const Track& track : tracks_) Fronts(track);
+    }
+
+    /// A value alone has no width of its own; it is a narrow piece.
+    void LoneAreas() {
+        const double half = LoneAreaShare * plan_.slot / 2;
+        for (const Track& track : tracks_)
+            for (std::size_t column = 0; column <= Last(); ++column) {
+                if (!track.IsAlone(column)) continue;
+                const auto [low, high] = std::minmax(track.top[column], track.base[column]);
+                faces_.AddBox(PartOf(track, column), {X(column) - half, low, Front(TapeDepthShare)},
+                              {X(column) + half, high, Back(TapeDepthShare)}, BrushOf(track.series));
+            }
     }
 
     /// The upper and lower side of one stretch of an area, and its ends.
     void Stretch(const Track& track, std::size_t column) {
-        const Part part = PartOf(track.series, column);
+        const Part part = PartOf(track, column);
         const Brush& brush = BrushOf(track.series);
         const double left = X(column);
         const double right = X(column + 1);
@@ -227,10 +248,34 @@ private:
         side(track.top[column], track.top[column + 1], above ? 1 : -1);
     }
 
+    [[nodiscard]] bool SeesFront() const {
+        return plan_.View().Sees({0, 0, -1}, {0, 0, Front(TapeDepthShare)});
+    }
+    /// Where the side of the row is that is turned to the viewer.
+    [[nodiscard]] double SeenZ() const { return SeesFront() ? Front(TapeDepthShare) : Back(TapeDepthShare); }
+
+    void TellPlaces(const Track& track) {
+        const double seen = SeenZ();
+        for (std::size_t column = 0; column <= Last(); ++column) {
+            if (!track.Has(column)) continue;
+            const auto page = [&](double y, double z) { return plan_.Page({X(column), y, z}); };
+            const double top = track.top[column];
+            const Point place = track.mark == Mark::Bar    ? track.middle[column]
+                                : track.mark == Mark::Area ? page(top, seen)
+                                                           : page(top, Z());
+            places_.Add(track.series,
+                        {track.category[column] + 1,
+                         place,
+                         {page(top, Front(TapeDepthShare)), page(top, Back(TapeDepthShare))},
+                         {page(track.base[column], seen), page(top, seen)}},
+                        track.mark == Mark::Line || track.mark == Mark::Area);
+        }
+    }
+
     /// The whole front, or back, of each unbroken run: one face, so that no seam shows.
     void Fronts(const Track& track) {
-        const bool seesFront = plan_.View().Sees({0, 0, -1}, {0, 0, Front(TapeDepthShare)});
-        const double z = seesFront ? Front(TapeDepthShare) : Back(TapeDepthShare);
+        const bool seesFront = SeesFront();
+        const double z = SeenZ();
         for (std::size_t begin = 0; begin <= Last();) {
             std::size_t end = begin;
             while (end <= Last() && track.Has(end)) ++end;
@@ -253,12 +298,17 @@ private:
     SpaceFaces faces_;
     int row_;
     std::vector<Track> tracks_;
+    SpacePlaces& places_;
 };
 
 } // namespace
 
-void LayOutSpaceMarks(const LayoutContext& context, const SpacePlan& plan, const PlottedValues& plotted) {
-    for (const int row : plan.View().FarToNearZ(plan.rows)) RowMarks(context, plan, plotted, row).Run();
+SpacePlaces LayOutSpaceMarks(const LayoutContext& context, const SpacePlan& plan,
+                             const PlottedValues& plotted) {
+    SpacePlaces places(plotted.SeriesCount(), plotted.CategoryCount());
+    for (const int row : plan.View().FarToNearZ(plan.rows))
+        RowMarks(context, plan, plotted, row, places).Run();
+    return places;
 }
 
 } // namespace QmChart6

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "chartcontrol/layout/data/PlottedValues.h"
+#include "chartcontrol/layout/space/SpacePlaces.h"
 #include "chartcontrol/layout/space/SpacePlan.h"
 
 namespace QmChart6 {
 
 /// The marks of a 3D plot, from the farthest to the nearest, whatever the angle: the rows one behind the
 /// other, in a row the columns, in a column the piled pieces, and at last the faces that look to the front or
-/// the back of the row.
-void LayOutSpaceMarks(const LayoutContext& context, const SpacePlan& plan, const PlottedValues& plotted);
+/// the back of the row. Gives where the points are.
+SpacePlaces LayOutSpaceMarks(const LayoutContext& context, const SpacePlan& plan,
+                             const PlottedValues& plotted);
 
 } // namespace QmChart6

@@ -61,14 +61,13 @@ private:
     /// Each series has a row of its own; piled ones share a row by axis and kind of mark.
     void PlaceRows() {
         const SeriesCollection& all = context_.chart.Plot.SeriesCollection;
-        std::vector<std::pair<MarkKind, bool>> piles;
+        std::vector<std::pair<Mark, bool>> piles;
         for (int number = 1; number <= all.Count(); ++number) {
             if (!plotted_.IsStacked()) {
                 plan_.rowOfSeries.push_back(number - 1);
                 continue;
             }
-            const std::pair<MarkKind, bool> pile{MarkKindOf(context_.chart, number),
-                                                 all(number).SecondaryAxis};
+            const std::pair<Mark, bool> pile{plotted_.MarkOf(number), all(number).SecondaryAxis};
             auto found = std::find(piles.begin(), piles.end(), pile);
             if (found == piles.end()) found = piles.insert(piles.end(), pile);
             plan_.rowOfSeries.push_back(static_cast<int>(found - piles.begin()));

@@ -33,18 +33,20 @@ bool ShowsLabel(const DataPointLabel& label) {
 }
 
 QString LabelTexts::Of(const DataPointLabel& label, int series, int category, double value) {
+    const bool showsShare = !label.Custom && (label.Component & LabelShowsPercent) != 0;
+    return WithShare(label, series, value, showsShare ? ShareOf(category, value) : 0);
+}
+
+QString LabelTexts::WithShare(const DataPointLabel& label, int series, double value, double share) const {
     if (label.Custom) return label.Text;
     QStringList parts;
     if ((label.Component & LabelShowsSeriesName) != 0) parts += chart_.SeriesName(series);
     if ((label.Component & LabelShowsValue) != 0) parts += FormatNumber(value, label.ValueFormat);
-    if ((label.Component & LabelShowsPercent) != 0) {
-        const double sum = SumOf(category);
-        parts += FormatNumber(sum > 0 ? value / sum : 0, label.PercentFormat);
-    }
+    if ((label.Component & LabelShowsPercent) != 0) parts += FormatNumber(share, label.PercentFormat);
     return parts.join(QStringLiteral("; "));
 }
 
-double LabelTexts::SumOf(int category) {
+double LabelTexts::ShareOf(int category, double value) {
     if (sums_.empty()) {
         sums_.assign(static_cast<std::size_t>(chart_.CategoryCount()), 0);
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
@@ -53,7 +55,8 @@ double LabelTexts::SumOf(int category) {
                 if (!std::isnan(values[i])) sums_[static_cast<std::size_t>(i)] += std::abs(values[i]);
         }
     }
-    return sums_[static_cast<std::size_t>(category)];
+    const double sum = sums_[static_cast<std::size_t>(category)];
+    return sum > 0 ? value / sum : 0;
 }
 
 Font ReadableFont(const Font& font, Colour background) {

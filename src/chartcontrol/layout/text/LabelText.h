@@ -17,9 +17,12 @@ public:
 
     /// Category from 0. The percent is the value's share of its category's sum of absolute values.
     [[nodiscard]] QString Of(const DataPointLabel& label, int series, int category, double value);
+    /// The percent is the share that the mark shows.
+    [[nodiscard]] QString WithShare(const DataPointLabel& label, int series, double value,
+                                    double share) const;
 
 private:
-    [[nodiscard]] double SumOf(int category);
+    [[nodiscard]] double ShareOf(int category, double value);
 
     const Chart& chart_;
     std::vector<double> sums_;

@@ -51,9 +51,7 @@ double SymbolWidth(const Chart& chart) {
     const double size = chart.Legend.VtFont.Size;
     double width = SwatchShare * size;
     for (int series = 1; series <= chart.Plot.SeriesCollection.Count(); ++series) {
-        const MarkKind kind = MarkKindOf(chart, series);
-        if (kind == MarkKind::Line || kind == MarkKind::Step || kind == MarkKind::XY)
-            width = LineSampleShare * size;
+        if (!KindOf(MarkOfSeries(chart, series)).isFilled) width = LineSampleShare * size;
     }
     return width + SymbolGapShare * size;
 }
@@ -146,15 +144,15 @@ void AddSymbol(const LayoutContext& context, int number, const Box& box) {
     const Part part{PartCode::Legend, number};
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const DataPoint& look = series.DataPoints.Item(DataPoints::All);
-    const MarkKind kind = MarkKindOf(context.chart, number);
-    if (kind == MarkKind::Bar || kind == MarkKind::Area || kind == MarkKind::Pie) {
+    const MarkKind& kind = KindOf(MarkOfSeries(context.chart, number));
+    if (kind.isFilled) {
         const double half = SwatchShare * context.chart.Legend.VtFont.Size / 2;
         const Point center = box.Center();
         builder.AddRectangle(part, {center.x - half, center.y - half, center.x + half, center.y + half},
                              FillOf(look.Brush), StrokeOf(look.EdgePen));
         return;
     }
-    const LineLook shown = kind == MarkKind::Step ? LineLook{true, false} : LineLookOf(series);
+    const LineLook shown = kind.hasMarkers ? LineLookOf(series) : LineLook{};
     if (shown.line)
         builder.AddLine(part, {box.left, box.Center().y}, {box.right, box.Center().y}, LineStrokeOf(series),
                         false);

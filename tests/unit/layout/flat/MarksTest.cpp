@@ -169,6 +169,21 @@ TEST(Pies, ThousandsOfCategoriesShowWhatFitsAndTellTheRest) {
     EXPECT_EQ(scene.warnings.size(), 1);
 }
 
+TEST(Pies, APercentLabelTellsTheShareThatItsSliceShows) {
+    Chart chart = Typed(ChartType::Pie2D, 1, 3, [](int, int column) {
+        return column == 1 ? 3.0 : column == 2 ? 1.0 : -1.0;
+    });
+    for (int series = 1; series <= 3; ++series) {
+        DataPointLabel& label =
+            chart.Plot.SeriesCollection(series).DataPoints.Item(DataPoints::All).DataPointLabel;
+        label.Component = LabelShowsPercent;
+        label.LocationType = LabelLocation::Inside;
+    }
+    QStringList texts;
+    for (const TextLine& text : TextsOf(LaidOut(chart), PartCode::PointLabel)) texts += text.text;
+    EXPECT_EQ(texts, (QStringList{QStringLiteral("75%"), QStringLiteral("25%")}));
+}
+
 TEST(XY, PairsTakeXFromTheirOwnColumnAndYFromTheNext) {
     const Scene scene = LaidOut(Typed(ChartType::XY2D, 2, 2, [](int row, int column) {
         return column == 1 ? (row == 1 ? 0.0 : 10.0) : (row == 1 ? 0.0 : 100.0);
@@ -189,6 +204,19 @@ TEST(XY, AnUnpairedLastColumnIsDrawnOverTheRowNumbers) {
     const auto points = scene.PointsOf(std::get<MarkerRun>(markers.geometry).points);
     ASSERT_EQ(points.size(), 4U);
     EXPECT_NEAR(points[1].x - points[0].x, points[3].x - points[2].x, 1e-9);
+}
+
+TEST(XY, APointAloneBetweenMissingOnesIsADot) {
+    Chart chart = Typed(ChartType::XY2D, 6, 2, [](int row, int) { return row * 1.0; });
+    chart.DataGrid.SetValue(2, 2, Missing());
+    chart.DataGrid.SetValue(4, 1, Missing());
+    const LaidOutChart laidOut = LaidOutWhole(chart);
+    const auto dots = ShapesOf<MarkerRun>(laidOut.scene, PartCode::Series);
+    ASSERT_EQ(dots.size(), 1U);
+    const auto points = laidOut.scene.PointsOf(std::get<MarkerRun>(dots[0].geometry).points);
+    const std::vector<Point> alone{*laidOut.places.At({1, 1}), *laidOut.places.At({1, 3})};
+    EXPECT_EQ(std::vector<Point>(points.begin(), points.end()), alone);
+    EXPECT_EQ(ShapesOf<Polyline>(laidOut.scene, PartCode::Series).size(), 1U); // from the fifth to the sixth
 }
 
 TEST(XY, OneMarkerForEachPixelHoweverManyPoints) {

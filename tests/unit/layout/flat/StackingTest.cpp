@@ -138,7 +138,7 @@ TEST(StatisticsLines, EachFlagHasItsLines) {
         Chart chart = ChartOf(6, 1, [](int row, int) { return row * row * 1.0; });
         chart.Plot.SeriesCollection(1).StatLine.Flag = flag;
         chart.Plot.SeriesCollection(1).StatLine.VtColor = {1, 2, 3};
-        const auto drawn = ShapesOf<Polyline>(LaidOut(chart), PartCode::Series);
+        const auto drawn = ShapesOf<Polyline>(LaidOut(chart), PartCode::Statistics);
         std::size_t coloured = 0;
         for (const Shape& shape : drawn) coloured += shape.stroke.colour == Colour{1, 2, 3} ? 1U : 0U;
         EXPECT_EQ(coloured, count) << flag;
