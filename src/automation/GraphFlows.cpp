@@ -72,17 +72,13 @@ ViewerPointer LoadedViewer(const ChartRequest& request) {
     return viewer;
 }
 
-void LoadLook(GraphForm& viewer, UseConfig useConfig) {
-    LoadChartConfiguration(viewer, useConfig == UseConfig::Yes);
-    viewer.ChartImage().Refresh();
-}
-
 ViewerPointer ViewerForOutput(const ChartRequest& request) {
     RequireFirstThread();
     EnsureApplication();
     ViewerPointer viewer = LoadedViewer(request);
     viewer->setWindowTitle(viewer->GraphId() + QStringLiteral(" - Graph Viewer"));
-    if (request.useConfig != UseConfig::No) LoadLook(*viewer, request.useConfig);
+    if (request.useConfig != UseConfig::No)
+        LoadChartConfiguration(*viewer, request.useConfig == UseConfig::Yes);
     ApplySizeOfNewCharts(*viewer);
     return viewer;
 }
@@ -99,9 +95,9 @@ void MakeGraph(const ChartRequest& request, const Variant& language) {
     viewer->setWindowTitle(LocalText(TextKey::ChartViewer));
     ComputeValueLabelFormat(request.data, request.rows, request.columns);
     if (request.useConfig != UseConfig::No) {
-        LoadLook(*viewer, request.useConfig);
+        LoadChartConfiguration(*viewer, request.useConfig == UseConfig::Yes);
         ApplySizeOfNewCharts(*viewer);
-        viewer->ShowViewer();
+        viewer->Open();
     } else {
         ApplySizeOfNewCharts(*viewer);
         ApplyDefaultLook(*viewer);
@@ -113,16 +109,16 @@ void PrintGraph(const ChartRequest& request) {
     const ViewerPointer viewer = ViewerForOutput(request);
     viewer->update();
     if (HostPrinter().isEmpty())
-        PrintChart(*viewer);
+        PrintChart(viewer->ChartImage());
     else
-        PrintChart(*viewer, HostPrinter());
+        PrintChart(viewer->ChartImage(), HostPrinter());
     viewer->update();
     CloseViewer(viewer->GraphId());
 }
 
 void SaveGraph(const ChartRequest& request, QString& fileName) {
     const ViewerPointer viewer = ViewerForOutput(request);
-    SaveChartSnapshot(*viewer, fileName);
+    SaveChartSnapshot(*viewer, viewer->ChartImage(), fileName);
     CloseViewer(viewer->GraphId());
 }
 

@@ -2,7 +2,6 @@
 
 #include "automation/ChartSize.h"
 #include "chart/DefaultLook.h"
-#include "chartcontrol/widget/ChartControl.h"
 #include "config/Catalogue.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
@@ -11,7 +10,6 @@
 #include "config/StoredLook.h"
 #include "database/CreateDatabase.h"
 #include "desktop/Application.h"
-#include "viewer/GraphForm.h"
 
 #include <algorithm>
 
@@ -53,15 +51,12 @@ void SizeFor(Look& look, Chart& chart) {
 /// The look with all of its fields: those left out are as a chart has them that is given the others. Raises
 /// what the chart raises.
 Look Complete(Look look) {
-    RequireFirstThread();
-    EnsureApplication();
-    GraphForm form;
-    Chart& chart = form.ChartImage().Model();
-    SizeFor(look, chart);
-    ApplyDefaultLook(chart);
-    ApplyLook(form, look, true);
+    LookState state;
+    SizeFor(look, state.chart);
+    ApplyDefaultLook(state.chart);
+    ApplyLook(state, look, true);
     Look complete;
-    CaptureLook(form, complete);
+    CaptureLook(state, complete);
     for (const LookTable* table : {&ColumnsLook(), &SeriesLook()})
         std::erase_if(complete.Of(*table),
                       [&](const auto& record) { return !look.Of(*table).contains(record.first); });
@@ -112,6 +107,7 @@ QByteArray ExportLook(const QString& folder, const QString& name) {
 }
 
 QString ImportLook(const QString& folder, const QByteArray& look, const QString& name) {
+    RequireFirstThread();
     const NamedLook named = ReadLookJson(look);
     QString kept = name.isEmpty() ? named.name : name;
     if (kept.isEmpty())
@@ -133,6 +129,7 @@ CopiedStore CopyLookStore(const QString& from, const QString& to) {
 }
 
 void UseLook(const QString& graphId, const QByteArray& look) {
+    RequireFirstThread();
     const NamedLook named = ReadLookJson(look);
     (void)Complete(named.look); // what means nothing is told here, not in the middle of a chart
     SetLookOverride(graphId, named.look);

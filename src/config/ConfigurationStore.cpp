@@ -1,6 +1,5 @@
 #include "config/ConfigurationStore.h"
 
-#include "chartcontrol/widget/ChartControl.h"
 #include "config/Catalogue.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
@@ -16,8 +15,49 @@ namespace QmChart6 {
 
 namespace {
 
-QWidget* OwnerOf(Viewer& viewer) {
-    return viewer.ChartImage().window();
+/// What keeping a look leaves in its chart: angles in degrees, and the last column as the current one.
+LookState AsKept(LookState look) {
+    look.chart.Plot.AngleUnit = AngleUnit::Degrees;
+    if (look.chart.ColumnCount() > 0) look.chart.Column = look.chart.ColumnCount();
+    return look;
+}
+
+/// Writes the size of a maximized window while the window has that size: it is restored before and maximized
+/// again after, and stays restored where the size cannot be written.
+class RestoringWriter : public LookWriter {
+public:
+    RestoringWriter(LookWriter& writer, Viewer& viewer) : writer_(writer), viewer_(viewer) {}
+
+    void Start(const LookTable& table, int number) override { writer_.Start(table, number); }
+    void Set(const LookTable& table, const LookField& field, const FieldValue& value) override {
+        const bool isSize = field.step == Step::Size;
+        if (isSize != restored_) SetMaximized(!isSize);
+        writer_.Set(table, field, value);
+    }
+    void Finish(const LookTable& table) override { writer_.Finish(table); }
+
+private:
+    void SetMaximized(bool maximized) {
+        LookState look = viewer_.Look();
+        look.maximized = maximized;
+        viewer_.Show(look);
+        restored_ = !maximized;
+    }
+
+    LookWriter& writer_;
+    Viewer& viewer_;
+    bool restored_ = false;
+};
+
+void Capture(Viewer& viewer, LookWriter& writer) {
+    const LookState look = AsKept(viewer.Look());
+    if (look.maximized) {
+        RestoringWriter restored(writer, viewer);
+        CaptureLook(look, restored);
+    } else {
+        CaptureLook(look, writer);
+    }
+    viewer.Show(look);
 }
 
 /// Binding has a message box of its own: where it fails, the look is saved all the same. Nobody waits for
@@ -32,7 +72,7 @@ void Save(Viewer& viewer, std::optional<RuntimeError>& notBound) {
     } catch (const RuntimeError& error) {
         notBound = error;
     }
-    CaptureLook(viewer, look);
+    Capture(viewer, look);
     writing.Finish();
 }
 
@@ -41,7 +81,7 @@ bool Load(Viewer& viewer, const QString& name, bool loadTitles) {
     Database database(ConfigurationFileName(), ConfigurationSchema());
     StoredLook look(database, name);
     const Database::Reading reading(database);
-    return ApplyLook(viewer, look, loadTitles);
+    return ShowLook(viewer, viewer.Look(), look, loadTitles);
 }
 
 } // namespace
@@ -55,18 +95,18 @@ void SaveConfiguration(Viewer& viewer) {
         notSaved = error;
     }
     for (const std::optional<RuntimeError>* failure : {&notBound, &notSaved})
-        if (*failure) ShowErrors(OwnerOf(viewer), [&] { throw RuntimeError(**failure); });
+        if (*failure) ShowErrors(viewer.Window(), [&] { throw RuntimeError(**failure); });
     if (!notSaved) viewer.SetStatus(LocalText(TextKey::ConfigurationSaved));
 }
 
 void LoadConfiguration(Viewer& viewer, const QString& name, bool loadTitles) {
-    ShowErrors(OwnerOf(viewer), [&] {
+    ShowErrors(viewer.Window(), [&] {
         if (!Load(viewer, name, loadTitles)) ApplyDefaultLook(viewer);
     });
 }
 
 void LoadChartConfiguration(Viewer& viewer, bool loadTitles) {
-    ShowErrors(OwnerOf(viewer), [&] {
+    ShowErrors(viewer.Window(), [&] {
         if (ApplyLookOverride(viewer, loadTitles)) return;
         const std::optional<QString> name = BoundLook(ConfigurationFileName(), viewer.GraphId());
         if (!name) {
@@ -79,7 +119,7 @@ void LoadChartConfiguration(Viewer& viewer, bool loadTitles) {
 }
 
 void BindChartToConfiguration(Viewer& viewer, const QString& name) {
-    ShowErrors(OwnerOf(viewer), [&] {
+    ShowErrors(viewer.Window(), [&] {
         viewer.SetQmConfig(name);
         BindLook(ConfigurationFileName(), viewer.GraphId(), viewer.QmConfig());
     });

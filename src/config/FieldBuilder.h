@@ -8,7 +8,7 @@
 
 namespace QmChart6 {
 
-// Makes the fields of a look from a chart's members: either from a getter and a setter, or (the ...Member
+// Makes the fields of a look from a look's members: either from a getter and a setter, or (the ...Member
 // ones) from a function that gives a reference to the member. A number that does not fit a field's kind
 // raises 6.
 
@@ -26,7 +26,7 @@ LookField FieldOf(QString name, FieldKind kind, Get get, Set set) {
     const auto writing = [name, kind, set](const LookPart& part, const FieldValue& value) {
         set(part, std::get<Value>(ToKind(value, kind, name)));
     };
-    return {name, kind, reading, writing};
+    return {.name = name, .kind = kind, .get = reading, .set = writing};
 }
 
 template<class Get, class Set>
@@ -86,6 +86,19 @@ LookField Enumeration(const char* name, Member member, Checked checked) {
     return Long(
         name, [member](const LookPart& part) { return static_cast<int>(member(part)); },
         [member, checked](const LookPart& part, int number) { member(part) = checked(number); });
+}
+
+inline LookField At(Step step, LookField field) {
+    field.step = step;
+    return field;
+}
+inline std::vector<LookField> At(Step step, std::vector<LookField> fields) {
+    for (LookField& field : fields) field.step = step;
+    return fields;
+}
+inline LookField AsTitle(LookField field) {
+    field.isTitle = true;
+    return field;
 }
 
 inline void Append(std::vector<LookField>& fields, std::vector<LookField> more) {

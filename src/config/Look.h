@@ -26,15 +26,15 @@ public:
     virtual void Finish(const LookTable& table) = 0;
 };
 
-/// Writes the look of a viewer: its chart, columns, series and four axes. A maximized window is restored
-/// while its size is read. The chart's current column is left at the last.
-void CaptureLook(Viewer& viewer, LookWriter& writer);
+/// Writes a look: the whole chart, its columns, its series and its four axes.
+void CaptureLook(LookState look, LookWriter& writer);
 
-/// Gives a viewer the look that is read, as far as its chart has such series and columns. `loadTitles`: the
-/// texts of the titles and the names of the columns too. False, and nothing done, where there is no look.
-bool ApplyLook(Viewer& viewer, LookReader& reader, bool loadTitles);
+/// Gives a look what is read, as far as its chart has such series and columns. `loadTitles`: the texts of the
+/// titles and the names of the columns too. False, and nothing done, where there is no look. What fails
+/// leaves what came before it.
+bool ApplyLook(LookState& look, LookReader& reader, bool loadTitles);
 
-/// A look as a value: the fields that are given, by their names, for each record.
+/// The fields of a look that are given, by their names, for each record: all of them or some.
 class Look : public LookReader, public LookWriter {
 public:
     using Record = std::map<QString, FieldValue>;

@@ -1,9 +1,7 @@
 #include "config/LookFields.h"
 
 #include "chart/ChartFunctions.h"
-#include "chartcontrol/widget/ChartControl.h"
 #include "config/FieldBuilder.h"
-#include "config/Viewer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +13,7 @@ namespace {
 using Part = const LookPart&;
 
 Chart& ChartOf(Part part) {
-    return part.viewer.ChartImage().Model();
+    return part.look.chart;
 }
 Plot& PlotOf(Part part) {
     return ChartOf(part).Plot;
@@ -42,70 +40,61 @@ int WindowTwips(double twips) {
 
 std::vector<LookField> WindowFields() {
     return {
-        Boolean(
-            "ChartMaximized", [](Part part) { return part.viewer.WindowState() == 2; },
-            [](Part part, bool maximized) {
-                if (maximized) part.viewer.SetWindowState(2);
-            }),
-        Real(
-            "ChartHeight", [](Part part) { return part.viewer.Height(); },
-            [](Part part, double twips) { part.viewer.SetHeight(WindowTwips(twips)); }),
-        Real(
-            "ChartWidth", [](Part part) { return part.viewer.Width(); },
-            [](Part part, double twips) { part.viewer.SetWidth(WindowTwips(twips)); }),
-        Boolean(
-            "ControlBar", [](Part part) { return part.viewer.ControlBar(); },
-            [](Part part, bool shown) { part.viewer.SetControlBar(shown); }),
+        // A look that is not maximized restores no window.
+        At(Step::Maximized, Boolean(
+                                "ChartMaximized", [](Part part) { return part.look.maximized; },
+                                [](Part part, bool maximized) { part.look.maximized |= maximized; })),
+        At(Step::Size, Real(
+                           "ChartHeight", [](Part part) { return part.look.height; },
+                           [](Part part, double twips) { part.look.height = WindowTwips(twips); })),
+        At(Step::Size, Real(
+                           "ChartWidth", [](Part part) { return part.look.width; },
+                           [](Part part, double twips) { part.look.width = WindowTwips(twips); })),
+        At(Step::ControlBar, BooleanMember(
+                                 "ControlBar", [](Part part) -> auto& { return part.look.controlBar; })),
     };
+}
+
+/// An option whose state a chart does not keep: `set` gives it to the chart.
+LookField Option(const char* name, std::int16_t LookState::*state, void (*set)(Chart&, Truth)) {
+    return Integer(
+        name, [state](Part part) { return part.look.*state; },
+        [state, set](Part part, std::int16_t value) {
+            set(ChartOf(part), value);
+            part.look.*state = value;
+        });
 }
 
 std::vector<LookField> OptionFields() {
     return {
-        Integer(
-            "Lines", [](Part part) { return part.viewer.Lines(); },
-            [](Part part, std::int16_t state) {
-                SetSeriesLines(ChartOf(part), state);
-                part.viewer.SetLines(state);
-            }),
-        Integer(
-            "Markers", [](Part part) { return part.viewer.Markers(); },
-            [](Part part, std::int16_t state) {
-                SetSeriesMarkers(ChartOf(part), state);
-                part.viewer.SetMarkers(state);
-            }),
-        Integer(
-            "Stacked", [](Part part) { return part.viewer.Stacked(); },
-            [](Part part, std::int16_t state) {
-                SetStacked(ChartOf(part), state);
-                part.viewer.SetStacked(state);
-            }),
-        Integer(
-            "FullStacked", [](Part part) { return part.viewer.FullStacked(); },
-            [](Part part, std::int16_t state) {
-                SetFullStacked(ChartOf(part), state);
-                part.viewer.SetFullStacked(state);
-            }),
-        Long(
-            "chartType", [](Part part) { return static_cast<int>(ChartOf(part).chartType()); },
-            [](Part part, int type) { ChartOf(part).SetChartType(ToChartType(type)); }),
-        Boolean(
-            "Legend", [](Part part) { return ChartOf(part).ShowLegend; },
-            [](Part part, bool shown) { SetLegendVisible(ChartOf(part), ToTruth(shown)); }),
+        At(Step::Marks, Option("Lines", &LookState::lines, SetSeriesLines)),
+        At(Step::Marks, Option("Markers", &LookState::markers, SetSeriesMarkers)),
+        At(Step::Stacking, Option("Stacked", &LookState::stacked, SetStacked)),
+        At(Step::Stacking, Option("FullStacked", &LookState::fullStacked, SetFullStacked)),
+        At(Step::Type, Long(
+                           "chartType", [](Part part) { return static_cast<int>(ChartOf(part).chartType()); },
+                           [](Part part, int type) { ChartOf(part).SetChartType(ToChartType(type)); })),
+        At(Step::Legend, Boolean(
+                             "Legend", [](Part part) { return ChartOf(part).ShowLegend; },
+                             [](Part part, bool shown) { SetLegendVisible(ChartOf(part), ToTruth(shown)); })),
     };
 }
 
 std::vector<LookField> PlotFields() {
     return {
-        Enumeration(
-            "Projection", [](Part part) -> auto& { return PlotOf(part).Projection; }, ToProjection),
-        Boolean(
-            "Flipped", [](Part part) { return PlotOf(part).DataSeriesInRow; },
-            [](Part part, bool inRows) { SetSeriesInRows(ChartOf(part), ToTruth(inRows)); }),
-        Long(
-            "PieLabelPos", [](Part part) { return static_cast<int>(PlotOf(part).SubPlotLabelPosition); },
-            [](Part part, int position) { SetPieLabelPosition(ChartOf(part), position); }),
-        BooleanMember(
-            "PlotAutoLayout", [](Part part) -> auto& { return PlotOf(part).AutoLayout; }),
+        At(Step::Projection,
+           Enumeration(
+               "Projection", [](Part part) -> auto& { return PlotOf(part).Projection; }, ToProjection)),
+        At(Step::Flip, Boolean(
+                           "Flipped", [](Part part) { return PlotOf(part).DataSeriesInRow; },
+                           [](Part part, bool inRows) { SetSeriesInRows(ChartOf(part), ToTruth(inRows)); })),
+        At(Step::PieLabels,
+           Long(
+               "PieLabelPos", [](Part part) { return static_cast<int>(PlotOf(part).SubPlotLabelPosition); },
+               [](Part part, int position) { SetPieLabelPosition(ChartOf(part), position); })),
+        At(Step::PlotLayout,
+           BooleanMember(
+               "PlotAutoLayout", [](Part part) -> auto& { return PlotOf(part).AutoLayout; })),
     };
 }
 
@@ -139,29 +128,40 @@ std::vector<LookField> TitleFields() {
 }
 
 LookTable MakeChartLook() {
+    const auto ground = [](Part part) -> auto& {
+        return ChartOf(part).Backdrop.Fill.Brush.FillColor;
+    };
+    const auto plotPlace = [](Part part) -> auto& {
+        return PlotOf(part).LocationRect;
+    };
+    const auto title = [](Part part) -> auto& {
+        return ChartOf(part).Title;
+    };
+    const auto legend = [](Part part) -> auto& {
+        return ChartOf(part).Legend;
+    };
     LookTable look{
         .name = QStringLiteral("ChartConfigurations"), .partsName = {}, .numberField = {}, .fields = {}};
     std::vector<LookField>& fields = look.fields;
     Append(fields, WindowFields());
     Append(fields, OptionFields());
-    Append(fields,
-           ColourFields(
-               "BackColor", [](Part part) -> auto& { return ChartOf(part).Backdrop.Fill.Brush.FillColor; }));
+    Append(fields, At(Step::Type, ColourFields("BackColor", ground)));
     Append(fields, PlotFields());
-    Append(fields, RectFields(
-                       "Plot", [](Part part) -> auto& { return PlotOf(part).LocationRect; }));
-    Append(fields, ViewFields());
-    fields.push_back(TextMember(
-        "TitleText", [](Part part) -> auto& { return ChartOf(part).Title.Text; }));
-    Append(fields, LocationFields(
-                       "Title", [](Part part) -> auto& { return ChartOf(part).Title.Location; }));
+    Append(fields, At(Step::PlotPlace, RectFields("Plot", plotPlace)));
+    Append(fields, At(Step::View, ViewFields()));
+    fields.push_back(AsTitle(TextMember(
+        "TitleText", [title](Part part) -> auto& { return title(part).Text; })));
+    Append(fields,
+           At(Step::Places, LocationFields(
+                                "Title", [title](Part part) -> auto& { return title(part).Location; })));
     Append(fields, TitleFields());
     Append(fields, FontFields(
-                       "Title", [](Part part) -> auto& { return ChartOf(part).Title.VtFont; }));
-    Append(fields, LocationFields(
-                       "Legend", [](Part part) -> auto& { return ChartOf(part).Legend.Location; }));
+                       "Title", [title](Part part) -> auto& { return title(part).VtFont; }));
+    Append(fields,
+           At(Step::Places, LocationFields(
+                                "Legend", [legend](Part part) -> auto& { return legend(part).Location; })));
     Append(fields, FontFields(
-                       "Legend", [](Part part) -> auto& { return ChartOf(part).Legend.VtFont; }));
+                       "Legend", [legend](Part part) -> auto& { return legend(part).VtFont; }));
     return look;
 }
 
@@ -170,17 +170,13 @@ LookTable MakeColumnsLook() {
                    .partsName = QStringLiteral("Columns"),
                    .numberField = QStringLiteral("ColumnId"),
                    .fields = {}};
-    // The column asked for becomes the current one.
-    look.fields.push_back(Text(
-        "ColumnName",
-        [](Part part) {
-            ChartOf(part).Column = part.number;
-            return ChartOf(part).ColumnLabel();
-        },
+    // A table whose columns are called so already stays shared.
+    look.fields.push_back(AsTitle(Text(
+        "ColumnName", [](Part part) { return ChartOf(part).DataGrid.ColumnLabel(part.number); },
         [](Part part, const QString& label) {
             ChartOf(part).Column = part.number;
-            ChartOf(part).SetColumnLabel(label);
-        }));
+            if (ChartOf(part).ColumnLabel() != label) ChartOf(part).SetColumnLabel(label);
+        })));
     return look;
 }
 
@@ -233,8 +229,8 @@ LookTable MakeAxesLook() {
     fields.push_back(Enumeration(
         "AxisGridStyle", [](Part part) -> auto& { return AxisOf(part).AxisGrid.MajorPen.Style; },
         ToPenStyle));
-    fields.push_back(TextMember(
-        "AxisTitleText", [title](Part part) -> auto& { return title(part).Text; }));
+    fields.push_back(AsTitle(TextMember(
+        "AxisTitleText", [title](Part part) -> auto& { return title(part).Text; })));
     fields.push_back(BooleanMember(
         "AxisTitleVisible", [title](Part part) -> auto& { return title(part).Visible; }));
     fields.push_back(Enumeration(

@@ -1,8 +1,9 @@
 #include "config/LookOverride.h"
 
 #include "chart/DefaultLook.h"
-#include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
+
+#include <utility>
 
 namespace QmChart6 {
 
@@ -26,10 +27,10 @@ void SetLookOverride(const QString& graphId, const std::optional<Look>& look) {
 bool ApplyLookOverride(Viewer& viewer, bool loadTitles) {
     const auto found = Overrides().find(viewer.GraphId());
     if (found == Overrides().end()) return false;
-    Look look = found->second;
-    ApplyDefaultLook(viewer.ChartImage().Model());
-    ApplyLook(viewer, look, loadTitles);
-    return true;
+    LookState look = viewer.Look();
+    ApplyDefaultLook(look.chart);
+    Look read = found->second;
+    return ShowLook(viewer, std::move(look), read, loadTitles);
 }
 
 } // namespace QmChart6

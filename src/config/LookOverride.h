@@ -4,6 +4,8 @@
 
 namespace QmChart6 {
 
+class Viewer;
+
 /// From now on the chart of that graph id has this look whenever its stored look is asked for, whatever is
 /// stored; nothing goes back to what is stored. Blanks at the id's ends and case do not count.
 void SetLookOverride(const QString& graphId, const std::optional<Look>& look);

@@ -23,8 +23,10 @@ void ColourBox::SetBackColor(const QColor& colour) {
 
 bool ColourBox::Pick(const QString& title) {
     const auto picked = CurrentDesktop().PickColour(window(), colour_, title);
-    if (picked) SetBackColor(*picked);
-    return picked.has_value();
+    if (!picked) return false;
+    SetBackColor(*picked);
+    Q_EMIT Picked();
+    return true;
 }
 
 void ColourBox::paintEvent(QPaintEvent* /*event*/) {

@@ -14,6 +14,8 @@ std::int32_t NumberOf(const QColor& colour);
 
 /// A small framed box that shows a colour, and holds it.
 class ColourBox : public QWidget {
+    Q_OBJECT
+
 public:
     explicit ColourBox(QWidget* parent = nullptr);
 
@@ -25,6 +27,10 @@ public:
     /// Asks the person for another colour, starting from the one that is held; cancelled, it stays. Says
     /// whether there is another one.
     bool Pick(const QString& title);
+
+Q_SIGNALS:
+    /// The person chose another colour.
+    void Picked();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,6 +1,5 @@
 #include "dialogs/GraphConfiguration.h"
 
-#include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationStore.h"
 #include "config/Viewer.h"
 #include "desktop/Desktop.h"
@@ -113,7 +112,6 @@ void GraphConfiguration::Load() {
     if (lstConfig_->count() == 0) return;
     LoadConfiguration(*viewer_, Selected(), chkTitles_->isChecked());
     if (chkDefault_->isChecked()) BindChartToConfiguration(*viewer_, Selected());
-    viewer_->ChartImage().Refresh();
     viewer_->SetStatus(LocalText(TextKey::ConfigurationLoaded));
 }
 

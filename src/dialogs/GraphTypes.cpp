@@ -1,8 +1,8 @@
 #include "dialogs/GraphTypes.h"
 
 #include "chart/ChartFunctions.h"
+#include "chart/ValueLabelFormat.h"
 #include "chartcontrol/model/ChartKinds.h"
-#include "chartcontrol/paint/QtColour.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
 #include "dialogs/ChartKinds.h"
@@ -29,23 +29,17 @@ namespace {
 constexpr std::size_t ZAxis = 3;
 constexpr double MarkerSize = 10; // points
 
-Truth TruthOf(const QCheckBox& box) {
-    return box.isChecked() ? True : False;
-}
-
-/// What all series have; the value of number 0 where they differ, or where there is none.
-template<class Value, class Read>
-Value CommonTo(const SeriesCollection& series, Read read) {
-    if (series.Count() == 0) return Value{};
-    const Value first = read(series(1).DataPoints.Item(DataPoints::All).DataPointLabel);
-    for (int number = 2; number <= series.Count(); ++number)
-        if (read(series(number).DataPoints.Item(DataPoints::All).DataPointLabel) != first) return Value{};
-    return first;
+/// Opening the dialog gives every series markers of that size.
+void SizeMarkers(Chart& chart) {
+    for (Series& series : chart.Plot.SeriesCollection)
+        series.DataPoints.Item(DataPoints::All).Marker.Size = MarkerSize;
 }
 
 } // namespace
 
-GraphTypes::GraphTypes(QWidget* owner) : PropertyDialog(owner, Buttons::OkCancelApply), form_(this) {
+GraphTypes::GraphTypes(QWidget* owner)
+    : PropertyDialog(owner, Buttons::OkCancelApply), form_(this), settings_(SettingRows(form_)),
+      labels_(LabelRows(form_)) {
     setObjectName(QStringLiteral("GraphTypes"));
     setWindowTitle(LocalText(TextKey::GraphProperties));
     auto* row = new QHBoxLayout;
@@ -61,125 +55,62 @@ GraphTypes::~GraphTypes() = default;
 void GraphTypes::Connect() {
     On(form_.RB2d, &QRadioButton::toggled, [this] { ChooseDimension(); });
     On(form_.LChTypes, &QListWidget::currentRowChanged, [this] { ChooseKind(); });
-    On(form_.btnBackColor, &QPushButton::clicked, [this] { PickBackColor(); });
-    ConnectOptions();
-    ConnectAxes();
-}
-
-/// Every handler acts on the sample through the operation that writing back uses.
-void GraphTypes::ConnectOptions() {
-    const auto follow = [this](QCheckBox* box, void (*operation)(Chart&, Truth)) {
-        On(box, &QCheckBox::toggled, [this, box, operation] {
-            operation(Sample(), TruthOf(*box));
-            RefreshSample();
-        });
-    };
-    follow(form_.CShowLegend, SetLegendVisible);
-    follow(form_.CShowMarkers, SetSeriesMarkers);
-    follow(form_.CShowLines, SetSeriesLines);
-    follow(form_.C100, SetFullStacked);
-    On(form_.CStackSeries, &QCheckBox::toggled, [this] { StackClicked(); });
-    On(form_.CSeriesInRows, &QCheckBox::toggled, [this] { SeriesInRowsClicked(); });
-    const auto choose = [this](QComboBox* list, void (*operation)(Chart&, int)) {
-        On(list, &QComboBox::currentIndexChanged, [this, list, operation] {
-            if (list->currentIndex() < 0) return;
-            operation(Sample(), list->currentIndex());
-            RefreshSample();
-        });
-    };
-    choose(form_.cbPiePos, SetPieLabelPosition);
-    choose(form_.cb3DPerspective, SetProjection);
-}
-
-void GraphTypes::ConnectAxes() {
-    for (std::size_t axis = 0; axis < GraphTypesControls::AxisCount; ++axis) {
-        const int id = static_cast<int>(axis);
-        On(form_.chkAxis[axis], &QCheckBox::toggled, [this, axis] { AxisClicked(axis); });
-        On(form_.chkAxisLab[axis], &QCheckBox::toggled, [this, axis, id] {
-            SetAxisTitleVisible(Sample(), TruthOf(*form_.chkAxisLab[axis]), id);
-            RefreshSample();
-        });
-        On(form_.cbGridLines[axis], &QComboBox::currentIndexChanged, [this, axis, id] {
-            const int style = form_.cbGridLines[axis]->currentIndex();
-            if (style < 0) return;
-            SetGridLineStyle(Sample(), style, id);
-            RefreshSample();
-        });
+    On(form_.btnBackColor, &QPushButton::clicked,
+       [this] { form_.pbBackColor->Pick(form_.btnBackColor->accessibleName()); });
+    for (const GraphTypesRow& row : settings_) {
+        const auto follow = [this, &row] { Follow(row); };
+        if (auto* check = qobject_cast<QCheckBox*>(row.box)) On(check, &QCheckBox::toggled, follow);
+        if (auto* list = qobject_cast<QComboBox*>(row.box)) On(list, &QComboBox::currentIndexChanged, follow);
+        if (auto* colour = qobject_cast<ColourBox*>(row.box)) On(colour, &ColourBox::Picked, follow);
     }
 }
 
 void GraphTypes::Execute(Viewer& viewer) {
-    Fill(viewer);
-    RunLoop([&] { WriteBack(viewer); });
+    LookState look = viewer.Look();
+    SizeMarkers(look.chart);
+    viewer.Show(look);
+    Fill(look);
+    RunLoop([&] {
+        LookState written = viewer.Look();
+        Write(written);
+        viewer.Show(written);
+    });
 }
 
-Chart& GraphTypes::Sample() {
-    return form_.SampleChart->Model();
-}
-
-void GraphTypes::RefreshSample() {
-    if (!filling_) form_.SampleChart->Refresh();
-}
-
-void GraphTypes::Fill(Viewer& viewer) {
-    Chart& chart = viewer.ChartImage().Model();
-    // Markers are given their size on every opening, whatever becomes of the dialog.
-    for (Series& series : chart.Plot.SeriesCollection)
-        series.DataPoints.Item(DataPoints::All).Marker.Size = MarkerSize;
-    filling_ = true;
-    Sample() = SampleOf(chart);
-    FillOptions(viewer, chart);
-    FillAxes(chart);
-    SetSelected(static_cast<std::int16_t>(chart.chartType()));
-    FillLabels(chart.Plot.SeriesCollection);
-    form_.cbPiePos->setCurrentIndex(static_cast<int>(chart.Plot.SubPlotLabelPosition));
-    form_.cb3DPerspective->setCurrentIndex(static_cast<int>(chart.Plot.Projection));
-    filling_ = false;
+/// Lets no handler answer to the settings: the sample is like that already, and a box that another one's
+/// handler clears would not show what the chart has.
+void GraphTypes::Fill(const LookState& look) {
+    sample_ = look;
+    sample_.chart = SampleOf(look.chart);
+    for (const GraphTypesRow& row : settings_) ShowValue(*row.box, row.read(look));
+    SetSelected(static_cast<std::int16_t>(look.chart.chartType()));
+    for (const GraphTypesRow& row : labels_) {
+        if (row.box == form_.cbLabels)
+            SetQmLabels(static_cast<std::int16_t>(row.read(look)));
+        else
+            ShowValue(*row.box, row.read(look));
+    }
+    AllowWhatGoesTogether();
     RefreshSample();
 }
 
-/// Sets the boxes to what is, and lets no handler answer: the sample is like that already, and a box that
-/// another one's handler clears would not show what the chart has.
-void GraphTypes::FillOptions(const Viewer& viewer, const Chart& chart) {
-    const auto show = [](QCheckBox* box, bool checked) {
-        const QSignalBlocker quiet(box);
-        box->setChecked(checked);
-    };
-    show(form_.CShowLegend, chart.ShowLegend);
-    show(form_.CShowMarkers, viewer.Markers() != 0);
-    show(form_.CShowLines, viewer.Lines() != 0);
-    show(form_.CStackSeries, viewer.Stacked() != 0);
-    show(form_.C100, viewer.FullStacked() != 0);
-    show(form_.CSeriesInRows, chart.Plot.DataSeriesInRow);
-    form_.C100->setEnabled(viewer.Stacked() != 0);
-    form_.pbBackColor->SetBackColor(QtColourOf(chart.Backdrop.Fill.Brush.FillColor));
-}
-
-void GraphTypes::FillAxes(const Chart& chart) {
-    for (std::size_t axis = 0; axis < GraphTypesControls::AxisCount; ++axis) {
-        const Axis& shown = chart.Plot.Axis(static_cast<int>(axis));
-        const QSignalBlocker quietAxis(form_.chkAxis[axis]);
-        const QSignalBlocker quietTitle(form_.chkAxisLab[axis]);
-        form_.chkAxis[axis]->setChecked(!shown.AxisScale.Hide);
-        form_.chkAxisLab[axis]->setEnabled(!shown.AxisScale.Hide);
-        form_.chkAxisLab[axis]->setChecked(shown.AxisTitle.Visible);
-        form_.cbGridLines[axis]->setCurrentIndex(static_cast<int>(shown.AxisGrid.MajorPen.Style));
+void GraphTypes::Write(LookState& look) const {
+    // The same type again would take the series' own types away.
+    const ChartType kind = ToChartType(Selected());
+    if (look.chart.chartType() != kind) look.chart.SetChartType(kind);
+    FitDataLabelLocations(look.chart);
+    for (const GraphTypesRow& row : settings_) row.operation(look, ValueOf(*row.box));
+    for (const GraphTypesRow& row : labels_) row.operation(look, ValueOf(*row.box));
+    for (Series& series : look.chart.Plot.SeriesCollection) {
+        DataPointLabel& label = series.DataPoints.Item(DataPoints::All).DataPointLabel;
+        label.PercentFormat = QStringLiteral("0.0%");
+        label.ValueFormat = ValueLabelFormat();
     }
 }
 
-void GraphTypes::FillLabels(const SeriesCollection& series) {
-    for (std::size_t bit = 0; bit < GraphTypesControls::ComponentCount; ++bit) {
-        const auto state = GetLabelComponentState(series, static_cast<int>(bit));
-        QCheckBox& box = *form_.chkComponent[bit];
-        // Gray means that the series differ; who makes them alike can go back to gray, others cannot go
-        // there.
-        box.setTristate(state == 2);
-        box.setCheckState(state == 2 ? Qt::PartiallyChecked : (state == 1 ? Qt::Checked : Qt::Unchecked));
-    }
-    SetQmLabels(static_cast<std::int16_t>(
-        CommonTo<LabelLocation>(series, [](const DataPointLabel& label) { return label.LocationType; })));
-    form_.cbLines->setCurrentIndex(static_cast<int>(
-        CommonTo<LabelLineStyle>(series, [](const DataPointLabel& label) { return label.LineStyle; })));
+void GraphTypes::RefreshSample() {
+    form_.SampleChart->Model() = sample_.chart;
+    form_.SampleChart->Refresh();
 }
 
 std::int16_t GraphTypes::Selected() const {
@@ -213,9 +144,9 @@ void GraphTypes::FillKinds(int index) {
         form_.LChTypes->setCurrentRow(index >= 0 && index < form_.LChTypes->count() ? index : 0);
     }
     form_.chkAxis[ZAxis]->setEnabled(threeD);
-    form_.chkAxisLab[ZAxis]->setEnabled(threeD && form_.chkAxis[ZAxis]->isChecked());
     form_.cbGridLines[ZAxis]->setEnabled(threeD);
     form_.lblGrid[ZAxis]->setEnabled(threeD);
+    AllowWhatGoesTogether();
     ChooseKind();
 }
 
@@ -228,7 +159,7 @@ void GraphTypes::ChooseKind() {
         form_.CSeriesInRows->setChecked(kind == ChartType::Pie2D);
         form_.CSeriesInRows->setEnabled(kind == ChartType::Pie2D);
     }
-    if (Sample().chartType() != kind) Sample().SetChartType(kind);
+    if (sample_.chart.chartType() != kind) sample_.chart.SetChartType(kind);
     RefillLabels(kind);
     RefreshSample();
 }
@@ -248,50 +179,41 @@ void GraphTypes::RefillLabels(ChartType kind) {
     const auto chosen = static_cast<LabelLocation>(QmLabels());
     labelsOf_ = kind;
     form_.cbLabels->clear();
-    form_.cbLabels->addItems(LabelLocationTexts(kind));
+    for (const QString& text : LabelLocationTexts(kind))
+        form_.cbLabels->addItem(text, static_cast<int>(LocationOffered(kind, form_.cbLabels->count())));
     SetQmLabels(static_cast<std::int16_t>(chosen));
 }
 
 std::int16_t GraphTypes::QmLabels() const {
-    return static_cast<std::int16_t>(LocationOffered(labelsOf_, form_.cbLabels->currentIndex()));
+    return static_cast<std::int16_t>(ValueOf(*form_.cbLabels));
 }
 
 void GraphTypes::SetQmLabels(std::int16_t code) {
     form_.cbLabels->setCurrentIndex(IndexOfLabelLocation(labelsOf_, ToLabelLocation(code)));
 }
 
-void GraphTypes::StackClicked() {
+void GraphTypes::Follow(const GraphTypesRow& row) {
     const bool stacked = form_.CStackSeries->isChecked();
-    if (!stacked && form_.C100->isChecked()) form_.C100->setChecked(false);
-    form_.C100->setEnabled(stacked);
-    SetStacked(Sample(), TruthOf(*form_.CStackSeries));
+    if (row.box == form_.CStackSeries && !stacked) form_.C100->setChecked(false);
+    // Stacking is taken off round the flip, and put back after it.
+    const bool restack = row.box == form_.CSeriesInRows && stacked;
+    if (restack) form_.CStackSeries->setChecked(false);
+    row.operation(sample_, ValueOf(*row.box));
+    if (restack) form_.CStackSeries->setChecked(true);
+    AllowWhatGoesTogether();
     RefreshSample();
 }
 
-/// Stacking is taken off round the flip, and put back after it.
-void GraphTypes::SeriesInRowsClicked() {
-    const bool stacked = form_.CStackSeries->isChecked();
-    if (stacked) form_.CStackSeries->setChecked(false);
-    SetSeriesInRows(Sample(), TruthOf(*form_.CSeriesInRows));
-    if (stacked) form_.CStackSeries->setChecked(true);
-    RefreshSample();
-}
-
-void GraphTypes::AxisClicked(std::size_t axis) {
-    QCheckBox& box = *form_.chkAxis[axis];
-    SetAxisVisible(Sample(), TruthOf(box), static_cast<int>(axis));
-    form_.chkAxisLab[axis]->setEnabled(box.isChecked());
-    RefreshSample();
-}
-
-void GraphTypes::PickBackColor() {
-    if (!form_.pbBackColor->Pick(form_.btnBackColor->accessibleName())) return;
-    SetBackgroundColor(Sample(), NumberOf(form_.pbBackColor->BackColor()));
-    RefreshSample();
+/// Shares of a whole are there while there is a whole, and a title while its axis is there.
+void GraphTypes::AllowWhatGoesTogether() {
+    form_.C100->setEnabled(form_.CStackSeries->isChecked());
+    for (std::size_t axis = 0; axis < GraphTypesControls::AxisCount; ++axis)
+        form_.chkAxisLab[axis]->setEnabled(form_.chkAxis[axis]->isEnabled() &&
+                                           form_.chkAxis[axis]->isChecked());
 }
 
 bool GraphTypes::SampleHasOneColumn() const {
-    return form_.SampleChart->Model().ColumnCount() <= 1;
+    return sample_.chart.ColumnCount() <= 1;
 }
 
 } // namespace QmChart6

@@ -1,18 +1,16 @@
 #pragma once
 
 #include "chartcontrol/model/Enumerations.h"
+#include "config/LookState.h"
 #include "dialogs/GraphTypesControls.h"
+#include "dialogs/GraphTypesRows.h"
 #include "dialogs/PropertyDialog.h"
 
-#include <QColor>
-
 #include <cstdint>
+#include <vector>
 
 namespace QmChart6 {
 
-struct Chart;
-struct DataPointLabel;
-class SeriesCollection;
 class Viewer;
 
 /// Edits the look of a viewer's whole chart, and shows each change at once on a sample of its own. The
@@ -39,13 +37,8 @@ public:
 
 private:
     void Connect();
-    void ConnectOptions();
-    void ConnectAxes();
-
-    void Fill(Viewer& viewer);
-    void FillOptions(const Viewer& viewer, const Chart& chart);
-    void FillAxes(const Chart& chart);
-    void FillLabels(const SeriesCollection& series);
+    void Fill(const LookState& look);
+    void Write(LookState& look) const;
 
     /// Fills the list of kinds for the dimension, and selects one of them.
     void FillKinds(int index);
@@ -53,25 +46,19 @@ private:
     void ChooseKind();
     void EnableForKind(ChartType kind);
     void RefillLabels(ChartType kind);
-    void StackClicked();
-    void SeriesInRowsClicked();
-    void AxisClicked(std::size_t axis);
-    void PickBackColor();
-    [[nodiscard]] Chart& Sample();
+    /// Does to the sample what choosing a value does to a look.
+    void Follow(const GraphTypesRow& row);
+    void AllowWhatGoesTogether();
     void RefreshSample();
     /// The sample has as many columns as the viewer's chart.
     [[nodiscard]] bool SampleHasOneColumn() const;
 
-    void WriteBack(Viewer& viewer) const;
-    void WriteOptions(Chart& chart) const;
-    void WriteAxes(Chart& chart) const;
-    void WriteLabels(Chart& chart) const;
-    void WriteComponents(DataPointLabel& label) const;
-
     GraphTypesControls form_;
+    const std::vector<GraphTypesRow> settings_;
+    const std::vector<GraphTypesRow> labels_;
+    LookState sample_;
     /// The kind whose locations cbLabels offers.
     ChartType labelsOf_ = ChartType::Bar2D;
-    bool filling_ = false;
 };
 
 } // namespace QmChart6

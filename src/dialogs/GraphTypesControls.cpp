@@ -42,7 +42,7 @@ QComboBox* NewList(QWidget* parent, const char* name, std::initializer_list<Text
     list->setObjectName(QLatin1String(name));
     list->setMinimumWidth(MinimumListWidth);
     list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    for (const TextKey key : textKeys) list->addItem(LocalText(key));
+    for (const TextKey key : textKeys) list->addItem(LocalText(key), list->count());
     return list;
 }
 
@@ -169,7 +169,7 @@ QWidget* GraphTypesControls::MakeLabels() {
     cbLabels = NewList(page, "cbLabels");
     AddRow(*grid, NewLabel(page, "lblDataLabels", LocalText(TextKey::DataLabels), *cbLabels), cbLabels);
     cbLines = NewList(page, "cbLines");
-    cbLines->addItems(LabelLineTexts());
+    for (const QString& text : LabelLineTexts()) cbLines->addItem(text, cbLines->count());
     AddRow(*grid, NewLabel(page, "lblLabelLines", LocalText(TextKey::LabelLines), *cbLines), cbLines);
     constexpr std::array Names{"chkComponent0", "chkComponent1", "chkComponent2"};
     constexpr std::array Keys{TextKey::Value, TextKey::Percentage, TextKey::SeriesName};

@@ -4,10 +4,12 @@
 #include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationStore.h"
+#include "config/Viewer.h"
 #include "dialogs/GraphConfiguration.h"
 #include "viewer/ChartTypeList.h"
-#include "viewer/GraphForm.h"
+#include "viewer/LookChanges.h"
 #include "viewer/PrintChart.h"
+#include "viewer/ShownLook.h"
 
 #include <QComboBox>
 
@@ -34,7 +36,7 @@ constexpr Truth TruthOf(bool value) {
 } // namespace
 
 Chart& ControlBarCommands::Model() const {
-    return form_.ChartImage().Model();
+    return shown_.chart.Model();
 }
 
 int ControlBarCommands::Selected() const {
@@ -75,19 +77,26 @@ void ControlBarCommands::ChooseType() {
         bar_.Button(BarButton::Flip)->setEnabled(false);
         SwitchSeriesInRows();
     }
-    if (chart.chartType() != before) form_.SetModified(true);
-    form_.ChartImage().Refresh();
+    if (chart.chartType() != before) shown_.modified = true;
+    shown_.chart.Refresh();
 }
 
 void ControlBarCommands::FollowChart() {
+    if (bar_.isHidden()) return;
     const Raised busy(busy_);
     const Chart& chart = Model();
     SetSelected(static_cast<int>(chart.chartType()));
-    bar_.Press(BarButton::Stack, form_.Stacked() != 0);
-    bar_.Press(BarButton::FullStack, form_.FullStacked() != 0);
+    bar_.Press(BarButton::Stack, shown_.stacked != 0);
+    bar_.Press(BarButton::FullStack, shown_.fullStacked != 0);
     bar_.Press(BarButton::Legend, chart.ShowLegend);
     bar_.Press(BarButton::Flip, chart.Plot.DataSeriesInRow);
     AllowWhatCanBeSwitched();
+}
+
+void ControlBarCommands::Refresh() {
+    if (bar_.isHidden()) return;
+    FollowChart();
+    shown_.chart.Refresh();
 }
 
 void ControlBarCommands::AllowWhatCanBeSwitched() {
@@ -99,8 +108,8 @@ void ControlBarCommands::Click(BarButton button) {
     if (busy_) return;
     Act(button);
     if (button >= BarButton::Load) return;
-    form_.SetModified(true);
-    form_.ChartImage().Refresh();
+    shown_.modified = true;
+    shown_.chart.Refresh();
 }
 
 void ControlBarCommands::Act(BarButton button) {
@@ -120,19 +129,21 @@ void ControlBarCommands::Act(BarButton button) {
         return SetLegendVisible(Model(), TruthOf(bar_.IsPressed(button)));
     case BarButton::Load:
         LoadLook();
-        return form_.SetModified(false);
+        shown_.modified = false;
+        return;
     case BarButton::Save:
-        SaveConfiguration(form_);
-        return form_.SetModified(false);
+        SaveConfiguration(viewer_);
+        shown_.modified = false;
+        return;
     case BarButton::Print:
-        return PrintChart(form_);
+        return PrintChart(shown_.chart);
     }
 }
 
 void ControlBarCommands::LoadLook() {
-    GraphConfiguration dialog(&form_);
-    QObject::connect(&dialog, &GraphConfiguration::Written, &form_, &GraphForm::EndStep);
-    dialog.Execute(form_);
+    GraphConfiguration dialog(viewer_.Window());
+    QObject::connect(&dialog, &GraphConfiguration::Written, [this] { changes_.EndStep(); });
+    dialog.Execute(viewer_);
 }
 
 /// Shares of a whole are there only while there is a whole: without "Stack" there is no "100%".
@@ -143,14 +154,14 @@ void ControlBarCommands::SwitchStacking() {
         SwitchFullStacking();
     }
     bar_.Button(BarButton::FullStack)->setEnabled(stacked);
-    QmChart6::SetStacked(Model(), TruthOf(stacked));
-    form_.SetStacked(stacked ? 1 : 0);
+    SetStacked(Model(), TruthOf(stacked));
+    shown_.stacked = stacked ? 1 : 0;
 }
 
 void ControlBarCommands::SwitchFullStacking() {
     const bool on = bar_.IsPressed(BarButton::FullStack);
-    QmChart6::SetFullStacked(Model(), TruthOf(on));
-    form_.SetFullStacked(on ? 1 : 0);
+    SetFullStacked(Model(), TruthOf(on));
+    shown_.fullStacked = on ? 1 : 0;
 }
 
 /// Stacking is off meanwhile, so that the series are made anew unstacked.

@@ -4,14 +4,17 @@
 
 namespace QmChart6 {
 
-class GraphForm;
+class LookChanges;
+class Viewer;
 struct Chart;
+struct ShownLook;
 
 /// What the control bar does to a viewer's chart, and how the bar follows the chart. The check buttons are
-/// the viewer's memory of the options; Stacked and FullStacked of the viewer mirror theirs.
+/// the viewer's memory of the options; the states of stacking that are shown mirror theirs.
 class ControlBarCommands {
 public:
-    ControlBarCommands(GraphForm& form, ViewerToolBar& bar) : form_(form), bar_(bar) {}
+    ControlBarCommands(Viewer& viewer, ShownLook& shown, LookChanges& changes, ViewerToolBar& bar)
+        : viewer_(viewer), shown_(shown), changes_(changes), bar_(bar) {}
 
     /// The program itself sets buttons and selector: nothing that they do is done.
     [[nodiscard]] bool Busy() const { return busy_; }
@@ -26,8 +29,11 @@ public:
     /// where there still is one, and gives the chart the type at that place.
     void RefillChartTypeList();
 
-    /// Brings buttons and selector in step with the chart, which stays as it is.
+    /// Brings buttons and selector in step with the chart, which stays as it is; does nothing while the bar
+    /// is hidden.
     void FollowChart();
+    /// The same, and lays the chart out anew.
+    void Refresh();
 
     /// Does what a button does. An option's button makes the viewer modified, whether or not anything
     /// changed.
@@ -46,7 +52,9 @@ private:
     void AllowWhatCanBeSwitched();
     [[nodiscard]] Chart& Model() const;
 
-    GraphForm& form_;
+    Viewer& viewer_;
+    ShownLook& shown_;
+    LookChanges& changes_;
     ViewerToolBar& bar_;
     bool busy_ = false;
 };

@@ -2,12 +2,15 @@
 
 #include "chartcontrol/paint/QtTextMeasurer.h"
 #include "chartcontrol/widget/ChartControl.h"
+#include "config/Viewer.h"
 #include "dialogs/GraphSeriesProperties.h"
 #include "dialogs/GraphTextProperties.h"
 #include "dialogs/GraphTypes.h"
 #include "qmchart6/RuntimeError.h"
 #include "text/LocalText.h"
-#include "viewer/GraphForm.h"
+#include "viewer/ControlBarCommands.h"
+#include "viewer/LookChanges.h"
+#include "viewer/ShownLook.h"
 #include "viewer/TitlePlacement.h"
 
 namespace QmChart6 {
@@ -122,16 +125,16 @@ QString ElementEditing::Caption(int part) {
 }
 
 void ElementEditing::EditSelected() {
-    const ChartPart part = form_.ChartImage().SelectedPart();
+    const ChartPart part = shown_.chart.SelectedPart();
     if (part.part == static_cast<int>(PartCode::Series))
         EditSeries(part.index1);
     else
         EditText(part);
-    form_.SetModified(true);
+    shown_.modified = true;
 }
 
 void ElementEditing::Activate() {
-    if (ElementOf(form_.ChartImage().SelectedPart().part) != nullptr)
+    if (ElementOf(shown_.chart.SelectedPart().part) != nullptr)
         EditSelected();
     else
         EditChart();
@@ -139,20 +142,20 @@ void ElementEditing::Activate() {
 
 void ElementEditing::EditChart() {
     {
-        GraphTypes dialog(&form_);
-        QObject::connect(&dialog, &GraphTypes::Written, &form_, [this] { Show(); });
-        dialog.Execute(form_);
+        GraphTypes dialog(viewer_.Window());
+        QObject::connect(&dialog, &GraphTypes::Written, [this] { Show(); });
+        dialog.Execute(viewer_);
         // Opening the dialog sets markers' sizes; someone who cancelled it did nothing to be taken back.
-        if (dialog.Cancelled()) form_.DropStep();
+        if (dialog.Cancelled()) changes_.DropStep();
     }
-    form_.RefreshControlBar();
+    bar_.Refresh();
 }
 
 void ElementEditing::EditSeries(int series) {
-    Chart& chart = form_.ChartImage().Model();
+    Chart& chart = shown_.chart.Model();
     QString name = NameOf(chart, series);
-    GraphSeriesProperties dialog(&form_);
-    QObject::connect(&dialog, &GraphSeriesProperties::Written, &form_, [&, this] {
+    GraphSeriesProperties dialog(viewer_.Window());
+    QObject::connect(&dialog, &GraphSeriesProperties::Written, [&, this] {
         Rename(chart, series, name);
         Show();
     });
@@ -164,31 +167,31 @@ void ElementEditing::EditText(const ChartPart& part) {
     if (element == nullptr)
         throw RuntimeError(ErrorNumber::ObjectNotSet,
                            QStringLiteral("a part that can be edited is selected"));
-    Chart& chart = form_.ChartImage().Model();
-    GraphTextProperties dialog(&form_);
+    Chart& chart = shown_.chart.Model();
+    GraphTextProperties dialog(viewer_.Window());
     dialog.setWindowTitle(LocalText(element->captionKey));
     if (element->code == PartCode::Title) KeepTitleInPlace(dialog);
-    QObject::connect(&dialog, &GraphTextProperties::Written, &form_, [this] { Show(); });
+    QObject::connect(&dialog, &GraphTextProperties::Written, [this] { Show(); });
     dialog.Execute([&chart, part] { return Resolve(chart, part); }, element->allowed.text,
                    element->allowed.orientation, element->allowed.alignment);
 }
 
 /// Where the title stands is found out before the dialog, since its text tells where that is.
 void ElementEditing::KeepTitleInPlace(GraphTextProperties& dialog) {
-    ChartControl& control = form_.ChartImage();
+    ChartControl& control = shown_.chart;
     const Title before = control.Model().Title;
     const std::optional<CoordinateRect> rect = StandingRect(before, control.CurrentScene());
     if (!rect) return;
-    QObject::connect(&dialog, &GraphTextProperties::Written, &form_, [&control, before, rect] {
+    QObject::connect(&dialog, &GraphTextProperties::Written, [&control, before, rect] {
         PlaceTitleAround(control.Model().Title, *rect, before, control.CurrentScene().size, QtTextMeasurer());
     });
 }
 
 /// What was written is seen, and can be taken back.
 void ElementEditing::Show() {
-    form_.ChartImage().Refresh();
-    form_.SetModified(true);
-    form_.EndStep();
+    shown_.chart.Refresh();
+    shown_.modified = true;
+    changes_.EndStep();
 }
 
 } // namespace QmChart6

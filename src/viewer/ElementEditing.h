@@ -6,14 +6,18 @@
 
 namespace QmChart6 {
 
-class GraphForm;
+class ControlBarCommands;
 class GraphTextProperties;
+class LookChanges;
+class Viewer;
+struct ShownLook;
 
 /// Edits the parts of a viewer's chart, each in the dialog that is for it. Dialogs are loaded afresh for each
 /// edit; what they write is seen at once.
 class ElementEditing {
 public:
-    explicit ElementEditing(GraphForm& form) : form_(form) {}
+    ElementEditing(Viewer& viewer, ShownLook& shown, LookChanges& changes, ControlBarCommands& bar)
+        : viewer_(viewer), shown_(shown), changes_(changes), bar_(bar) {}
 
     /// What the editing of a part is called, by the part's code; "" for a part that has no dialog of its own.
     [[nodiscard]] static QString Caption(int part);
@@ -32,7 +36,10 @@ private:
     void KeepTitleInPlace(GraphTextProperties& dialog);
     void Show();
 
-    GraphForm& form_;
+    Viewer& viewer_;
+    ShownLook& shown_;
+    LookChanges& changes_;
+    ControlBarCommands& bar_;
 };
 
 } // namespace QmChart6

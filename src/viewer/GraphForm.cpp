@@ -11,6 +11,7 @@
 #include "viewer/ControlBarCommands.h"
 #include "viewer/ElementEditing.h"
 #include "viewer/LookChanges.h"
+#include "viewer/ViewerCommands.h"
 #include "viewer/ViewerLayout.h"
 #include "viewer/ViewerMenu.h"
 #include "viewer/ViewerStatusBar.h"
@@ -59,12 +60,27 @@ private:
     std::shared_ptr<GraphForm> self_;
 };
 
+struct GraphForm::Commands {
+    explicit Commands(GraphForm& form)
+        : changes(form, form.shown_), bar(form, form.shown_, changes, *form.tbControlBar_),
+          editing(form, form.shown_, changes, bar),
+          all({form, form.shown_, changes, bar, editing, *form.tbControlBar_, *form.mProperties_},
+              [&form](const std::function<void()>& command) {
+                  const OwnEvent event(form);
+                  command();
+              }) {}
+
+    LookChanges changes;
+    ControlBarCommands bar;
+    ElementEditing editing;
+    ViewerCommands all;
+};
+
 GraphForm::GraphForm(QWidget* parent)
-    : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)),
-      tbControlBar_(new ViewerToolBar(this)),
-      commands_(std::make_unique<ControlBarCommands>(*this, *tbControlBar_)),
-      editing_(std::make_unique<ElementEditing>(*this)), changes_(std::make_unique<LookChanges>(*this)),
-      sbGraph_(new ViewerStatusBar(this)), mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)) {
+    : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)), shown_{.chart = *chartImage_},
+      tbControlBar_(new ViewerToolBar(this)), sbGraph_(new ViewerStatusBar(this)),
+      mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)),
+      commands_(std::make_unique<Commands>(*this)) {
     setObjectName(QStringLiteral("GraphForm"));
     // Closing the last chart must not end a host's event loop.
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -74,8 +90,8 @@ GraphForm::GraphForm(QWidget* parent)
     timGraph_->setObjectName(QStringLiteral("timGraph"));
     timGraph_->setSingleShot(true);
     timGraph_->setInterval(StatusTime);
+    connect(timGraph_, &QTimer::timeout, this, [this] { sbGraph_->Panel(4).SetText({}); });
     mProperties_->optControlBar->setChecked(true);
-    ConnectCommands();
 
     chartImage_->resize(ChartWidth, ChartHeight);
     tbControlBar_->ensurePolished();
@@ -88,31 +104,16 @@ GraphForm::GraphForm(QWidget* parent)
 
 GraphForm::~GraphForm() = default;
 
-void GraphForm::Do(const std::function<void()>& command) {
-    const OwnEvent event(*this);
-    changes_->Do([&] { ShowErrors(this, command); });
-}
-
 void GraphForm::Undo() {
-    const OwnEvent event(*this);
-    ShowErrors(this, [this] { changes_->Undo(); });
+    commands_->all.Undo();
 }
 
 void GraphForm::Redo() {
-    const OwnEvent event(*this);
-    ShowErrors(this, [this] { changes_->Redo(); });
-}
-
-void GraphForm::EndStep() {
-    changes_->EndStep();
-}
-
-void GraphForm::DropStep() {
-    changes_->DropStep();
+    commands_->all.Redo();
 }
 
 void GraphForm::RestartHistory() {
-    changes_->Restart();
+    commands_->changes.Restart();
 }
 
 QString GraphForm::GraphId() const {
@@ -135,6 +136,35 @@ void GraphForm::SetStatus(const QString& message) {
     sbGraph_->Panel(4).SetText(message);
     // A timer that runs is left to run: a message is shown until it fires.
     if (!timGraph_->isActive()) timGraph_->start();
+}
+
+LookState GraphForm::Look() const {
+    const QSize size = isMaximized() && normalGeometry().isValid() ? normalGeometry().size() : this->size();
+    return {.chart = chartImage_->Model(),
+            .lines = shown_.lines,
+            .markers = shown_.markers,
+            .stacked = shown_.stacked,
+            .fullStacked = shown_.fullStacked,
+            .controlBar = ControlBar(),
+            .maximized = isMaximized(),
+            .width = TwipsOfPixels(size.width()) + NominalFrameWidth,
+            .height = TwipsOfPixels(size.height()) + NominalFrameHeight};
+}
+
+void GraphForm::Show(const LookState& look) {
+    const LookState before = Look();
+    if (look.height != before.height) SetHeight(look.height);
+    if (look.width != before.width) SetWidth(look.width);
+    if (look.maximized != isMaximized()) SetWindowState(look.maximized ? 2 : 0);
+    chartImage_->Model() = look.chart;
+    shown_.lines = look.lines;
+    shown_.markers = look.markers;
+    shown_.stacked = look.stacked;
+    shown_.fullStacked = look.fullStacked;
+    if (LookAlike(look, before)) return;
+    if (look.controlBar != before.controlBar) SetControlBar(look.controlBar);
+    SyncControlBar();
+    chartImage_->Refresh();
 }
 
 int GraphForm::WindowState() const {
@@ -186,7 +216,7 @@ void GraphForm::SetControlBar(bool shown) {
     RefreshControlBar();
 }
 
-void GraphForm::ShowViewer() {
+void GraphForm::Open() {
     if (!closed_ && !isVisible()) show();
 }
 
@@ -198,29 +228,27 @@ void GraphForm::BringUp() {
 }
 
 bool GraphForm::Busy() const {
-    return commands_->Busy();
+    return commands_->bar.Busy();
 }
 
 int GraphForm::Selected() const {
-    return commands_->Selected();
+    return commands_->bar.Selected();
 }
 
 void GraphForm::SetSelected(int type) {
-    commands_->SetSelected(type);
+    commands_->bar.SetSelected(type);
 }
 
 void GraphForm::RefillChartTypeList() {
-    commands_->RefillChartTypeList();
+    commands_->bar.RefillChartTypeList();
 }
 
 void GraphForm::SyncControlBar() {
-    if (ControlBar()) commands_->FollowChart();
+    commands_->bar.FollowChart();
 }
 
 void GraphForm::RefreshControlBar() {
-    if (!ControlBar()) return;
-    SyncControlBar();
-    chartImage_->Refresh();
+    commands_->bar.Refresh();
 }
 
 void GraphForm::PlaceParts() {
@@ -268,7 +296,7 @@ void GraphForm::closeEvent(QCloseEvent* close) {
     if (closed_) return;
     closed_ = true;
     const OwnEvent event(*this);
-    if (modified_) ShowErrors(this, [this] { AskToSave(); });
+    if (shown_.modified) ShowErrors(this, [this] { AskToSave(); });
     Q_EMIT Closed();
 }
 
@@ -281,18 +309,13 @@ void GraphForm::AskToSave() {
 
 void GraphForm::mouseReleaseEvent(QMouseEvent* event) {
     QWidget::mouseReleaseEvent(event);
-    if (event->button() == Qt::RightButton) ShowMenu(event->globalPosition().toPoint());
+    if (event->button() == Qt::RightButton) mProperties_->ShowFor({}, event->globalPosition().toPoint());
 }
 
 void GraphForm::contextMenuEvent(QContextMenuEvent* event) {
     // The mouse's own is shown on release, so that a press can still be taken elsewhere.
     if (event->reason() == QContextMenuEvent::Mouse) return;
-    ShowMenu(event->globalPos());
-}
-
-void GraphForm::ShowMenu(const QPoint& globalPlace, const QString& caption) {
-    mProperties_->NameElement(caption);
-    mProperties_->popup(globalPlace);
+    mProperties_->ShowFor({}, event->globalPos());
 }
 
 } // namespace QmChart6

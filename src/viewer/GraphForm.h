@@ -1,19 +1,17 @@
 #pragma once
 
 #include "config/Viewer.h"
+#include "viewer/ShownLook.h"
 
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 class QTimer;
 
 namespace QmChart6 {
 
-class ControlBarCommands;
-class ElementEditing;
-class LookChanges;
+class ChartControl;
 class ViewerMenu;
 class ViewerStatusBar;
 class ViewerToolBar;
@@ -31,39 +29,37 @@ public:
     ~GraphForm() override;
 
     [[nodiscard]] QString GraphId() const override;
-    void SetGraphId(const QString& id) override;
+    void SetGraphId(const QString& id);
     [[nodiscard]] QString QmConfig() const override;
     void SetQmConfig(const QString& name) override;
     void SetStatus(const QString& message) override;
 
-    [[nodiscard]] int WindowState() const override;
-    void SetWindowState(int state) override;
-    [[nodiscard]] int Height() const override;
-    void SetHeight(int twips) override;
-    [[nodiscard]] int Width() const override;
-    void SetWidth(int twips) override;
+    [[nodiscard]] LookState Look() const override;
+    void Show(const LookState& look) override;
+    void Open() override;
+    [[nodiscard]] QWidget* Window() override { return this; }
 
-    [[nodiscard]] bool ControlBar() const override;
-    void SetControlBar(bool shown) override;
+    /// 0 normal, 1 minimized, 2 maximized; setting another number raises error 380.
+    [[nodiscard]] int WindowState() const;
+    void SetWindowState(int state);
 
-    [[nodiscard]] std::int16_t Stacked() const override { return stacked_; }
-    void SetStacked(std::int16_t state) override { stacked_ = state; }
-    [[nodiscard]] std::int16_t FullStacked() const override { return fullStacked_; }
-    void SetFullStacked(std::int16_t state) override { fullStacked_ = state; }
-    [[nodiscard]] std::int16_t Lines() const override { return lines_; }
-    void SetLines(std::int16_t state) override { lines_ = state; }
-    [[nodiscard]] std::int16_t Markers() const override { return markers_; }
-    void SetMarkers(std::int16_t state) override { markers_ = state; }
+    // In twips, of the whole window.
+    [[nodiscard]] int Height() const;
+    void SetHeight(int twips);
+    [[nodiscard]] int Width() const;
+    void SetWidth(int twips);
 
-    [[nodiscard]] ChartControl& ChartImage() override { return *chartImage_; }
-    void ShowViewer() override;
+    [[nodiscard]] bool ControlBar() const;
+    void SetControlBar(bool shown);
+
+    [[nodiscard]] ChartControl& ChartImage() { return *chartImage_; }
 
     /// Shows the window as it was before it was minimized, above the others.
     void BringUp();
 
     /// The chart's options changed since its look was last kept; asked about on closing.
-    [[nodiscard]] bool Modified() const { return modified_; }
-    void SetModified(bool modified) { modified_ = modified; }
+    [[nodiscard]] bool Modified() const { return shown_.modified; }
+    void SetModified(bool modified) { shown_.modified = modified; }
     /// The program itself sets the control bar's buttons.
     [[nodiscard]] bool Busy() const;
     /// Nothing was painted yet, so the control bar has not been brought in step with the chart.
@@ -88,10 +84,6 @@ public:
     /// none.
     void Undo();
     void Redo();
-    /// Within a command of a person: what was changed until now is a step of its own.
-    void EndStep();
-    /// Within a command of a person: what was changed since the last step is none.
-    void DropStep();
     /// The host changed the chart: nothing from before can be taken back.
     void RestartHistory();
 
@@ -111,30 +103,19 @@ protected:
 private:
     class OwnEvent;
 
+    /// A person's commands, with what they work on.
+    struct Commands;
+
     void PlaceParts();
-    void ConnectCommands();
-    void ConnectMenu();
-    void ConnectChart();
-    void ConnectKeys();
-    /// `caption` names the element that the menu is for; "" for none.
-    void ShowMenu(const QPoint& globalPlace, const QString& caption = {});
     void AskToSave();
-    /// Does what a command of the window's own asks for, as one step that can be taken back.
-    void Do(const std::function<void()>& command);
 
     ChartControl* chartImage_;
+    ShownLook shown_;
     ViewerToolBar* tbControlBar_;
-    std::unique_ptr<ControlBarCommands> commands_;
-    std::unique_ptr<ElementEditing> editing_;
-    std::unique_ptr<LookChanges> changes_;
     ViewerStatusBar* sbGraph_;
     ViewerMenu* mProperties_;
     QTimer* timGraph_;
-    std::int16_t stacked_ = 0;
-    std::int16_t fullStacked_ = 0;
-    std::int16_t lines_ = 1;
-    std::int16_t markers_ = 0;
-    bool modified_ = false;
+    std::unique_ptr<Commands> commands_;
     bool firstPaintPending_ = true;
     int ownEvents_ = 0;
     bool closed_ = false;

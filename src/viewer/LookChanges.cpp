@@ -1,7 +1,9 @@
 #include "viewer/LookChanges.h"
 
-#include "chartcontrol/widget/ChartControl.h"
-#include "viewer/GraphForm.h"
+#include "config/Viewer.h"
+#include "viewer/ShownLook.h"
+
+#include <utility>
 
 namespace QmChart6 {
 
@@ -19,7 +21,7 @@ void LookChanges::Do(const std::function<void()>& command) {
 
 void LookChanges::EndStep() {
     if (!before_) return;
-    LookState now = Now();
+    LookMoment now = Now();
     history_.Add(*before_, now);
     before_ = std::move(now);
 }
@@ -29,10 +31,10 @@ void LookChanges::DropStep() {
 }
 
 void LookChanges::Turned(const View3d& before) {
-    if (before == form_.ChartImage().Model().Plot.View3d) return;
-    LookState unturned = Now();
-    unturned.Chart.Plot.View3d = before;
-    form_.SetModified(true);
+    LookMoment unturned = Now();
+    if (before == unturned.look.chart.Plot.View3d) return;
+    unturned.look.chart.Plot.View3d = before;
+    shown_.modified = true;
     history_.Add(unturned, Now());
 }
 
@@ -42,37 +44,31 @@ void LookChanges::Restart() {
 }
 
 void LookChanges::LookWasKept() {
-    history_.LookWasKept(Now());
+    history_.LookWasKept(viewer_.Look());
 }
 
 void LookChanges::Undo() {
-    if (const LookState* state = history_.Undo()) Show(*state);
+    GoTo(history_.Undo());
 }
 
 void LookChanges::Redo() {
-    if (const LookState* state = history_.Redo()) Show(*state);
+    GoTo(history_.Redo());
 }
 
-LookState LookChanges::Now() const {
-    return {.Chart = form_.ChartImage().Model(),
-            .Lines = form_.Lines(),
-            .Markers = form_.Markers(),
-            .Stacked = form_.Stacked(),
-            .FullStacked = form_.FullStacked(),
-            .ControlBar = form_.ControlBar(),
-            .Modified = form_.Modified()};
+LookMoment LookChanges::Now() const {
+    return {viewer_.Look(), shown_.modified};
 }
 
-void LookChanges::Show(const LookState& state) {
-    form_.ChartImage().Model() = state.Chart;
-    form_.SetLines(state.Lines);
-    form_.SetMarkers(state.Markers);
-    form_.SetStacked(state.Stacked);
-    form_.SetFullStacked(state.FullStacked);
-    form_.SetModified(state.Modified);
-    if (form_.ControlBar() != state.ControlBar) form_.SetControlBar(state.ControlBar);
-    form_.SyncControlBar();
-    form_.ChartImage().Refresh();
+/// The window keeps its size, whichever it had then.
+void LookChanges::GoTo(const LookMoment* moment) {
+    if (moment == nullptr) return;
+    const LookState now = viewer_.Look();
+    LookState then = moment->look;
+    then.maximized = now.maximized;
+    then.width = now.width;
+    then.height = now.height;
+    shown_.modified = moment->modified;
+    viewer_.Show(then);
 }
 
 } // namespace QmChart6

@@ -8,13 +8,14 @@
 
 namespace QmChart6 {
 
-class GraphForm;
+class Viewer;
+struct ShownLook;
 
 /// Watches a person change the look of a viewer's chart, so that it can be taken back. What the host does is
 /// no part of it.
 class LookChanges {
 public:
-    explicit LookChanges(GraphForm& form) : form_(form) {}
+    LookChanges(Viewer& viewer, ShownLook& shown) : viewer_(viewer), shown_(shown) {}
 
     /// Does what a person asks for, as one step. The command raises nothing.
     void Do(const std::function<void()>& command);
@@ -34,13 +35,14 @@ public:
     void Redo();
 
 private:
-    [[nodiscard]] LookState Now() const;
-    void Show(const LookState& state);
+    [[nodiscard]] LookMoment Now() const;
+    void GoTo(const LookMoment* moment);
 
-    GraphForm& form_;
+    Viewer& viewer_;
+    ShownLook& shown_;
     LookHistory history_;
     /// How it was when the command that runs began, or last ended a step.
-    std::optional<LookState> before_;
+    std::optional<LookMoment> before_;
 };
 
 } // namespace QmChart6

@@ -5,7 +5,6 @@
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"
 #include "chartcontrol/widget/ChartControl.h"
-#include "config/Viewer.h"
 #include "desktop/Desktop.h"
 #include "qmchart6/RuntimeError.h"
 #include "viewer/ChartOnPaper.h"
@@ -37,16 +36,15 @@ bool Failed(const QPrinter& printer) {
     return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
 }
 
-void PrintPageOf(ChartControl& chart, QPrinter& printer) {
+void PrintPageOf(const ChartControl& chart, QPrinter& printer) {
     PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, printer);
 }
 
 /// A printer with a name has a queue, unless it is made to print into a file.
-void PrintOn(QPrinter& printer, Viewer& viewer) {
+void PrintOn(QPrinter& printer, ChartControl& chart) {
     const QString name = printer.printerName();
     const bool queued = printer.outputFileName().isEmpty();
     if (queued) RaiseProblem(CurrentDesktop().PrinterProblem(name));
-    ChartControl& chart = viewer.ChartImage();
     const GraphPrinting telling(chart.window());
     if (queued) {
         const std::function<QString()> problem = CurrentDesktop().WatchPrinter(name);
@@ -85,15 +83,15 @@ void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
         RaisePrinterError(QStringLiteral("\"%1\" did not take the page").arg(printer.printerName()));
 }
 
-void PrintChart(Viewer& viewer) {
-    const QmPrintDialog pdChart(viewer.ChartImage().window());
-    if (const std::unique_ptr<QPrinter> printer = pdChart.Execute()) PrintOn(*printer, viewer);
+void PrintChart(ChartControl& chart) {
+    const QmPrintDialog pdChart(chart.window());
+    if (const std::unique_ptr<QPrinter> printer = pdChart.Execute()) PrintOn(*printer, chart);
 }
 
-void PrintChart(Viewer& viewer, const QString& printerName) {
+void PrintChart(ChartControl& chart, const QString& printerName) {
     const std::unique_ptr<QPrinter> printer = CurrentDesktop().OpenPrinter(printerName);
     if (!printer) RaiseNoPrinterNamed(printerName);
-    PrintOn(*printer, viewer);
+    PrintOn(*printer, chart);
 }
 
 } // namespace QmChart6

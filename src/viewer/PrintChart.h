@@ -7,15 +7,15 @@ class QPrinter;
 
 namespace QmChart6 {
 
-class Viewer;
+class ChartControl;
 
-/// Prints the viewer's chart on one page of the printer that the person at the desk chooses, or of the
-/// process' printer where there is nobody. The clipboard is empty afterwards. When they cancel, nothing is
-/// done. Raises 482 where there is no printer, or where it fails; 6 where the page is too large to be
-/// measured. The chart is the same afterwards in any case.
-void PrintChart(Viewer& viewer);
+/// Prints a chart, as its control shows it, on one page of the printer that the person at the desk chooses,
+/// or of the process' printer where there is nobody. The clipboard is empty afterwards. When they cancel,
+/// nothing is done. Raises 482 where there is no printer, or where it fails; 6 where the page is too large to
+/// be measured. The chart is the same afterwards in any case.
+void PrintChart(ChartControl& chart);
 /// The same on the printer of that name, nobody being asked.
-void PrintChart(Viewer& viewer, const QString& printerName);
+void PrintChart(ChartControl& chart, const QString& printerName);
 
 /// Paints a chart that a window shows at `windowSize` (points) on the printer's page, as ChartOnPaper gives
 /// it, as large as the printable area allows in the window's proportions. Raises as PrintChart.

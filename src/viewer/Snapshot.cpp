@@ -30,9 +30,8 @@ private:
 
 } // namespace
 
-void SaveChartSnapshot(Viewer& viewer, QString& FileName) {
+void SaveChartSnapshot(Viewer& viewer, ChartControl& chart, QString& FileName) {
     const KeptDirectory directory;
-    ChartControl& chart = viewer.ChartImage();
     chart.CopyToClipboard();
     if (FileName.isEmpty()) {
         const std::optional<QString> chosen =

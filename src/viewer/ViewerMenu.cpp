@@ -41,6 +41,11 @@ ViewerMenu::ViewerMenu(QWidget* parent) : QMenu(parent) {
         Entry(*this, "optSaveConfigAs", LocalText(TextKey::SaveConfigurationAs) + QStringLiteral("..."));
 }
 
+void ViewerMenu::ShowFor(const QString& caption, const QPoint& globalPlace) {
+    NameElement(caption);
+    popup(globalPlace);
+}
+
 void ViewerMenu::NameElement(const QString& caption) {
     optGenericProperties->setText(ToBeRead(caption));
     optGenericProperties->setVisible(!caption.isEmpty());

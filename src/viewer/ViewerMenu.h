@@ -11,8 +11,8 @@ class ViewerMenu : public QMenu {
 public:
     explicit ViewerMenu(QWidget* parent = nullptr);
 
-    /// Gives the first entry the caption of the element that it is for; "" hides it.
-    void NameElement(const QString& caption);
+    /// Shows itself with the caption of the element that the first entry is for; "" hides that entry.
+    void ShowFor(const QString& caption, const QPoint& globalPlace);
 
     QAction* optGenericProperties;
     QAction* optChart;
@@ -24,6 +24,9 @@ public:
     QAction* optLoadConfig;
     QAction* optSaveConfig;
     QAction* optSaveConfigAs;
+
+private:
+    void NameElement(const QString& caption);
 };
 
 } // namespace QmChart6

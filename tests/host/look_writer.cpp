@@ -61,9 +61,9 @@ void MakeParts(Chart& chart, int k) {
 }
 
 void MakeLook(TestViewer& viewer, int k) {
-    viewer.height = 4000 + k % 3000;
-    viewer.width = 5000 + k % 4000;
-    viewer.controlBar = k % 2 == 0;
+    viewer.look.height = 4000 + k % 3000;
+    viewer.look.width = 5000 + k % 4000;
+    viewer.look.controlBar = k % 2 == 0;
     MakeWhole(viewer.Model(), k);
     MakeParts(viewer.Model(), k);
 }

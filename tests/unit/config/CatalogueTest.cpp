@@ -57,10 +57,10 @@ TEST_P(CatalogueTest, DeletingALookRemovesItsRecordsAndTheBindingsOfAllChartsAnd
 
     TestViewer later;
     Fill(later, 2, 2);
-    const Chart before = later.chart.Model();
+    const Chart before = later.Model();
     later.graphId = T("A");
     LoadChartConfiguration(later, true);
-    EXPECT_EQ(later.chart.Model(), before);
+    EXPECT_EQ(later.Model(), before);
 }
 
 TEST_P(CatalogueTest, DeletingDoesNotChangeAnOpenViewersName) {

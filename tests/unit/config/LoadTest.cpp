@@ -8,7 +8,7 @@ namespace {
 
 class LoadTest : public StoreTest {
 protected:
-    [[nodiscard]] Chart& Model() { return viewer.chart.Model(); }
+    [[nodiscard]] Chart& Model() { return viewer.Model(); }
 };
 INSTANTIATE_TEST_SUITE_P(Engines, LoadTest, testing::Values(Engine::Sqlite, Engine::Postgres), EngineName());
 
@@ -22,7 +22,7 @@ TEST_P(LoadTest, WithoutABindingTheDefaultLookIsAppliedAndTheNameStaysAsItWas) {
     LoadChartConfiguration(viewer, true);
     EXPECT_EQ(Model(), before);
     EXPECT_EQ(viewer.config, "other");
-    EXPECT_TRUE(viewer.shown);
+    EXPECT_TRUE(viewer.opened);
     EXPECT_TRUE(Errors().isEmpty());
 }
 
@@ -46,7 +46,7 @@ TEST_P(LoadTest, TheBoundLookBecomesTheViewersConfiguration) {
     Fill(other, 2, 2);
     LoadChartConfiguration(other, true);
     EXPECT_EQ(other.config, "Look");
-    EXPECT_EQ(other.chart.Model().chartType(), ChartType::Line2D);
+    EXPECT_EQ(other.Model().chartType(), ChartType::Line2D);
     EXPECT_EQ(other.status, "");
 }
 
@@ -107,28 +107,35 @@ TEST_P(LoadTest, ALookWithMoreSeriesAndColumnsThanTheChartIsReadAsFarAsTheChartG
 
 TEST_P(LoadTest, AMaximizedLookMaximizesAndANormalOneDoesNotRestore) {
     Fill(viewer, 2, 2);
-    viewer.windowState = 2;
+    const LookState normal = viewer.look;
+    viewer.look.maximized = true;
     Save(viewer, "Large");
-    viewer.windowState = 0;
+    viewer.look.maximized = false;
     Save(viewer, "Normal");
-    viewer.windowLog.clear();
-    LoadConfiguration(viewer, T("Large"), false);
-    EXPECT_EQ(viewer.windowLog, QStringList({T("height"), T("width"), T("state 2")}));
-    viewer.windowLog.clear();
-    LoadConfiguration(viewer, T("Normal"), false);
-    EXPECT_EQ(viewer.windowLog, QStringList({T("height"), T("width")}));
-    EXPECT_EQ(viewer.windowState, 2);
+    const auto load = [&](const char* name) {
+        viewer.look.height = viewer.look.width = 3000;
+        viewer.windowLog.clear();
+        LoadConfiguration(viewer, T(name), false);
+        EXPECT_EQ(viewer.look.height, normal.height);
+        EXPECT_EQ(viewer.look.width, normal.width);
+        return viewer.windowLog;
+    };
+    EXPECT_EQ(load("Large"), QStringList({T("height"), T("width"), T("maximized")}));
+    EXPECT_EQ(load("Normal"), QStringList({T("height"), T("width")}));
+    EXPECT_TRUE(viewer.look.maximized);
 }
 
 TEST_P(LoadTest, LabelFormatsAreThoseOfTheProcess) {
     Fill(viewer, 2, 2);
     Save(viewer, "Look");
-    DataPointLabel& label = Model().Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).DataPointLabel;
-    label.PercentFormat = T("0");
-    label.ValueFormat = T("0.000");
+    const auto label = [this]() -> DataPointLabel& {
+        return Model().Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).DataPointLabel;
+    };
+    label().PercentFormat = T("0");
+    label().ValueFormat = T("0.000");
     LoadConfiguration(viewer, T("Look"), false);
-    EXPECT_EQ(label.PercentFormat, "0.0%");
-    EXPECT_EQ(label.ValueFormat, ValueLabelFormat());
+    EXPECT_EQ(label().PercentFormat, "0.0%");
+    EXPECT_EQ(label().ValueFormat, ValueLabelFormat());
 }
 
 TEST_P(LoadTest, AnErrorStopsItAndWhatWasAppliedStays) {

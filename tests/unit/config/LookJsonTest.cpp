@@ -93,9 +93,9 @@ TEST(LookJsonTest, TheExampleLooksAreLooksOfAllThatTheySay) {
         NamedLook named = ReadLookJson(json);
         EXPECT_FALSE(named.name.isEmpty());
         EXPECT_EQ(WriteLookJson(named), json) << name.toStdString();
-        TestViewer viewer;
-        viewer.Model().SetGridSize(3, 3);
-        EXPECT_TRUE(ApplyLook(viewer, named.look, true));
+        LookState state;
+        state.chart.SetGridSize(3, 3);
+        EXPECT_TRUE(ApplyLook(state, named.look, true));
     }
 }
 
@@ -110,9 +110,9 @@ TEST(LookFieldsTest, EveryFieldOfTheTablesIsAppliedOnceWhenALookIsLoaded) {
         }
         QMap<QString, int> counts;
     } counter;
-    TestViewer viewer;
-    viewer.Model().SetGridSize(1, 1);
-    ApplyLook(viewer, counter, true);
+    LookState state;
+    state.chart.SetGridSize(1, 1);
+    ApplyLook(state, counter, true);
     for (const LookTable* table : LookTables())
         for (const LookField& field : table->fields)
             EXPECT_EQ(counter.counts.value(table->name + u'.' + field.name), table == &AxesLook() ? 4 : 1)

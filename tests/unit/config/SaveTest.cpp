@@ -41,15 +41,15 @@ TEST_P(SaveTest, ReportsInTheLanguageOfTheProcess) {
 
 TEST_P(SaveTest, AMaximizedViewerIsRestoredWhileItsSizeIsReadAndMaximizedAgain) {
     Fill(viewer, 2, 2);
-    viewer.windowState = 2;
+    viewer.look.maximized = true;
     Save(viewer, "Look");
-    EXPECT_EQ(viewer.windowLog, QStringList({T("state 0"), T("state 2")}));
+    EXPECT_EQ(viewer.windowLog, QStringList({T("restored"), T("maximized")}));
     const QVariantList row =
         store.Sql(T("SELECT \"ChartMaximized\", \"ChartHeight\", \"ChartWidth\" FROM <ChartConfigurations>"))
             .front();
     EXPECT_TRUE(row[0].toBool());
-    EXPECT_EQ(row[1].toDouble(), 7605);
-    EXPECT_EQ(row[2].toDouble(), 11580);
+    EXPECT_EQ(row[1].toDouble(), viewer.look.height);
+    EXPECT_EQ(row[2].toDouble(), viewer.look.width);
 }
 
 TEST_P(SaveTest, ANormalViewerIsLeftAsItIs) {
@@ -61,9 +61,9 @@ TEST_P(SaveTest, ANormalViewerIsLeftAsItIs) {
 TEST_P(SaveTest, AnErrorBetweenTheTwoChangesOfTheWindowLeavesItNormal) {
     store.Sql(T("ALTER TABLE <ChartConfigurations> DROP COLUMN \"ChartHeight\""));
     Fill(viewer, 2, 2);
-    viewer.windowState = 2;
+    viewer.look.maximized = true;
     Save(viewer, "Look");
-    EXPECT_EQ(viewer.windowState, 0);
+    EXPECT_FALSE(viewer.look.maximized);
     ASSERT_EQ(Errors().size(), 1);
     EXPECT_TRUE(Errors().front().startsWith(T("Error 3265: ")));
     EXPECT_EQ(viewer.status, "");
@@ -73,8 +73,7 @@ TEST_P(SaveTest, AnExistingNameIsOverwrittenItsOtherRecordsStayAndItIsStillRepor
     Fill(viewer, 2, 4);
     Save(viewer, "Look");
     Fill(viewer, 2, 2);
-    viewer.chart.Model().Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).Brush.FillColor = {1, 2,
-                                                                                                      3};
+    viewer.Model().Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).Brush.FillColor = {1, 2, 3};
     viewer.status.clear();
     Save(viewer, "LOOK");
     EXPECT_EQ(viewer.status, "Configuration Saved");
@@ -99,16 +98,16 @@ TEST_P(SaveTest, AChartWithoutSeriesWritesNoSeriesAndFourAxes) {
 
 TEST_P(SaveTest, LeavesTheChartsCurrentColumnAtTheLast) {
     Fill(viewer, 2, 5);
-    viewer.chart.Model().Column = 2;
+    viewer.Model().Column = 2;
     Save(viewer, "Look");
-    EXPECT_EQ(viewer.chart.Model().Column, 5);
+    EXPECT_EQ(viewer.Model().Column, 5);
 }
 
 TEST_P(SaveTest, MeasuresTheViewInDegrees) {
     Fill(viewer, 2, 2);
-    viewer.chart.Model().Plot.AngleUnit = AngleUnit::Gradians;
+    viewer.Model().Plot.AngleUnit = AngleUnit::Gradians;
     Save(viewer, "Look");
-    EXPECT_EQ(viewer.chart.Model().Plot.AngleUnit, AngleUnit::Degrees);
+    EXPECT_EQ(viewer.Model().Plot.AngleUnit, AngleUnit::Degrees);
 }
 
 TEST_P(SaveTest, AnErrorEndsItAndWhatWasWrittenStays) {
@@ -181,7 +180,7 @@ TEST_P(SaveTest, NamesAreStoredAndFoundAsTheyAre) {
 
 TEST_P(SaveTest, AFontStyleThatItsFieldCannotHoldIsError6) {
     Fill(viewer, 2, 2);
-    viewer.chart.Model().Title.VtFont.Style = 70000;
+    viewer.Model().Title.VtFont.Style = 70000;
     Save(viewer, "Look");
     ASSERT_EQ(Errors().size(), 1);
     EXPECT_TRUE(Errors().front().startsWith(T("Error 6: ")));

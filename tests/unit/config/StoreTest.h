@@ -27,7 +27,7 @@ protected:
 
     /// Gives the viewer a table of numbers and the default look.
     static void Fill(TestViewer& one, int rows, int columns) {
-        QmChart6::Chart& chart = one.chart.Model();
+        QmChart6::Chart& chart = one.Model();
         chart.SetGridSize(rows, columns);
         for (int row = 1; row <= rows; ++row)
             for (int column = 1; column <= columns; ++column)

@@ -26,9 +26,9 @@ protected:
         TestViewer other;
         other.graphId = graphId;
         other.config = name;
-        other.chart.Model().SetGridSize(2, 2);
-        other.chart.Model().SetChartType(type);
-        other.chart.Model().Title.Text = name;
+        other.Model().SetGridSize(2, 2);
+        other.Model().SetChartType(type);
+        other.Model().Title.Text = name;
         SaveConfiguration(other);
     }
     static QListWidget& Names(QWidget& form) { return The<QListWidget>(form, "lstConfig"); }
@@ -40,7 +40,7 @@ protected:
     static void Choose(QWidget& form, int row) { Names(form).setCurrentRow(row); }
     void Load() { GraphConfiguration(nullptr).Execute(viewer); }
     void SaveAs() { GraphConfigSave(nullptr).Execute(viewer); }
-    [[nodiscard]] ChartType Type() { return viewer.chart.Model().chartType(); }
+    [[nodiscard]] ChartType Type() { return viewer.Model().chartType(); }
     [[nodiscard]] QString BoundName() const {
         const auto rows =
             store.Sql(QStringLiteral("SELECT \"ConfigId\" FROM <Charts> WHERE \"ChartId\" = 'SALES'"));
@@ -69,14 +69,14 @@ TEST_F(ConfigurationDialogsTest, TheNamesStandInKeyOrderWithTheViewersOwnSelecte
 TEST_F(ConfigurationDialogsTest, OkLoadsTheSelectedLookWithoutTitlesAndLeavesTheBindingAsItWas) {
     Keep(QStringLiteral("Area"), ChartType::Area2D);
     viewer.config = QStringLiteral("Mine");
-    viewer.chart.Model().Title.Text = QStringLiteral("Caller's");
+    viewer.Model().Title.Text = QStringLiteral("Caller's");
     desktop.deals.push_back([](QDialog& form) {
         Choose(form, 0);
         Ok(form);
     });
     Load();
     EXPECT_EQ(Type(), ChartType::Area2D);
-    EXPECT_EQ(viewer.chart.Model().Title.Text, "Caller's");
+    EXPECT_EQ(viewer.Model().Title.Text, "Caller's");
     EXPECT_EQ(viewer.status, "Configuration Loaded");
     EXPECT_EQ(viewer.config, "Mine");
     EXPECT_EQ(BoundName(), "");
@@ -91,17 +91,17 @@ TEST_F(ConfigurationDialogsTest, TitlesAreLoadedAndTheLookIsMadeTheDefaultWhereT
         Ok(form);
     });
     Load();
-    EXPECT_EQ(viewer.chart.Model().Title.Text, "Area");
+    EXPECT_EQ(viewer.Model().Title.Text, "Area");
     EXPECT_EQ(viewer.config, "Area");
     EXPECT_EQ(BoundName(), "Area");
 }
 
 TEST_F(ConfigurationDialogsTest, AnEmptyListLoadsNothingAndSetsNoStatus) {
-    const Chart before = viewer.chart.Model();
+    const Chart before = viewer.Model();
     desktop.deals = {Apply, Ok};
     Load();
     EXPECT_EQ(desktop.shown, 2);
-    EXPECT_EQ(viewer.chart.Model(), before);
+    EXPECT_EQ(viewer.Model(), before);
     EXPECT_EQ(viewer.status, "");
 }
 

@@ -3,6 +3,7 @@
 #include "DialogsTest.h"
 #include "chart/ChartFunctions.h"
 #include "chart/ValueLabelFormat.h"
+#include "chartcontrol/widget/ChartControl.h"
 #include "support/Raises.h"
 #include "support/SampleCharts.h"
 #include "support/TestViewer.h"
@@ -107,7 +108,7 @@ TEST_F(GraphTypesTest, EveryTypeIsShownAndWrittenBack) {
 
 TEST_F(GraphTypesTest, WithStackingOffTheHundredPercentBoxIsDisabledOnOpening) {
     Edit({[](QDialog& form) { EXPECT_FALSE(Check(form, "C100").isEnabled()); }});
-    viewer.SetStacked(1);
+    viewer.look.stacked = 1;
     Edit({[](QDialog& form) { EXPECT_TRUE(Check(form, "C100").isEnabled()); }});
     EXPECT_EQ(desktop.shown, 2);
 }
@@ -189,9 +190,9 @@ TEST_F(GraphTypesTest, CancelLeavesTheChartAsItWas) {
         Cancel(form);
     }});
     EXPECT_EQ(Model(), before);
-    EXPECT_EQ(viewer.Markers(), 0);
-    EXPECT_EQ(viewer.Lines(), 1);
-    EXPECT_EQ(viewer.Stacked(), 0);
+    EXPECT_EQ(viewer.look.markers, 0);
+    EXPECT_EQ(viewer.look.lines, 1);
+    EXPECT_EQ(viewer.look.stacked, 0);
 }
 
 TEST_F(GraphTypesTest, OpeningGivesEverySeriesMarkersOf10PointsWhateverBecomesOfTheDialog) {
@@ -242,10 +243,10 @@ TEST_F(GraphTypesTest, OkWritesEveryOption) {
         EXPECT_EQ(Label(series).ValueFormat, ValueLabelFormat());
         EXPECT_EQ(Label(series).Component, LabelShowsSeriesName);
     }
-    EXPECT_NE(viewer.Markers(), 0);
-    EXPECT_NE(viewer.Lines(), 0);
-    EXPECT_NE(viewer.Stacked(), 0);
-    EXPECT_NE(viewer.FullStacked(), 0);
+    EXPECT_NE(viewer.look.markers, 0);
+    EXPECT_NE(viewer.look.lines, 0);
+    EXPECT_NE(viewer.look.stacked, 0);
+    EXPECT_NE(viewer.look.fullStacked, 0);
 }
 
 TEST_F(GraphTypesTest, EveryOptionIsShownOnTheSampleAtOnceAndNotOnTheChart) {
@@ -296,8 +297,8 @@ TEST_F(GraphTypesTest, TheSampleHasAllColumnsAndSomeRows) {
 }
 
 TEST_F(GraphTypesTest, ClearingTheStackClearsAndDisablesTheHundredPercent) {
-    viewer.SetStacked(1);
-    viewer.SetFullStacked(1);
+    viewer.look.stacked = 1;
+    viewer.look.fullStacked = 1;
     Edit({[](QDialog& form) {
         EXPECT_TRUE(Check(form, "C100").isChecked());
         Check(form, "CStackSeries").setChecked(false);
@@ -313,8 +314,8 @@ TEST_F(GraphTypesTest, ClearingTheStackClearsAndDisablesTheHundredPercent) {
 }
 
 TEST_F(GraphTypesTest, TheFlipTakesStackingOffAndPutsItBackWithoutTheHundredPercent) {
-    viewer.SetStacked(1);
-    viewer.SetFullStacked(1);
+    viewer.look.stacked = 1;
+    viewer.look.fullStacked = 1;
     Edit({[](QDialog& form) {
         Check(form, "CSeriesInRows").setChecked(true);
         EXPECT_TRUE(Check(form, "CStackSeries").isChecked());
@@ -329,8 +330,8 @@ TEST_F(GraphTypesTest, TheFlipTakesStackingOffAndPutsItBackWithoutTheHundredPerc
 TEST_F(GraphTypesTest, OpeningAStackedChartWithSeriesInRowsShowsItAsItIs) {
     SetSeriesInRows(Model(), True);
     Model().Stacking = true;
-    viewer.SetStacked(1);
-    viewer.SetFullStacked(1);
+    viewer.look.stacked = 1;
+    viewer.look.fullStacked = 1;
     Edit({[](QDialog& form) {
         EXPECT_TRUE(Check(form, "CSeriesInRows").isChecked());
         EXPECT_TRUE(Check(form, "CStackSeries").isChecked());

@@ -216,12 +216,12 @@ TEST_F(ControlBarTest, StackSwitchesStackingAndAllowsShares) {
     EXPECT_FALSE(IsEnabled(BarButton::FullStack));
     Click(BarButton::Stack);
     EXPECT_TRUE(Model().Stacking);
-    EXPECT_EQ(form->Stacked(), 1);
+    EXPECT_EQ(form->Look().stacked, 1);
     EXPECT_TRUE(IsEnabled(BarButton::FullStack));
-    EXPECT_EQ(form->FullStacked(), 0);
+    EXPECT_EQ(form->Look().fullStacked, 0);
     Click(BarButton::Stack);
     EXPECT_FALSE(Model().Stacking);
-    EXPECT_EQ(form->Stacked(), 0);
+    EXPECT_EQ(form->Look().stacked, 0);
     EXPECT_FALSE(IsEnabled(BarButton::FullStack));
 }
 
@@ -229,7 +229,7 @@ TEST_F(ControlBarTest, FullStackSwitchesBothValueAxesToShares) {
     Open(4, 2);
     Click(BarButton::Stack);
     Click(BarButton::FullStack);
-    EXPECT_EQ(form->FullStacked(), 1);
+    EXPECT_EQ(form->Look().fullStacked, 1);
     for (const AxisId id : {AxisId::Y, AxisId::SecondaryY}) {
         EXPECT_EQ(Model().Plot.Axis(id).AxisScale.Type, ScaleType::Percent);
         EXPECT_EQ(Model().Plot.Axis(id).Labels.Item(1).Format, "0%");
@@ -243,8 +243,8 @@ TEST_F(ControlBarTest, ReleasingStackReleasesAndDisablesFullStackAndSwitchesTheS
     Click(BarButton::Stack);
     EXPECT_FALSE(IsPressed(BarButton::FullStack));
     EXPECT_FALSE(IsEnabled(BarButton::FullStack));
-    EXPECT_EQ(form->FullStacked(), 0);
-    EXPECT_EQ(form->Stacked(), 0);
+    EXPECT_EQ(form->Look().fullStacked, 0);
+    EXPECT_EQ(form->Look().stacked, 0);
     EXPECT_FALSE(Model().Stacking);
     for (const AxisId id : {AxisId::Y, AxisId::SecondaryY}) {
         EXPECT_EQ(Model().Plot.Axis(id).AxisScale.Type, ScaleType::Linear);
@@ -375,8 +375,10 @@ TEST_F(ControlBarTest, WritingSelectedOfOneColumnFindsPieInItsPlace) {
 
 TEST_F(ControlBarTest, TheBarFollowsTheViewersStatesAndTheChartStaysAsItIs) {
     Open(4, 2);
-    form->SetStacked(-1);
-    form->SetFullStacked(1);
+    LookState look = form->Look();
+    look.stacked = -1;
+    look.fullStacked = 1;
+    form->Show(look);
     Model().ShowLegend = false;
     Model().SetDataSeriesInRow(true);
     Model().ShowLegend = false;
@@ -388,7 +390,7 @@ TEST_F(ControlBarTest, TheBarFollowsTheViewersStatesAndTheChartStaysAsItIs) {
     EXPECT_FALSE(IsPressed(BarButton::Legend));
     EXPECT_TRUE(IsPressed(BarButton::Flip));
     EXPECT_EQ(Model(), before);
-    EXPECT_EQ(form->Stacked(), -1);
+    EXPECT_EQ(form->Look().stacked, -1);
     EXPECT_FALSE(form->Busy());
     EXPECT_FALSE(form->Modified());
 }

@@ -53,10 +53,10 @@ TEST_F(GraphFormTest, StartsUnmodifiedWithTheControlBarLinesOnAndMarkersOff) {
     EXPECT_FALSE(form.Busy());
     EXPECT_TRUE(form.FirstPaintPending());
     EXPECT_TRUE(form.ControlBar());
-    EXPECT_EQ(form.Lines(), 1);
-    EXPECT_EQ(form.Markers(), 0);
-    EXPECT_EQ(form.Stacked(), 0);
-    EXPECT_EQ(form.FullStacked(), 0);
+    EXPECT_EQ(form.Look().lines, 1);
+    EXPECT_EQ(form.Look().markers, 0);
+    EXPECT_EQ(form.Look().stacked, 0);
+    EXPECT_EQ(form.Look().fullStacked, 0);
     EXPECT_EQ(form.WindowState(), 0);
 }
 

@@ -8,11 +8,11 @@ using namespace QmChart6;
 
 namespace {
 
-LookState Titled(const char* title, bool modified = true) {
-    LookState state;
-    state.Chart.Title.Text = QLatin1String(title);
-    state.Modified = modified;
-    return state;
+LookMoment Titled(const char* title, bool modified = true) {
+    LookMoment moment;
+    moment.look.chart.Title.Text = QLatin1String(title);
+    moment.modified = modified;
+    return moment;
 }
 
 } // namespace
@@ -27,11 +27,11 @@ TEST(LookHistory, GoesBackAndForth) {
     LookHistory history;
     history.Add(Titled("a"), Titled("b"));
     history.Add(Titled("b"), Titled("c"));
-    EXPECT_EQ(history.Undo()->Chart.Title.Text, "b");
-    EXPECT_EQ(history.Undo()->Chart.Title.Text, "a");
+    EXPECT_EQ(history.Undo()->look.chart.Title.Text, "b");
+    EXPECT_EQ(history.Undo()->look.chart.Title.Text, "a");
     EXPECT_EQ(history.Undo(), nullptr);
-    EXPECT_EQ(history.Redo()->Chart.Title.Text, "b");
-    EXPECT_EQ(history.Redo()->Chart.Title.Text, "c");
+    EXPECT_EQ(history.Redo()->look.chart.Title.Text, "b");
+    EXPECT_EQ(history.Redo()->look.chart.Title.Text, "c");
     EXPECT_EQ(history.Redo(), nullptr);
 }
 
@@ -41,7 +41,7 @@ TEST(LookHistory, ANewStepForgetsWhatWasTakenBack) {
     history.Undo();
     history.Add(Titled("a"), Titled("c"));
     EXPECT_EQ(history.Redo(), nullptr);
-    EXPECT_EQ(history.Undo()->Chart.Title.Text, "a");
+    EXPECT_EQ(history.Undo()->look.chart.Title.Text, "a");
     EXPECT_EQ(history.Undo(), nullptr);
 }
 
@@ -49,8 +49,8 @@ TEST(LookHistory, WhatChangedNothingIsNoStepAndKeepsWhatWasTakenBack) {
     LookHistory history;
     history.Add(Titled("a"), Titled("b"));
     history.Undo();
-    LookState elsewhere = Titled("a", false);
-    elsewhere.Chart.Row = 3;
+    LookMoment elsewhere = Titled("a", false);
+    elsewhere.look.chart.Row = 3;
     history.Add(Titled("a"), elsewhere);
     EXPECT_EQ(history.StepsBack(), 0u);
     EXPECT_EQ(history.StepsForward(), 1u);
@@ -58,17 +58,17 @@ TEST(LookHistory, WhatChangedNothingIsNoStepAndKeepsWhatWasTakenBack) {
 
 TEST(LookHistory, EveryMemberOfAStateMakesAStep) {
     const std::vector<std::function<void(LookState&)>> changes{
-        [](LookState& state) { state.Lines = 1; },
-        [](LookState& state) { state.Markers = 1; },
-        [](LookState& state) { state.Stacked = 1; },
-        [](LookState& state) { state.FullStacked = 1; },
-        [](LookState& state) { state.ControlBar = false; },
-        [](LookState& state) { state.Chart.ShowLegend = true; },
+        [](LookState& look) { look.lines = 0; },
+        [](LookState& look) { look.markers = 1; },
+        [](LookState& look) { look.stacked = 1; },
+        [](LookState& look) { look.fullStacked = 1; },
+        [](LookState& look) { look.controlBar = false; },
+        [](LookState& look) { look.chart.ShowLegend = true; },
     };
     LookHistory history;
     for (const auto& change : changes) {
-        LookState after;
-        change(after);
+        LookMoment after;
+        change(after.look);
         history.Add({}, after);
     }
     EXPECT_EQ(history.StepsBack(), changes.size());
@@ -77,15 +77,15 @@ TEST(LookHistory, EveryMemberOfAStateMakesAStep) {
 TEST(LookHistory, OlderStepsThanTheMostAreForgotten) {
     LookHistory history;
     for (std::size_t step = 0; step < LookHistory::MostSteps + 20; ++step) {
-        LookState before;
-        before.Chart.Title.Text = QString::number(step);
-        LookState after;
-        after.Chart.Title.Text = QString::number(step + 1);
+        LookMoment before;
+        before.look.chart.Title.Text = QString::number(step);
+        LookMoment after;
+        after.look.chart.Title.Text = QString::number(step + 1);
         history.Add(before, after);
     }
     EXPECT_EQ(history.StepsBack(), LookHistory::MostSteps);
     QString oldest;
-    while (const LookState* state = history.Undo()) oldest = state->Chart.Title.Text;
+    while (const LookMoment* moment = history.Undo()) oldest = moment->look.chart.Title.Text;
     EXPECT_EQ(oldest, "20");
 }
 
@@ -103,41 +103,41 @@ TEST(LookHistory, OnceALookIsKeptEveryOtherIsModified) {
     LookHistory history;
     history.Add(Titled("a", false), Titled("b"));
     history.Add(Titled("b"), Titled("c"));
-    history.LookWasKept(Titled("b"));
+    history.LookWasKept(Titled("b").look);
     history.Undo();
-    EXPECT_TRUE(history.Undo()->Modified);
-    EXPECT_FALSE(history.Redo()->Modified);
-    EXPECT_TRUE(history.Redo()->Modified);
+    EXPECT_TRUE(history.Undo()->modified);
+    EXPECT_FALSE(history.Redo()->modified);
+    EXPECT_TRUE(history.Redo()->modified);
 }
 
 TEST(LookHistory, RandomWalksEndWhereTheyBegan) {
     std::mt19937 random(20261121);
     for (int walk = 0; walk < 50; ++walk) {
         LookHistory history;
-        LookState now = Titled("first");
-        const LookState first = now;
+        LookMoment now = Titled("first");
+        const LookMoment first = now;
         for (int step = 0; step < 60; ++step) {
-            const LookState before = now;
+            const LookMoment before = now;
             switch (random() % 5) {
             case 0:
-                if (const LookState* state = history.Undo()) now = *state;
+                if (const LookMoment* moment = history.Undo()) now = *moment;
                 break;
             case 1:
-                if (const LookState* state = history.Redo()) now = *state;
+                if (const LookMoment* moment = history.Redo()) now = *moment;
                 break;
             default:
-                now.Chart.Title.Text = QString::number(random() % 7);
-                now.Stacked = static_cast<std::int16_t>(random() % 2);
+                now.look.chart.Title.Text = QString::number(random() % 7);
+                now.look.stacked = static_cast<std::int16_t>(random() % 2);
                 history.Add(before, now);
             }
         }
-        LookState last = now;
-        while (const LookState* state = history.Redo()) last = *state;
-        LookState back = last;
-        while (const LookState* state = history.Undo()) back = *state;
-        EXPECT_TRUE(back.LooksLike(first)) << walk;
-        LookState again = back;
-        while (const LookState* state = history.Redo()) again = *state;
-        EXPECT_TRUE(again.LooksLike(last)) << walk;
+        LookMoment last = now;
+        while (const LookMoment* moment = history.Redo()) last = *moment;
+        LookMoment back = last;
+        while (const LookMoment* moment = history.Undo()) back = *moment;
+        EXPECT_TRUE(LookAlike(back.look, first.look)) << walk;
+        LookMoment again = back;
+        while (const LookMoment* moment = history.Redo()) again = *moment;
+        EXPECT_TRUE(LookAlike(again.look, last.look)) << walk;
     }
 }

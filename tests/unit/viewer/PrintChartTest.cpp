@@ -31,7 +31,7 @@ TEST(PrintChart, Raises482WhereThereIsNoPrinter) {
     desktop.chosenPrinter = QString();
     const ScopedDesktop scope(desktop);
     GraphForm form;
-    EXPECT_RAISES(482, (PrintChart(form), 0));
+    EXPECT_RAISES(482, (PrintChart(form.ChartImage()), 0));
 }
 
 TEST(PrintChart, Raises482ForAPrinterThatIsNotThere) {
@@ -40,7 +40,7 @@ TEST(PrintChart, Raises482ForAPrinterThatIsNotThere) {
     desktop.chosenPrinter = QStringLiteral("no such printer");
     const ScopedDesktop scope(desktop);
     GraphForm form;
-    EXPECT_RAISES(482, (PrintChart(form), 0));
+    EXPECT_RAISES(482, (PrintChart(form.ChartImage()), 0));
 }
 
 namespace {
@@ -80,7 +80,7 @@ protected:
 
 TEST_F(PrintChartTest, TheChartIsTheSameAndTheClipboardEmptyAfterwards) {
     const Chart before = form.ChartImage().Model();
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_TRUE(HasPage());
     EXPECT_EQ(desktop.printDialogs, 1);
     EXPECT_EQ(form.ChartImage().Model(), before);
@@ -91,7 +91,7 @@ TEST_F(PrintChartTest, TheChartIsTheSameAndTheClipboardEmptyAfterwards) {
 TEST_F(PrintChartTest, ACancelledDialogPrintsNothingAndChangesNothing) {
     desktop.chosenPrinter.reset();
     const Chart before = form.ChartImage().Model();
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_FALSE(HasPage());
     EXPECT_EQ(form.ChartImage().Model(), before);
     EXPECT_EQ(ClipboardText(), "before");
@@ -100,48 +100,48 @@ TEST_F(PrintChartTest, ACancelledDialogPrintsNothingAndChangesNothing) {
 TEST_F(PrintChartTest, AFailingPrinterRaises482AndLeavesTheChartAsItWas) {
     desktop.printerFile = QStringLiteral("/nowhere/at/all/page.pdf");
     const Chart before = form.ChartImage().Model();
-    EXPECT_RAISES(482, (PrintChart(form), 0));
+    EXPECT_RAISES(482, (PrintChart(form.ChartImage()), 0));
     EXPECT_EQ(form.ChartImage().Model(), before);
     EXPECT_EQ(form.findChild<QWidget*>(QStringLiteral("GraphPrinting")), nullptr);
 }
 
 TEST_F(PrintChartTest, AFileHasNoQueueThatCouldHaveAProblem) {
     desktop.printerProblem = desktop.pageProblem = QStringLiteral("the printer is stopped");
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_TRUE(HasPage());
 }
 
 TEST_F(PrintChartTest, TheChosenPrinterIsTheOneFromThenOn) {
     desktop.chosenPrinter = QStringLiteral("lab");
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_EQ(desktop.openedPrinters, QStringList({"office", "lab"}));
     desktop.openedPrinters.clear();
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_EQ(desktop.openedPrinters.front(), "lab");
     desktop.chosenPrinter = QStringLiteral("office");
-    PrintChart(form);
+    PrintChart(form.ChartImage());
 }
 
 TEST_F(PrintChartTest, ANameThatNoPrinterBearsLeavesThePrinterThatThereIs) {
     desktop.chosenPrinter = QStringLiteral("gone");
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_EQ(desktop.openedPrinters.back(), "office");
     EXPECT_TRUE(HasPage());
 }
 
 TEST_F(PrintChartTest, AChosenPrinterThatWasTakenAwayGivesWayToTheDefault) {
     desktop.chosenPrinter = QStringLiteral("lab");
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     desktop.printers = QStringList{QStringLiteral("office")};
     desktop.chosenPrinter = QStringLiteral("office");
     desktop.openedPrinters.clear();
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_EQ(desktop.openedPrinters.front(), "office");
 }
 
 TEST_F(PrintChartTest, TheSettingsOfTheDialogReachThePage) {
     desktop.settle = [](QPrinter& settings) { settings.setPageOrientation(QPageLayout::Landscape); };
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     const QByteArray page = BytesOf(desktop.printerFile);
     const int box = static_cast<int>(page.indexOf("/MediaBox [0 0 "));
     ASSERT_GT(box, 0);
@@ -153,13 +153,13 @@ TEST_F(PrintChartTest, AFileInPlaceOfAPrinterIsPrintedInto) {
     const QString other = folder.filePath(QStringLiteral("other.pdf"));
     desktop.chosenPrinter = QString();
     desktop.settle = [&](QPrinter& settings) { settings.setOutputFileName(other); };
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_TRUE(BytesOf(other).startsWith("%PDF"));
     EXPECT_FALSE(HasPage());
 }
 
 TEST_F(PrintChartTest, ByNameNobodyIsAsked) {
-    PrintChart(form, QStringLiteral("lab"));
+    PrintChart(form.ChartImage(), QStringLiteral("lab"));
     EXPECT_EQ(desktop.printDialogs, 0);
     EXPECT_EQ(desktop.openedPrinters, QStringList("lab"));
     EXPECT_TRUE(HasPage());
@@ -176,7 +176,7 @@ TEST_F(PrintChartTest, AWindowTellsWhileItIsPrinted) {
         QString text;
     } watcher;
     qApp->installEventFilter(&watcher);
-    PrintChart(form);
+    PrintChart(form.ChartImage());
     EXPECT_EQ(watcher.text, "Printing In Progress");
     EXPECT_EQ(form.findChild<QWidget*>(QStringLiteral("GraphPrinting")), nullptr);
 }

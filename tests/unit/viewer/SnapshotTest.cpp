@@ -59,7 +59,7 @@ TEST_F(SnapshotTest, WithAFileNameItAsksNothingAndOverwrites) {
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));
     old.write("old");
     old.close();
-    SaveChartSnapshot(form, name);
+    SaveChartSnapshot(form, form.ChartImage(), name);
     EXPECT_TRUE(desktop.pickers.isEmpty());
     EXPECT_TRUE(desktop.messages.isEmpty());
     const QImage picture(name);
@@ -70,7 +70,7 @@ TEST_F(SnapshotTest, WithoutAFileNameItAsksAndTellsTheNameThatWasUsed) {
     const QString chosen = InFolder("asked.bmp");
     desktop.files = {chosen};
     QString name;
-    SaveChartSnapshot(form, name);
+    SaveChartSnapshot(form, form.ChartImage(), name);
     ASSERT_EQ(desktop.pickers.size(), 1);
     EXPECT_EQ(desktop.pickers.front().title, "Save as .bmp");
     EXPECT_EQ(desktop.pickers.front().filter, "*.bmp");
@@ -81,14 +81,14 @@ TEST_F(SnapshotTest, WithoutAFileNameItAsksAndTellsTheNameThatWasUsed) {
 
 TEST_F(SnapshotTest, AfterwardsTheClipboardIsEmptyAndTheStatusTellsSo) {
     QString name = InFolder("chart.png");
-    SaveChartSnapshot(form, name);
+    SaveChartSnapshot(form, form.ChartImage(), name);
     EXPECT_TRUE(ClipboardIsEmpty());
     EXPECT_EQ(Status(), "Snapshot Saved");
 }
 
 TEST_F(SnapshotTest, ACancelSavesAndShowsNothingAndLeavesThePictureOnTheClipboard) {
     QString name;
-    SaveChartSnapshot(form, name);
+    SaveChartSnapshot(form, form.ChartImage(), name);
     EXPECT_EQ(name, "");
     EXPECT_EQ(Status(), "");
     EXPECT_FALSE(ClipboardIsEmpty());
@@ -103,16 +103,16 @@ TEST_F(SnapshotTest, TheCurrentDirectoryIsTheSameAfterwardsWhereverThePersonBrow
     const ScopedDesktop wander(wandering);
     wandering.files = {QStringLiteral("relative.bmp")};
     QString name;
-    SaveChartSnapshot(form, name);
+    SaveChartSnapshot(form, form.ChartImage(), name);
     EXPECT_EQ(QDir::currentPath(), current);
     EXPECT_TRUE(QFile::exists(InFolder("relative.bmp")));
     QString cancelled;
-    SaveChartSnapshot(form, cancelled);
+    SaveChartSnapshot(form, form.ChartImage(), cancelled);
     EXPECT_EQ(QDir::currentPath(), current);
 }
 
 TEST_F(SnapshotTest, AFileThatCannotBeWrittenRaisesAndTellsNothing) {
     QString name = InFolder("missing/chart.bmp");
-    EXPECT_RAISES(76, (SaveChartSnapshot(form, name), 0));
+    EXPECT_RAISES(76, (SaveChartSnapshot(form, form.ChartImage(), name), 0));
     EXPECT_EQ(Status(), "");
 }

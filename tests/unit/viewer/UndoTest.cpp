@@ -23,15 +23,6 @@ using namespace QmChart6;
 
 namespace {
 
-/// What a person sees of a viewer's look, and can take back.
-struct Seen {
-    Chart chart;
-    std::array<std::int16_t, 4> states;
-    bool bar;
-
-    friend bool operator==(const Seen&, const Seen&) = default;
-};
-
 class UndoTest : public testing::Test {
 protected:
     UndoTest() {
@@ -56,10 +47,9 @@ protected:
     }
 
     [[nodiscard]] Chart& Model() const { return form->ChartImage().Model(); }
-    [[nodiscard]] Seen Look() const {
-        Seen seen{Model(),
-                  {form->Lines(), form->Markers(), form->Stacked(), form->FullStacked()},
-                  form->ControlBar()};
+    /// What a person sees of the viewer's look, and can take back.
+    [[nodiscard]] LookState Look() const {
+        LookState seen = form->Look();
         seen.chart.Row = seen.chart.Column = 1;
         return seen;
     }
@@ -74,10 +64,10 @@ protected:
 
     /// What was done is one step: taken back and done again by the keys.
     void ExpectOneStep(const std::function<void()>& action) const {
-        const Seen before = Look();
+        const LookState before = Look();
         const bool modifiedBefore = form->Modified();
         action();
-        const Seen after = Look();
+        const LookState after = Look();
         const bool modifiedAfter = form->Modified();
         ASSERT_NE(before, after);
         Undo();
@@ -97,8 +87,8 @@ protected:
         if (!form->ControlBar()) return;
         const auto& bar = The<ViewerToolBar>(*form, "tbControlBar");
         EXPECT_EQ(form->Selected(), static_cast<int>(Model().chartType()));
-        EXPECT_EQ(bar.IsPressed(BarButton::Stack), form->Stacked() != 0);
-        EXPECT_EQ(bar.IsPressed(BarButton::FullStack), form->FullStacked() != 0);
+        EXPECT_EQ(bar.IsPressed(BarButton::Stack), form->Look().stacked != 0);
+        EXPECT_EQ(bar.IsPressed(BarButton::FullStack), form->Look().fullStacked != 0);
         EXPECT_EQ(bar.IsPressed(BarButton::Legend), Model().ShowLegend);
         EXPECT_EQ(bar.IsPressed(BarButton::Flip), Model().Plot.DataSeriesInRow);
     }
@@ -134,7 +124,7 @@ TEST_F(UndoTest, ReleasingStackTakesThePercentScaleAlongInOneStep) {
     ClickButton(*form, BarButton::Stack);
     ClickButton(*form, BarButton::FullStack);
     ExpectOneStep([&] { ClickButton(*form, BarButton::Stack); });
-    EXPECT_EQ(form->FullStacked(), 0);
+    EXPECT_EQ(form->Look().fullStacked, 0);
 }
 
 TEST_F(UndoTest, ChoosingATypeIsAStep) {
@@ -143,7 +133,7 @@ TEST_F(UndoTest, ChoosingATypeIsAStep) {
 }
 
 TEST_F(UndoTest, ChoosingTheSameTypeAgainIsNoStep) {
-    const Seen first = Look();
+    const LookState first = Look();
     ChooseType(*form, QStringLiteral("Line"));
     ChooseType(*form, QStringLiteral("Line"));
     Undo();
@@ -184,11 +174,11 @@ TEST_F(UndoTest, TheGraphDialogIsAStep) {
         });
         DoubleClick(*form, PlaceOfPlot(form->ChartImage()));
     });
-    EXPECT_EQ(form->Stacked(), 1);
+    EXPECT_EQ(form->Look().stacked, 1);
 }
 
 TEST_F(UndoTest, ACancelledDialogIsNoStep) {
-    const Seen first = Look();
+    const LookState first = Look();
     ClickButton(*form, BarButton::Legend);
     Person<GraphTypes> person([](GraphTypes& dialog) {
         ClickIn(dialog, "CStackSeries");
@@ -201,8 +191,8 @@ TEST_F(UndoTest, ACancelledDialogIsNoStep) {
 }
 
 TEST_F(UndoTest, ApplyIsAStepOfItsOwn) {
-    const Seen first = Look();
-    Seen applied = first;
+    const LookState first = Look();
+    LookState applied = first;
     std::optional<Person<GraphTextProperties>> again;
     Person<GraphTextProperties> person([&](GraphTextProperties& dialog) {
         TypeInto(The<QLineEdit>(dialog, "TText"), QStringLiteral("Applied"));
@@ -243,13 +233,13 @@ TEST_F(UndoTest, LoadingALookByTheMenuIsAStepThatLeavesModifiedAsItIs) {
 TEST_F(UndoTest, LoadingALookByTheBarIsAStepAndGoingBackFromItIsAChange) {
     SaveAs(QStringLiteral("Plain"));
     ClickButton(*form, BarButton::Legend);
-    const Seen before = Look();
+    const LookState before = Look();
     {
         auto loader = Loader(QStringLiteral("Plain"));
         ClickButton(*form, BarButton::Load);
         EXPECT_TRUE(loader.WasAsked());
     }
-    const Seen loaded = Look();
+    const LookState loaded = Look();
     EXPECT_FALSE(form->Modified());
     Undo();
     EXPECT_EQ(Look(), before);
@@ -282,13 +272,13 @@ TEST_F(UndoTest, NothingIsTakenBackThatTheHostDid) {
     ClickButton(*form, BarButton::Legend);
     Model() = Samples::ChartOf(2, 2, [](int row, int column) { return row - column; });
     form->RestartHistory();
-    const Seen refreshed = Look();
+    const LookState refreshed = Look();
     Undo();
     EXPECT_EQ(Look(), refreshed);
 }
 
 TEST_F(UndoTest, AnEditThatWasBegunBeforeTheHostCameBeginsAfterIt) {
-    Seen refreshed = Look();
+    LookState refreshed = Look();
     Person<GraphTextProperties> person([&](GraphTextProperties& dialog) {
         Model().DataGrid.SetValue(1, 1, 99);
         form->RestartHistory();
@@ -310,7 +300,7 @@ TEST_F(UndoTest, RandomSequencesGoAllTheWayBackAndForth) {
     std::mt19937 random(6);
     for (int sequence = 0; sequence < 10; ++sequence) {
         form->RestartHistory();
-        const Seen first = Look();
+        const LookState first = Look();
         for (int step = 0; step < 25; ++step) {
             switch (random() % 9) {
             case 0:
@@ -333,7 +323,7 @@ TEST_F(UndoTest, RandomSequencesGoAllTheWayBackAndForth) {
             ExpectBarInStep();
         }
         for (int step = 0; step < 30; ++step) Redo();
-        const Seen last = Look();
+        const LookState last = Look();
         for (int step = 0; step < 30; ++step) Undo();
         EXPECT_EQ(Look(), first) << sequence;
         for (int step = 0; step < 30; ++step) Redo();
