@@ -1,5 +1,6 @@
 #include "automation/Printers.h"
 
+#include "base/ProcessState.h"
 #include "desktop/Application.h"
 #include "desktop/Desktop.h"
 #include "qmchart6/Host.h"
@@ -8,11 +9,6 @@
 namespace QmChart6 {
 
 namespace {
-
-QString& SetName() {
-    static QString name;
-    return name;
-}
 
 Desktop& HostDesktop() {
     RequireFirstThread();
@@ -23,7 +19,7 @@ Desktop& HostDesktop() {
 } // namespace
 
 const QString& HostPrinter() {
-    return SetName();
+    return Process().hostPrinter;
 }
 
 QStringList PrinterNames() {
@@ -36,7 +32,7 @@ QString DefaultPrinterName() {
 
 void SetPrinter(const QString& name) {
     if (!name.isEmpty() && !HostDesktop().PrinterNames().contains(name)) RaiseNoPrinterNamed(name);
-    SetName() = name;
+    Process().hostPrinter = name;
 }
 
 } // namespace QmChart6

@@ -1,10 +1,13 @@
 #include "automation/ViewerList.h"
 
+#include "base/ProcessState.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "qmchart6/RuntimeError.h"
 #include "viewer/GraphForm.h"
 
 #include <QThread>
+
+#include <algorithm>
 
 namespace QmChart6 {
 
@@ -44,17 +47,15 @@ ViewerPointer ViewerList::Release(int place) {
     return std::move(slots_[static_cast<std::size_t>(place - LowerBound())]);
 }
 
-ViewerList& Viewers() {
-    // Never destroyed: Qt may be gone before the process' own objects are.
-    static auto* viewers = new ViewerList; // NOLINT(cppcoreguidelines-owning-memory)
-    return *viewers;
+ViewerList Viewers() {
+    return ViewerList(Process().viewers);
 }
 
 namespace {
 
 /// The place of the first viewer of that id, or one past the last.
 int PlaceOf(const QString& normalizedId) {
-    const ViewerList& viewers = Viewers();
+    const ViewerList viewers = Viewers();
     int place = viewers.LowerBound();
     for (; place <= viewers.UpperBound(); ++place) {
         const ViewerPointer& viewer = viewers.At(place);
@@ -88,32 +89,9 @@ void CloseViewer(const QString& graphId) {
     viewer->close();
 }
 
-GraphForm& RequireViewer(const ViewerPointer& viewer) {
-    if (viewer == nullptr)
-        throw RuntimeError(ErrorNumber::ObjectNotSet, QStringLiteral("there is no viewer"));
-    return *viewer;
-}
-
-bool IsViewerMissing(const std::function<void()>& useReference) {
-    try {
-        useReference();
-    } catch (const RuntimeError& error) {
-        if (error.Number() == static_cast<int>(ErrorNumber::ObjectNotSet)) return true;
-        throw;
-    }
-    return false;
-}
-
-bool IsViewerMissing(const ViewerPointer& viewer) {
-    return IsViewerMissing([&viewer] { RequireViewer(viewer); });
-}
-
 bool AnyViewerShown() {
-    for (int place = Viewers().LowerBound(); place <= Viewers().UpperBound(); ++place) {
-        const ViewerPointer& viewer = Viewers().At(place);
-        if (viewer != nullptr && viewer->isVisible()) return true;
-    }
-    return false;
+    return std::any_of(Process().viewers.begin(), Process().viewers.end(),
+                       [](const ViewerPointer& viewer) { return viewer != nullptr && viewer->isVisible(); });
 }
 
 } // namespace QmChart6

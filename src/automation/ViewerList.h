@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -17,6 +16,8 @@ using ViewerPointer = std::shared_ptr<GraphForm>;
 /// released, not removed, so no other viewer changes its place.
 class ViewerList {
 public:
+    explicit ViewerList(std::vector<ViewerPointer>& slots) : slots_(slots) {}
+
     [[nodiscard]] int LowerBound() const { return 0; }
     [[nodiscard]] int UpperBound() const { return LowerBound() + static_cast<int>(slots_.size()) - 1; }
     /// The viewer at a place within the bounds, null where the slot was released; raises 9 elsewhere.
@@ -26,10 +27,10 @@ public:
     ViewerPointer Release(int place);
 
 private:
-    std::vector<ViewerPointer> slots_;
+    std::vector<ViewerPointer>& slots_;
 };
 
-ViewerList& Viewers();
+ViewerList Viewers();
 
 /// Trims the id and puts it in upper case, in place, and gives the first viewer of that id; null for none.
 ViewerPointer FindViewer(QString& graphId);
@@ -40,12 +41,10 @@ ViewerPointer CreateViewer(const QString& graphId);
 /// Closes the first viewer of that id, if there is one, and releases its slot.
 void CloseViewer(const QString& graphId);
 
-/// The viewer that a reference holds; raises 91 where it holds none.
-GraphForm& RequireViewer(const ViewerPointer& viewer);
-
-/// Whether using a viewer reference raises 91. Any other error of it is raised again.
-bool IsViewerMissing(const std::function<void()>& useReference);
-bool IsViewerMissing(const ViewerPointer& viewer);
+/// Whether a reference holds no viewer.
+[[nodiscard]] inline bool IsViewerMissing(const ViewerPointer& viewer) {
+    return viewer == nullptr;
+}
 
 /// Whether any viewer can be seen on the desktop.
 bool AnyViewerShown();

@@ -1,17 +1,13 @@
 #include "chart/ValueLabelFormat.h"
 
 #include "base/NumberText.h"
+#include "base/ProcessState.h"
 
 #include <type_traits>
 
 namespace QmChart6 {
 
 namespace {
-
-QString& Format() {
-    static QString format = QStringLiteral("0");
-    return format;
-}
 
 bool HoldsPoint(const QString& text) {
     return text.contains(u'.');
@@ -72,14 +68,14 @@ bool HoldsDecimals(const Variant& data, int rows, int columns) {
 } // namespace
 
 const QString& ValueLabelFormat() {
-    return Format();
+    return Process().valueLabelFormat;
 }
 
 void ComputeValueLabelFormat(const Variant& Data, int Rows, int Columns) {
-    Format() = QStringLiteral("0");
+    Process().valueLabelFormat = QStringLiteral("0");
     if (!HoldsDecimals(Data, Rows, Columns)) return;
     const QString half = TextOfSingle(1.0F / 2).trimmed();
-    Format() = QStringLiteral("0") + half.at(1) + QStringLiteral("00");
+    Process().valueLabelFormat = QStringLiteral("0") + half.at(1) + QStringLiteral("00");
 }
 
 } // namespace QmChart6

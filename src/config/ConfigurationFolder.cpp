@@ -1,22 +1,15 @@
 #include "config/ConfigurationFolder.h"
 
+#include "base/ProcessState.h"
+
 namespace QmChart6 {
 
-namespace {
-
-QString& Folder() {
-    static QString folder;
-    return folder;
-}
-
-} // namespace
-
 const QString& ConfigurationFolder() {
-    return Folder();
+    return Process().configurationFolder;
 }
 
 void SetConfigurationFolder(const QString& folder) {
-    Folder() = folder;
+    Process().configurationFolder = folder;
 }
 
 QString ConfigurationFileName(const QString& folder) {

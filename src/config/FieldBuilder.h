@@ -1,10 +1,11 @@
 #pragma once
 
 #include "chartcontrol/model/Drawing.h"
-#include "config/LookFields.h"
+#include "config/LookField.h"
 
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace QmChart6 {
 

@@ -1,5 +1,6 @@
 #include "config/LookOverride.h"
 
+#include "base/ProcessState.h"
 #include "chart/DefaultLook.h"
 #include "config/Viewer.h"
 
@@ -7,29 +8,21 @@
 
 namespace QmChart6 {
 
-namespace {
-
-std::map<QString, Look>& Overrides() {
-    static std::map<QString, Look> overrides;
-    return overrides;
-}
-
-} // namespace
-
 void SetLookOverride(const QString& graphId, const std::optional<Look>& look) {
     const QString key = graphId.trimmed().toUpper();
     if (look)
-        Overrides().insert_or_assign(key, *look);
+        Process().lookOverrides.insert_or_assign(key, std::make_shared<const Look>(*look));
     else
-        Overrides().erase(key);
+        Process().lookOverrides.erase(key);
 }
 
 bool ApplyLookOverride(Viewer& viewer, bool loadTitles) {
-    const auto found = Overrides().find(viewer.GraphId());
-    if (found == Overrides().end()) return false;
+    const auto& overrides = Process().lookOverrides;
+    const auto found = overrides.find(viewer.GraphId());
+    if (found == overrides.end()) return false;
     LookState look = viewer.Look();
     ApplyDefaultLook(look.chart);
-    Look read = found->second;
+    Look read = *found->second;
     return ShowLook(viewer, std::move(look), read, loadTitles);
 }
 

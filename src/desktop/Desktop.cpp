@@ -1,5 +1,6 @@
 #include "desktop/Desktop.h"
 
+#include "base/ProcessState.h"
 #include "desktop/Application.h"
 #include "desktop/HeadlessDesktop.h"
 #include "desktop/QtDesktop.h"
@@ -10,24 +11,18 @@
 
 namespace QmChart6 {
 
-namespace {
-
-Desktop* installedDesktop = nullptr;
-
-} // namespace
-
 Desktop& CurrentDesktop() {
-    if (installedDesktop != nullptr) return *installedDesktop;
+    if (Process().desktop != nullptr) return *Process().desktop;
     static QtDesktop peopled;
     static HeadlessDesktop unattended;
     if (RunsOnADisplay()) return peopled;
     return unattended;
 }
 
-ScopedDesktop::ScopedDesktop(Desktop& desktop) : before_(std::exchange(installedDesktop, &desktop)) {}
+ScopedDesktop::ScopedDesktop(Desktop& desktop) : before_(std::exchange(Process().desktop, &desktop)) {}
 
 ScopedDesktop::~ScopedDesktop() {
-    installedDesktop = before_;
+    Process().desktop = before_;
 }
 
 } // namespace QmChart6

@@ -1,26 +1,20 @@
 #include "desktop/QtTexts.h"
 
+#include "base/ProcessState.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 
 namespace QmChart6 {
 
-namespace {
-
-QString& Language() {
-    static QString locale;
-    return locale;
-}
-
-} // namespace
-
 void SetQtTextsLanguage(const QString& locale) {
-    Language() = locale;
+    Process().qtTextsLocale = locale;
 }
 
 QtTexts::QtTexts() {
-    if (Language().isEmpty()) return;
-    installed_ = translator_.load(QStringLiteral("qtbase_") + Language(),
+    const QString& locale = Process().qtTextsLocale;
+    if (locale.isEmpty()) return;
+    installed_ = translator_.load(QStringLiteral("qtbase_") + locale,
                                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
                  QCoreApplication::installTranslator(&translator_);
 }

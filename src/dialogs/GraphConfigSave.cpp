@@ -30,11 +30,12 @@ GraphConfigSave::GraphConfigSave(QWidget* owner)
 
 void GraphConfigSave::Execute(Viewer& viewer) {
     txtConfig_->setText(viewer.QmConfig());
-    bool confirmed = false;
-    do {
+    for (;;) {
+        bool confirmed = false;
         RunLoop([&] { confirmed = Confirm(txtConfig_->text()); });
-    } while (!Cancelled() && !confirmed);
-    if (!confirmed) return;
+        if (confirmed) break;
+        if (Cancelled()) return;
+    }
     viewer.SetQmConfig(txtConfig_->text());
     SaveConfiguration(viewer);
 }

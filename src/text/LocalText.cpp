@@ -1,5 +1,6 @@
 #include "text/LocalText.h"
 
+#include "base/ProcessState.h"
 #include "qmchart6/RuntimeError.h"
 #include "text/StringTable.h"
 
@@ -10,8 +11,6 @@
 namespace QmChart6 {
 
 namespace {
-
-std::int16_t languageCode = 0;
 
 /// The value where it fits 32 bits; raises 6 otherwise.
 std::int32_t Checked(std::int64_t value) {
@@ -31,15 +30,15 @@ std::int32_t IdOfText(std::int32_t key, std::int16_t language) {
 } // namespace
 
 std::int16_t LanguageCode() {
-    return languageCode;
+    return Process().languageCode;
 }
 
 void SetLanguageCode(std::int16_t code) {
-    languageCode = code;
+    Process().languageCode = code;
 }
 
 QString LocalText(TextKey key) {
-    const auto id = IdOfText(static_cast<std::int32_t>(key), languageCode);
+    const auto id = IdOfText(static_cast<std::int32_t>(key), Process().languageCode);
     const auto text = StringOfId(id);
     if (!text)
         throw RuntimeError(ErrorNumber::ResourceNotFound, QStringLiteral("there is no text %1").arg(id));

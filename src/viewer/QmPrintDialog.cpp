@@ -1,5 +1,6 @@
 #include "viewer/QmPrintDialog.h"
 
+#include "base/ProcessState.h"
 #include "desktop/Desktop.h"
 #include "qmchart6/RuntimeError.h"
 
@@ -11,27 +12,18 @@ namespace QmChart6 {
 
 namespace {
 
-/// The process' printer, once one was chosen.
-QString& ChosenPrinter() {
-    static QString name;
-    return name;
-}
-
 /// Null where there is no printer.
 std::unique_ptr<QPrinter> OpenCurrentPrinter() {
     const Desktop& desktop = CurrentDesktop();
-    if (desktop.PrinterNames().contains(ChosenPrinter())) return desktop.OpenPrinter(ChosenPrinter());
+    const QString& chosen = Process().chosenPrinter;
+    if (desktop.PrinterNames().contains(chosen)) return desktop.OpenPrinter(chosen);
     const std::optional<QString> name = desktop.DefaultPrinter();
     return name ? desktop.OpenPrinter(*name) : nullptr;
 }
 
 /// A name that no printer bears leaves the process' printer as it was.
 void ChoosePrinter(const QString& name) {
-    for (const QString& printer : CurrentDesktop().PrinterNames())
-        if (printer == name) {
-            ChosenPrinter() = name;
-            return;
-        }
+    if (CurrentDesktop().PrinterNames().contains(name)) Process().chosenPrinter = name;
 }
 
 void CopySettings(const QPrinter& settings, QPrinter& printer) {
@@ -54,7 +46,8 @@ std::unique_ptr<QPrinter> QmPrintDialog::Execute() const {
 
     ChoosePrinter(*chosen);
     // The printer that was asked about has settings of its own kind too, which no other could take.
-    if (!settings->printerName().isEmpty() && settings->printerName() == ChosenPrinter()) return settings;
+    if (!settings->printerName().isEmpty() && settings->printerName() == Process().chosenPrinter)
+        return settings;
     std::unique_ptr<QPrinter> printer = OpenCurrentPrinter();
     if (!printer) throw RuntimeError(ErrorNumber::PrinterError, QStringLiteral("there is no printer"));
     CopySettings(*settings, *printer);

@@ -43,10 +43,7 @@ QString Kept(const char* name, const char* ending) {
 class SessionTest : public testing::TestWithParam<Session> {
 protected:
     SessionTest() { SetConfigurationFolder(store.Folder()); }
-    ~SessionTest() override {
-        CloseViewer(QStringLiteral("sales"));
-        SetConfigurationFolder({});
-    }
+    ~SessionTest() override { CloseViewer(QStringLiteral("sales")); }
 
     GraphForm& Make(std::int16_t useConfig) {
         const std::int16_t columns = GetParam().columns;

@@ -45,7 +45,6 @@ protected:
         viewer = FindViewer(id).get();
     }
     ~ViewerWindowTest() override {
-        SetConfigurationFolder({});
         if (!viewer.isNull()) viewer->SetModified(false);
         CloseViewer(QStringLiteral("sales"));
     }

@@ -10,16 +10,9 @@
 #include "text/LocalText.h"
 #include "viewer/GraphForm.h"
 
-/// Begins and ends without viewers, in English, with nobody but the script at the desk.
+/// Nobody but the script is at the desk.
 class AutomationTest : public testing::Test {
 protected:
-    AutomationTest() { QmChart6::SetLanguageCode(0); }
-    ~AutomationTest() override {
-        for (int place = QmChart6::Viewers().LowerBound(); place <= QmChart6::Viewers().UpperBound(); ++place)
-            QmChart6::Viewers().Release(place);
-        QmChart6::SetLanguageCode(0);
-    }
-
     /// A chart of 3 rows and 2 columns.
     void Make(const QString& id, const QmChart6::Variant& language = std::int16_t{0},
               std::uint8_t useConfig = 0) {

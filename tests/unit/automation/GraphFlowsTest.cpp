@@ -46,7 +46,6 @@ protected:
         SaveConfiguration(*Viewer(id));
         charts.QmKillGraph(id);
     }
-    void TearDown() override { SetConfigurationFolder({}); }
 
     QTemporaryDir folder;
     std::unique_ptr<TestStore> store;

@@ -62,11 +62,12 @@ TEST_F(ViewerListTest, KillingAnUnknownIdDoesNothing) {
     EXPECT_NE(Viewer(QStringLiteral("a")), nullptr);
 }
 
-TEST_F(ViewerListTest, IsViewerMissingIsTrueForError91Only) {
+TEST_F(ViewerListTest, IsViewerMissingIsTrueForAnEmptyReferenceOnly) {
     EXPECT_TRUE(IsViewerMissing(ViewerPointer()));
     EXPECT_FALSE(IsViewerMissing(CreateViewer(QStringLiteral("a"))));
-    EXPECT_TRUE(IsViewerMissing([] { throw RuntimeError(ErrorNumber::ObjectNotSet); }));
-    EXPECT_RAISES(13, IsViewerMissing([] { throw RuntimeError(ErrorNumber::TypeMismatch); }));
+    const ViewerPointer released = Viewers().Release(Viewers().UpperBound());
+    EXPECT_FALSE(IsViewerMissing(released));
+    EXPECT_TRUE(IsViewerMissing(Viewers().At(Viewers().UpperBound())));
 }
 
 TEST_F(ViewerListTest, AViewerThatAHostKillsWhileItIsMadeStaysClosed) {

@@ -199,5 +199,4 @@ TEST(LoadKindsTest, ANumberThatAnEmbeddedFieldCannotHoldIsError6AndAWordError13)
     ASSERT_EQ(desktop.messages.size(), 2);
     EXPECT_TRUE(desktop.messages[0].text.startsWith(T("Error 6: ")));
     EXPECT_TRUE(desktop.messages[1].text.startsWith(T("Error 13: ")));
-    SetConfigurationFolder({});
 }

@@ -197,5 +197,4 @@ TEST(SaveFolderTest, AFolderTextWithoutASeparatorNamesAFileBesideTheFolder) {
     SaveConfiguration(viewer);
     ASSERT_EQ(desktop.messages.size(), 1);
     EXPECT_TRUE(desktop.messages.front().text.contains(T("looksQmConfig.mdb")));
-    SetConfigurationFolder({});
 }

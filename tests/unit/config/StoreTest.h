@@ -19,11 +19,7 @@ inline QString T(const char* text) {
 /// The store's procedures on an empty database of each engine, nobody but the script at the desk.
 class StoreTest : public EngineTest {
 protected:
-    StoreTest() {
-        QmChart6::SetConfigurationFolder(store.Folder());
-        QmChart6::SetLanguageCode(0);
-    }
-    ~StoreTest() override { QmChart6::SetConfigurationFolder({}); }
+    StoreTest() { QmChart6::SetConfigurationFolder(store.Folder()); }
 
     /// Gives the viewer a table of numbers and the default look.
     static void Fill(TestViewer& one, int rows, int columns) {

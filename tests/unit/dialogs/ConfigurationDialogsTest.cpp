@@ -19,7 +19,6 @@ namespace {
 class ConfigurationDialogsTest : public DialogsTest {
 protected:
     ConfigurationDialogsTest() { SetConfigurationFolder(store.Folder()); }
-    ~ConfigurationDialogsTest() override { SetConfigurationFolder({}); }
 
     /// Keeps a look of that name with a chart type and a title of its own.
     void Keep(const QString& name, ChartType type, const QString& graphId = QStringLiteral("OTHER")) {

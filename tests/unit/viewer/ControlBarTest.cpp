@@ -39,10 +39,7 @@ protected:
         SetConfigurationFolder(store.Folder());
         form.emplace();
     }
-    ~ControlBarTest() override {
-        form->SetModified(false);
-        SetConfigurationFolder({});
-    }
+    ~ControlBarTest() override { form->SetModified(false); }
 
     void Open(int rows, int columns, ChartType type = ChartType::Bar2D) {
         Model().SetGridSize(rows, columns);

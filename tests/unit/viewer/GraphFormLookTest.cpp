@@ -5,7 +5,6 @@
 #include "config/ConfigurationStore.h"
 #include "support/ScriptedDesktop.h"
 #include "support/TestStore.h"
-#include "text/LocalText.h"
 #include "viewer/GraphForm.h"
 #include "viewer/ViewerToolBar.h"
 
@@ -42,7 +41,6 @@ private:
 class GraphFormLookTest : public testing::Test {
 protected:
     GraphFormLookTest() {
-        SetLanguageCode(0);
         SetConfigurationFolder(store.Folder());
         Chart& chart = form->ChartImage().Model();
         chart.SetGridSize(3, 2);
@@ -51,7 +49,6 @@ protected:
         form->SetQmConfig(QStringLiteral("Look"));
         form->show();
     }
-    ~GraphFormLookTest() override { SetConfigurationFolder({}); }
 
     [[nodiscard]] ViewerToolBar& Bar() const { return *form->findChild<ViewerToolBar*>(); }
 

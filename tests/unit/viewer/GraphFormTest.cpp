@@ -26,10 +26,7 @@ namespace {
 class GraphFormTest : public testing::Test {
 protected:
     void SetUp() override { SetLanguageCode(0); }
-    void TearDown() override {
-        SetConfigurationFolder({});
-        SetLanguageCode(0);
-    }
+    void TearDown() override { SetLanguageCode(0); }
 
     ScriptedDesktop desktop;
     ScopedDesktop scope{desktop};

@@ -41,10 +41,7 @@ protected:
         form->RefreshControlBar();
         form->SetModified(false);
     }
-    ~UndoTest() override {
-        form->SetModified(false);
-        SetConfigurationFolder({});
-    }
+    ~UndoTest() override { form->SetModified(false); }
 
     [[nodiscard]] Chart& Model() const { return form->ChartImage().Model(); }
     /// What a person sees of the viewer's look, and can take back.
