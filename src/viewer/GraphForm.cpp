@@ -31,15 +31,6 @@ constexpr int ChartWidth = 760;
 constexpr int ChartHeight = 480;
 constexpr int StatusTime = 2000; // milliseconds
 
-/// The chart's edge in whole logical pixels; both edges are rounded, so that no rounding adds up.
-QRect PixelsOfPlace(const ChartPlace& place, const QRect& before) {
-    const int left = PixelsOfTwips(place.left);
-    const int top = PixelsOfTwips(place.top);
-    const int width = place.width ? PixelsOfTwips(place.left + *place.width) - left : before.width();
-    const int height = place.height ? PixelsOfTwips(place.top + *place.height) - top : before.height();
-    return {left, top, width, height};
-}
-
 } // namespace
 
 /// Keeps the form alive until the event is over, also when a message box waits in the middle of it.

@@ -22,4 +22,12 @@ ChartPlace PlaceChart(const ViewerMeasures& measures) {
     return place;
 }
 
+QRect PixelsOfPlace(const ChartPlace& place, const QRect& before) {
+    const int left = PixelsOfTwips(place.left);
+    const int top = PixelsOfTwips(place.top);
+    const int width = place.width ? PixelsOfTwips(place.left + *place.width) - left : before.width();
+    const int height = place.height ? PixelsOfTwips(place.top + *place.height) - top : before.height();
+    return {left, top, width, height};
+}
+
 } // namespace QmChart6

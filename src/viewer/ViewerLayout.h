@@ -2,6 +2,8 @@
 
 #include "base/Twips.h"
 
+#include <QRect>
+
 #include <optional>
 
 namespace QmChart6 {
@@ -33,5 +35,9 @@ struct ChartPlace {
 
 /// A window too narrow or too low for the chart gives no width or height.
 ChartPlace PlaceChart(const ViewerMeasures& measures);
+
+/// A place in whole logical pixels; both edges are rounded, so that no rounding adds up. `before` is where
+/// the chart was.
+QRect PixelsOfPlace(const ChartPlace& place, const QRect& before);
 
 } // namespace QmChart6
