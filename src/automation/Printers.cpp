@@ -2,7 +2,7 @@
 
 #include "base/ProcessState.h"
 #include "desktop/Application.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "qmchart6/Host.h"
 #include "viewer/PrintChart.h"
 

@@ -1,6 +1,7 @@
 #include "config/LookFields.h"
 
 #include "chart/ChartFunctions.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "config/FieldBuilder.h"
 
 #include <algorithm>

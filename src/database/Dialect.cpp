@@ -1,14 +1,6 @@
 #include "database/Dialect.h"
 
-#include "database/PostgresDialect.h"
-#include "database/SqliteDialect.h"
-
 namespace QmChart6 {
-
-std::unique_ptr<Dialect> DialectFor(const DatabaseLocation& location) {
-    if (location.server) return std::make_unique<PostgresDialect>(location);
-    return std::make_unique<SqliteDialect>(location);
-}
 
 QString Quoted(const QString& name) {
     QString escaped = name;

@@ -58,9 +58,6 @@ public:
     [[nodiscard]] virtual RuntimeError Translate(const QSqlError& error) const = 0;
 };
 
-/// The dialect of the engine at a place.
-std::unique_ptr<Dialect> DialectFor(const DatabaseLocation& location);
-
 /// A name between double quotes.
 [[nodiscard]] QString Quoted(const QString& name);
 

@@ -91,19 +91,4 @@ public:
     [[nodiscard]] virtual std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) = 0;
 };
 
-/// The process' desktop: a person's where there is a display, otherwise one that answers by itself.
-Desktop& CurrentDesktop();
-
-/// Puts another desktop in place for as long as it lives.
-class ScopedDesktop {
-public:
-    explicit ScopedDesktop(Desktop& desktop);
-    ~ScopedDesktop();
-    ScopedDesktop(const ScopedDesktop&) = delete;
-    ScopedDesktop& operator=(const ScopedDesktop&) = delete;
-
-private:
-    Desktop* before_;
-};
-
 } // namespace QmChart6

@@ -35,8 +35,9 @@ QIcon Swatch(const QColor& colour, const QColor& frame, QSize size, double pixel
 
 } // namespace
 
-FontPicker::FontPicker(const FontChoice& start, const FontPickerTexts& texts, QWidget* owner)
-    : QDialog(owner), start_(start), colour_(start.colour), fonts_(new QFontDialog(this)),
+FontPicker::FontPicker(Desktop& desktop, const FontChoice& start, const FontPickerTexts& texts,
+                       QWidget* owner)
+    : QDialog(owner), desktop_(desktop), start_(start), colour_(start.colour), fonts_(new QFontDialog(this)),
       btnColour_(new QPushButton(texts.colour, this)) {
     setWindowTitle(texts.title);
     // The toolkit's own font dialog without its frame and buttons; it knows no colours.
@@ -97,7 +98,7 @@ FontChoice FontPicker::Choice() const {
 }
 
 void FontPicker::PickColour() {
-    const auto picked = CurrentDesktop().PickColour(this, colour_, windowTitle());
+    const auto picked = desktop_.PickColour(this, colour_, windowTitle());
     if (!picked) return;
     colour_ = *picked;
     ShowColour();

@@ -10,12 +10,12 @@ class QPushButton;
 
 namespace QmChart6 {
 
-/// Chooses a font and its colour.
+/// Chooses a font and its colour, the colour by the desktop that shows the picker.
 class FontPicker : public QDialog {
     Q_OBJECT
 
 public:
-    FontPicker(const FontChoice& start, const FontPickerTexts& texts, QWidget* owner);
+    FontPicker(Desktop& desktop, const FontChoice& start, const FontPickerTexts& texts, QWidget* owner);
 
     /// The choice as it stands. What was not touched is as it was given, even where the desktop shows
     /// something else for it: a font that is not installed, or a size with a fraction.
@@ -28,6 +28,7 @@ private:
     void PickColour();
     void ShowColour();
 
+    Desktop& desktop_;
     FontChoice start_;
     QColor colour_;
     QFont shownFirst_;

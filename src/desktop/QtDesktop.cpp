@@ -83,7 +83,7 @@ std::optional<QColor> QtDesktop::PickColour(QWidget* owner, const QColor& start,
 std::optional<FontChoice> QtDesktop::PickFont(QWidget* owner, const FontChoice& start,
                                               const FontPickerTexts& texts) {
     const QtTexts qtTexts;
-    const DialogScope picker(new FontPicker(start, texts, owner));
+    const DialogScope picker(new FontPicker(*this, start, texts, owner));
     if (Run(picker.Get()) != QDialog::Accepted) return std::nullopt;
     return picker.Get()->Choice();
 }

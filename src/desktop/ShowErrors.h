@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "qmchart6/RuntimeError.h"
 
 #include <exception>

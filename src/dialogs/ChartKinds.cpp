@@ -5,61 +5,22 @@
 #include "text/LocalText.h"
 
 #include <algorithm>
+#include <array>
 
 namespace QmChart6 {
 
 namespace {
 
-TextKey KeyOf(ChartType kind) {
-    switch (kind) {
-    case ChartType::Bar3D:
-        return TextKey::BarColumn;
-    case ChartType::Bar2D:
-        return TextKey::Bar;
-    case ChartType::Line3D:
-        return TextKey::LineTape;
-    case ChartType::Line2D:
-        return TextKey::Line;
-    case ChartType::Area3D:
-    case ChartType::Area2D:
-        return TextKey::Area;
-    case ChartType::Step3D:
-    case ChartType::Step2D:
-        return TextKey::Step;
-    case ChartType::Combination3D:
-    case ChartType::Combination2D:
-        return TextKey::Combination;
-    case ChartType::Pie2D:
-        return TextKey::Pie;
-    case ChartType::XY2D:
-        break;
-    }
-    return TextKey::XYScatter;
-}
+/// What the kinds are called, in the order of their table.
+constexpr std::array<TextKey, ChartKinds.size()> KindNames{
+    TextKey::BarColumn,   TextKey::Bar,         TextKey::LineTape, TextKey::Line,
+    TextKey::Area,        TextKey::Area,        TextKey::Step,     TextKey::Step,
+    TextKey::Combination, TextKey::Combination, TextKey::Pie,      TextKey::XYScatter};
 
-TextKey KeyOf(LabelLocation location) {
-    switch (location) {
-    case LabelLocation::None:
-        return TextKey::NoLabel;
-    case LabelLocation::AbovePoint:
-        return TextKey::Above;
-    case LabelLocation::BelowPoint:
-        return TextKey::Below;
-    case LabelLocation::Center:
-        return TextKey::LabelCenter;
-    case LabelLocation::Base:
-        return TextKey::Base;
-    case LabelLocation::Inside:
-        return TextKey::Inside;
-    case LabelLocation::Outside:
-        return TextKey::Outside;
-    case LabelLocation::Left:
-        return TextKey::Left;
-    case LabelLocation::Right:
-        break;
-    }
-    return TextKey::Right;
-}
+/// What the data-label locations are called, by their numbers.
+constexpr std::array LocationNames{TextKey::NoLabel,     TextKey::Above, TextKey::Below,
+                                   TextKey::LabelCenter, TextKey::Base,  TextKey::Inside,
+                                   TextKey::Outside,     TextKey::Left,  TextKey::Right};
 
 } // namespace
 
@@ -72,7 +33,7 @@ std::vector<ChartType> KindsOffered(bool threeD, bool oneColumn) {
 }
 
 QString ChartKindText(ChartType kind) {
-    return LocalText(KeyOf(kind));
+    return LocalText(KindNames[RowOf(kind)]);
 }
 
 LabelLocation LocationOffered(ChartType type, int index) {
@@ -81,7 +42,8 @@ LabelLocation LocationOffered(ChartType type, int index) {
 
 QStringList LabelLocationTexts(ChartType type) {
     QStringList texts;
-    for (const LabelLocation location : KindOf(type).labels.offered) texts.append(LocalText(KeyOf(location)));
+    for (const LabelLocation location : KindOf(type).labels.offered)
+        texts.append(LocalText(LocationNames[static_cast<std::size_t>(location)]));
     return texts;
 }
 

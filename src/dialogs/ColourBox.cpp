@@ -1,6 +1,6 @@
 #include "dialogs/ColourBox.h"
 
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 
 #include <QPainter>
 

@@ -2,7 +2,7 @@
 
 #include "config/ConfigurationStore.h"
 #include "config/Viewer.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "dialogs/Captions.h"
 #include "text/LocalText.h"
 

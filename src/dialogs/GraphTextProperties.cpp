@@ -1,6 +1,7 @@
 #include "dialogs/GraphTextProperties.h"
 
 #include "chartcontrol/paint/QtColour.h"
+#include "desktop/CurrentDesktop.h"
 #include "dialogs/Captions.h"
 #include "dialogs/ColourBox.h"
 #include "dialogs/Mnemonics.h"

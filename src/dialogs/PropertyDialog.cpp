@@ -1,7 +1,7 @@
 #include "dialogs/PropertyDialog.h"
 
 #include "base/Twips.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "dialogs/FootButton.h"
 #include "dialogs/Mnemonics.h"
 #include "text/LocalText.h"

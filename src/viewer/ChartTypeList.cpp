@@ -1,41 +1,58 @@
 #include "viewer/ChartTypeList.h"
 
-#include "text/LocalText.h"
+#include "chartcontrol/model/ChartKinds.h"
+#include "dialogs/ChartKinds.h"
+
+#include <algorithm>
 
 namespace QmChart6 {
 
 namespace {
 
-// Where the types stand that do not come as a pair of 3D and 2D. Pie takes the place of the combination in
-// the list for one column.
-constexpr int PieIndexOfOneColumn = 4;
-constexpr int PieIndex = 5;
-constexpr int XYIndex = 6;
+/// Where nothing is chosen, or something that the list does not have; no chart type has that number.
+constexpr int NoType = -1;
+
+/// The kinds of the list. The one for a single column lacks those that need more.
+std::vector<ChartType> Listed(bool oneColumn) {
+    return KindsOffered(false, oneColumn);
+}
+
+int PlaceOf(ChartType type, const std::vector<ChartType>& kinds) {
+    const auto found = std::find(kinds.begin(), kinds.end(), type);
+    return found == kinds.end() ? NoType : static_cast<int>(found - kinds.begin());
+}
+
+/// The same kind in space, where there is one.
+ChartType InSpace(ChartType flat) {
+    const auto found = std::find_if(ChartKinds.begin(), ChartKinds.end(),
+                                    [flat](const ChartKind& kind) { return kind.flat == flat; });
+    return found == ChartKinds.end() ? flat : found->type;
+}
 
 } // namespace
 
 QStringList ChartTypeTexts(int columnCount, bool threeD) {
     QStringList texts;
-    for (const TextKey key : {TextKey::Bar, TextKey::Line, TextKey::Area, TextKey::Step})
-        texts.append(LocalText(key));
-    if (columnCount > 1)
-        texts << LocalText(TextKey::Combination) << LocalText(TextKey::Pie) << LocalText(TextKey::XYScatter);
-    else if (!threeD)
-        texts << LocalText(TextKey::Pie);
+    for (const ChartType kind : Listed(columnCount <= 1))
+        if (columnCount > 1 || !threeD || InSpace(kind) != kind) texts.append(ChartKindText(kind));
     return texts;
 }
 
 int IndexOfChartType(ChartType type, int columnCount) {
-    if (type == ChartType::XY2D) return XYIndex;
-    if (type == ChartType::Pie2D) return columnCount == 1 ? PieIndexOfOneColumn : PieIndex;
-    return static_cast<int>(type) / 2;
+    const ChartType flat = KindOf(type).flat.value_or(type);
+    const int place = columnCount == 1 ? PlaceOf(flat, Listed(true)) : NoType;
+    return place == NoType ? PlaceOf(flat, Listed(false)) : place;
 }
 
 int ChartTypeAtIndex(int index, int columnCount, bool threeD) {
-    const bool pie = index == PieIndex || (index == PieIndexOfOneColumn && columnCount == 1);
-    if (pie) return static_cast<int>(ChartType::Pie2D);
-    if (index == XYIndex) return static_cast<int>(ChartType::XY2D);
-    return 2 * index + (threeD ? 0 : 1);
+    const auto at = [index](const std::vector<ChartType>& kinds) -> std::optional<ChartType> {
+        const bool isThere = index >= 0 && index < static_cast<int>(kinds.size());
+        return isThere ? std::optional(kinds[static_cast<std::size_t>(index)]) : std::nullopt;
+    };
+    std::optional<ChartType> type = columnCount == 1 ? at(Listed(true)) : std::nullopt;
+    if (!type) type = at(Listed(false));
+    if (!type) return NoType;
+    return static_cast<int>(threeD ? InSpace(*type) : *type);
 }
 
 } // namespace QmChart6

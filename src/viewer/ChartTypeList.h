@@ -13,7 +13,8 @@ QStringList ChartTypeTexts(int columnCount, bool threeD);
 /// Where a chart type stands in that list. The types that a list lacks have a number all the same.
 int IndexOfChartType(ChartType type, int columnCount);
 
-/// The number of the chart type at a place of that list: two dimensional unless `threeD`, pie and XY always.
+/// The number of the chart type at a place of that list: two dimensional unless `threeD`, pie and XY always;
+/// -1 where the list has no such place.
 int ChartTypeAtIndex(int index, int columnCount, bool threeD);
 
 } // namespace QmChart6

@@ -1,9 +1,10 @@
 #include "viewer/GraphForm.h"
 
 #include "base/Twips.h"
+#include "chartcontrol/widget/AccessibleChart.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationStore.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "desktop/ShowErrors.h"
 #include "qmchart6/RuntimeError.h"
 #include "text/Languages.h"
@@ -72,6 +73,7 @@ GraphForm::GraphForm(QWidget* parent)
       tbControlBar_(new ViewerToolBar(this)), sbGraph_(new ViewerStatusBar(this)),
       mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)),
       commands_(std::make_unique<Commands>(*this)) {
+    InstallAccessibleCharts();
     setObjectName(QStringLiteral("GraphForm"));
     // Closing the last chart must not end a host's event loop.
     setAttribute(Qt::WA_QuitOnClose, false);

@@ -5,7 +5,7 @@
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"
 #include "chartcontrol/widget/ChartControl.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "qmchart6/RuntimeError.h"
 #include "viewer/ChartOnPaper.h"
 #include "viewer/GraphPrinting.h"

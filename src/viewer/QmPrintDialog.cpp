@@ -1,7 +1,7 @@
 #include "viewer/QmPrintDialog.h"
 
 #include "base/ProcessState.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "qmchart6/RuntimeError.h"
 
 #include <QPrinter>

@@ -3,7 +3,7 @@
 #include "chartcontrol/paint/PictureFormat.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 #include "text/LocalText.h"
 
 #include <QCoreApplication>

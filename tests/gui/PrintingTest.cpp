@@ -1,5 +1,6 @@
 #include "automation/ViewerList.h"
 #include "chartcontrol/widget/ChartControl.h"
+#include "desktop/CurrentDesktop.h"
 #include "desktop/QtDesktop.h"
 #include "support/Person.h"
 #include "viewer/GraphForm.h"

@@ -3,6 +3,7 @@
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
+#include "desktop/CurrentDesktop.h"
 #include "desktop/QtDesktop.h"
 #include "qmchart6/Host.h"
 #include "qmchart6/QMChartArray.h"

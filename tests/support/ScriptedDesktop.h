@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/CurrentDesktop.h"
 #include "desktop/QtDesktop.h"
 
 #include <QPrinter>

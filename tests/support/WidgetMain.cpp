@@ -1,4 +1,5 @@
 #include "desktop/Application.h"
+#include "desktop/CurrentDesktop.h"
 #include "desktop/HeadlessDesktop.h"
 #include "support/FreshProcess.h"
 

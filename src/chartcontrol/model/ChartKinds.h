@@ -147,11 +147,19 @@ inline constexpr std::array ChartKinds = [] {
     };
 }();
 
-/// The row of a type.
+/// The type of a plain number; one that has no row raises error 380.
+ChartType ToChartType(int number);
+SeriesType ToSeriesType(int number);
+
+/// Where the row of a type stands. A type is always one of them: see ToChartType.
+constexpr std::size_t RowOf(ChartType type) {
+    std::size_t row = 0;
+    while (row + 1 < ChartKinds.size() && ChartKinds[row].type != type) ++row;
+    return row;
+}
+
 constexpr const ChartKind& KindOf(ChartType type) {
-    for (const ChartKind& kind : ChartKinds)
-        if (kind.type == type) return kind;
-    return ChartKinds.front(); // a type is one of the rows: see ToChartType
+    return ChartKinds[RowOf(type)];
 }
 
 constexpr const MarkKind& KindOf(Mark mark) {

@@ -1,4 +1,4 @@
-#include "chartcontrol/model/ChartKinds.h"
+#include "chartcontrol/model/Enumerations.h"
 
 namespace QmChart6 {
 
@@ -15,25 +15,7 @@ E InRange(int number, E last, const char* what) {
     return static_cast<E>(number);
 }
 
-RuntimeError ThereIsNo(const char* what, int number) {
-    return RuntimeError(ErrorNumber::InvalidPropertyValue,
-                        QStringLiteral("there is no %1 %2").arg(QString::fromLatin1(what)).arg(number));
-}
-
 } // namespace
-
-ChartType ToChartType(int number) {
-    for (const ChartKind& kind : ChartKinds)
-        if (static_cast<int>(kind.type) == number) return kind.type;
-    throw ThereIsNo("chart type", number);
-}
-
-SeriesType ToSeriesType(int number) {
-    for (const MarkKind& kind : MarkKinds)
-        for (const SeriesType type : kind.series)
-            if (static_cast<int>(type) == number) return type;
-    throw ThereIsNo("series type", number);
-}
 
 PenStyle ToPenStyle(int number) {
     return InRange(number, PenStyle::Dotted, "a pen style");

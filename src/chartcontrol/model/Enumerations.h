@@ -114,8 +114,6 @@ inline constexpr int PatternCount = 18;
 inline constexpr int HatchCount = 6;
 
 /// The enumeration's value of a plain number; a number that it does not have raises error 380.
-ChartType ToChartType(int number);
-SeriesType ToSeriesType(int number);
 PenStyle ToPenStyle(int number);
 BrushStyle ToBrushStyle(int number);
 FrameStyle ToFrameStyle(int number);

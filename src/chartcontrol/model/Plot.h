@@ -1,7 +1,7 @@
 #pragma once
 
 #include "chartcontrol/model/Axis.h"
-#include "chartcontrol/model/Series.h"
+#include "chartcontrol/model/SeriesCollection.h"
 
 #include <array>
 

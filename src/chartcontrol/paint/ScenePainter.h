@@ -2,7 +2,7 @@
 
 #include "chartcontrol/paint/DeviceGrid.h"
 #include "chartcontrol/paint/Hatch.h"
-#include "chartcontrol/paint/PaintScene.h"
+#include "chartcontrol/paint/PaintTarget.h"
 #include "chartcontrol/paint/PixelPolygon.h"
 #include "chartcontrol/paint/PixelTarget.h"
 #include "chartcontrol/scene/Scene.h"

@@ -86,10 +86,17 @@ private:
     int point_;
 };
 
+/// Tells assistive technology which series or data point of the control is selected.
+void AnnounceSelection(ChartControl& control);
+
 class AccessibleChart : public QAccessibleWidget {
 public:
-    explicit AccessibleChart(ChartControl* control) : QAccessibleWidget(control, QAccessible::Chart) {}
+    explicit AccessibleChart(ChartControl* control)
+        : QAccessibleWidget(control, QAccessible::Chart),
+          selection_(QObject::connect(control, &ChartControl::PartSelected, control,
+                                      [control] { AnnounceSelection(*control); })) {}
     ~AccessibleChart() override {
+        QObject::disconnect(selection_);
         for (const auto& [part, id] : kept_) QAccessible::deleteAccessibleInterface(id);
     }
 
@@ -157,6 +164,7 @@ private:
         points_ = 0;
     }
 
+    QMetaObject::Connection selection_;
     mutable std::map<std::pair<int, int>, QAccessible::Id> kept_;
     mutable std::size_t points_ = 0;
 };
@@ -205,6 +213,19 @@ QRect AccessiblePart::rect() const {
         .translated(corner);
 }
 
+void AnnounceSelection(ChartControl& control) {
+    if (!QAccessible::isActive()) return;
+    AccessibleChart* chart = AccessibleOf(&control);
+    const ChartPart& selected = control.SelectedPart();
+    if (chart == nullptr || !selected.IsOfSeries()) return;
+    QAccessibleInterface* part = chart->PartOf(selected.index1, selected.index2);
+    QAccessibleEvent selection(part, QAccessible::Selection);
+    QAccessible::updateAccessibility(&selection);
+    if (!control.hasFocus()) return;
+    QAccessibleEvent focus(part, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
+}
+
 QAccessibleInterface* MakeAccessible(const QString& /*className*/, QObject* object) {
     auto* control = qobject_cast<ChartControl*>(object);
     return control == nullptr ? nullptr : new AccessibleChart(control);
@@ -218,19 +239,6 @@ void InstallAccessibleCharts() {
         return true;
     }();
     static_cast<void>(isInstalled);
-}
-
-void AnnounceSelection(ChartControl& control) {
-    if (!QAccessible::isActive()) return;
-    AccessibleChart* chart = AccessibleOf(&control);
-    const ChartPart& selected = control.SelectedPart();
-    if (chart == nullptr || !selected.IsOfSeries()) return;
-    QAccessibleInterface* part = chart->PartOf(selected.index1, selected.index2);
-    QAccessibleEvent selection(part, QAccessible::Selection);
-    QAccessible::updateAccessibility(&selection);
-    if (!control.hasFocus()) return;
-    QAccessibleEvent focus(part, QAccessible::Focus);
-    QAccessible::updateAccessibility(&focus);
 }
 
 } // namespace QmChart6

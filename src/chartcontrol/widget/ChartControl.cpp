@@ -6,8 +6,7 @@
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/paint/PictureFormat.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"
-#include "chartcontrol/widget/AccessibleChart.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -19,7 +18,6 @@ namespace QmChart6 {
 ChartControl::ChartControl(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
-    InstallAccessibleCharts();
 }
 
 ChartControl::~ChartControl() = default;

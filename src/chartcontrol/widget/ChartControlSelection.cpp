@@ -1,7 +1,6 @@
 #include "base/Twips.h"
 #include "chartcontrol/layout/SelectionHandles.h"
 #include "chartcontrol/paint/PaintScene.h"
-#include "chartcontrol/widget/AccessibleChart.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "qmchart6/RuntimeError.h"
 
@@ -47,7 +46,6 @@ void ChartControl::Select(const ChartPart& part) {
     if (selected_ == part) return;
     selected_ = part;
     update();
-    AnnounceSelection(*this);
     Q_EMIT PartSelected(part.part, part.index1, part.index2, part.index3, part.index4);
 }
 

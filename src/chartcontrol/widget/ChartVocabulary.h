@@ -1,10 +1,10 @@
 #pragma once
 
-#include "chartcontrol/model/Enumerations.h"
+#include "chartcontrol/model/ChartKinds.h"
 
 #include <QString>
 
-#include <map>
+#include <array>
 
 namespace QmChart6 {
 
@@ -17,19 +17,20 @@ struct ChartVocabulary {
     };
 
     QString chart = QStringLiteral("Chart");
-    std::map<ChartType, QString> kinds{
-        {ChartType::Bar3D, QStringLiteral("3D bar chart")},
-        {ChartType::Bar2D, QStringLiteral("Bar chart")},
-        {ChartType::Line3D, QStringLiteral("3D line chart")},
-        {ChartType::Line2D, QStringLiteral("Line chart")},
-        {ChartType::Area3D, QStringLiteral("3D area chart")},
-        {ChartType::Area2D, QStringLiteral("Area chart")},
-        {ChartType::Step3D, QStringLiteral("3D step chart")},
-        {ChartType::Step2D, QStringLiteral("Step chart")},
-        {ChartType::Combination3D, QStringLiteral("3D combination chart")},
-        {ChartType::Combination2D, QStringLiteral("Combination chart")},
-        {ChartType::Pie2D, QStringLiteral("Pie chart")},
-        {ChartType::XY2D, QStringLiteral("XY chart")},
+    /// What the kinds of chart are called, in the order of their table.
+    std::array<QString, ChartKinds.size()> kinds{
+        QStringLiteral("3D bar chart"),
+        QStringLiteral("Bar chart"),
+        QStringLiteral("3D line chart"),
+        QStringLiteral("Line chart"),
+        QStringLiteral("3D area chart"),
+        QStringLiteral("Area chart"),
+        QStringLiteral("3D step chart"),
+        QStringLiteral("Step chart"),
+        QStringLiteral("3D combination chart"),
+        QStringLiteral("Combination chart"),
+        QStringLiteral("Pie chart"),
+        QStringLiteral("XY chart"),
     };
     Counted series{QStringLiteral("%1 series"), QStringLiteral("%1 series")};
     Counted categories{QStringLiteral("%1 category"), QStringLiteral("%1 categories")};

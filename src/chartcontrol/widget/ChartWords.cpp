@@ -58,7 +58,7 @@ QString ChartWords(const ChartVocabulary& words, const Chart& chart) {
     }
     const bool isXY = PairsColumns(chart);
     const QString what =
-        words.contents.arg(words.kinds.at(chart.chartType()), CountedWords(words.series, drawn),
+        words.contents.arg(words.kinds[RowOf(chart.chartType())], CountedWords(words.series, drawn),
                            CountedWords(isXY ? words.points : words.categories, chart.CategoryCount()));
     const QString values =
         least > greatest ? words.withoutValues : words.range.arg(TextOfDouble(least), TextOfDouble(greatest));

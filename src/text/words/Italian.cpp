@@ -139,18 +139,12 @@ ChartVocabulary ChartWords() {
     ChartVocabulary words;
     words.chart = QStringLiteral("Grafico");
     words.kinds = {
-        {ChartType::Bar3D, QStringLiteral("Grafico a barre 3D")},
-        {ChartType::Bar2D, QStringLiteral("Grafico a barre")},
-        {ChartType::Line3D, QStringLiteral("Grafico a linee 3D")},
-        {ChartType::Line2D, QStringLiteral("Grafico a linee")},
-        {ChartType::Area3D, QStringLiteral("Grafico ad aree 3D")},
-        {ChartType::Area2D, QStringLiteral("Grafico ad aree")},
-        {ChartType::Step3D, QStringLiteral("Grafico a gradini 3D")},
-        {ChartType::Step2D, QStringLiteral("Grafico a gradini")},
-        {ChartType::Combination3D, QStringLiteral("Grafico combinato 3D")},
-        {ChartType::Combination2D, QStringLiteral("Grafico combinato")},
-        {ChartType::Pie2D, QStringLiteral("Grafico a torta")},
-        {ChartType::XY2D, QStringLiteral("Grafico XY")},
+        QStringLiteral("Grafico a barre 3D"),   QStringLiteral("Grafico a barre"),
+        QStringLiteral("Grafico a linee 3D"),   QStringLiteral("Grafico a linee"),
+        QStringLiteral("Grafico ad aree 3D"),   QStringLiteral("Grafico ad aree"),
+        QStringLiteral("Grafico a gradini 3D"), QStringLiteral("Grafico a gradini"),
+        QStringLiteral("Grafico combinato 3D"), QStringLiteral("Grafico combinato"),
+        QStringLiteral("Grafico a torta"),      QStringLiteral("Grafico XY"),
     };
     words.series = {QStringLiteral("%1 serie"), QStringLiteral("%1 serie")};
     words.categories = {QStringLiteral("%1 categoria"), QStringLiteral("%1 categorie")};

@@ -139,18 +139,12 @@ ChartVocabulary ChartWords() {
     ChartVocabulary words;
     words.chart = QStringLiteral("Gráfico");
     words.kinds = {
-        {ChartType::Bar3D, QStringLiteral("Gráfico de barras 3D")},
-        {ChartType::Bar2D, QStringLiteral("Gráfico de barras")},
-        {ChartType::Line3D, QStringLiteral("Gráfico de linhas 3D")},
-        {ChartType::Line2D, QStringLiteral("Gráfico de linhas")},
-        {ChartType::Area3D, QStringLiteral("Gráfico de áreas 3D")},
-        {ChartType::Area2D, QStringLiteral("Gráfico de áreas")},
-        {ChartType::Step3D, QStringLiteral("Gráfico de degraus 3D")},
-        {ChartType::Step2D, QStringLiteral("Gráfico de degraus")},
-        {ChartType::Combination3D, QStringLiteral("Gráfico combinado 3D")},
-        {ChartType::Combination2D, QStringLiteral("Gráfico combinado")},
-        {ChartType::Pie2D, QStringLiteral("Gráfico de pizza")},
-        {ChartType::XY2D, QStringLiteral("Gráfico XY")},
+        QStringLiteral("Gráfico de barras 3D"),  QStringLiteral("Gráfico de barras"),
+        QStringLiteral("Gráfico de linhas 3D"),  QStringLiteral("Gráfico de linhas"),
+        QStringLiteral("Gráfico de áreas 3D"),   QStringLiteral("Gráfico de áreas"),
+        QStringLiteral("Gráfico de degraus 3D"), QStringLiteral("Gráfico de degraus"),
+        QStringLiteral("Gráfico combinado 3D"),  QStringLiteral("Gráfico combinado"),
+        QStringLiteral("Gráfico de pizza"),      QStringLiteral("Gráfico XY"),
     };
     words.series = {QStringLiteral("%1 série"), QStringLiteral("%1 séries")};
     words.categories = {QStringLiteral("%1 categoria"), QStringLiteral("%1 categorias")};

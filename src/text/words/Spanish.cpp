@@ -139,18 +139,12 @@ ChartVocabulary ChartWords() {
     ChartVocabulary words;
     words.chart = QStringLiteral("Gráfico");
     words.kinds = {
-        {ChartType::Bar3D, QStringLiteral("Gráfico de barras 3D")},
-        {ChartType::Bar2D, QStringLiteral("Gráfico de barras")},
-        {ChartType::Line3D, QStringLiteral("Gráfico de líneas 3D")},
-        {ChartType::Line2D, QStringLiteral("Gráfico de líneas")},
-        {ChartType::Area3D, QStringLiteral("Gráfico de áreas 3D")},
-        {ChartType::Area2D, QStringLiteral("Gráfico de áreas")},
-        {ChartType::Step3D, QStringLiteral("Gráfico escalonado 3D")},
-        {ChartType::Step2D, QStringLiteral("Gráfico escalonado")},
-        {ChartType::Combination3D, QStringLiteral("Gráfico combinado 3D")},
-        {ChartType::Combination2D, QStringLiteral("Gráfico combinado")},
-        {ChartType::Pie2D, QStringLiteral("Gráfico de pastel")},
-        {ChartType::XY2D, QStringLiteral("Gráfico XY")},
+        QStringLiteral("Gráfico de barras 3D"),  QStringLiteral("Gráfico de barras"),
+        QStringLiteral("Gráfico de líneas 3D"),  QStringLiteral("Gráfico de líneas"),
+        QStringLiteral("Gráfico de áreas 3D"),   QStringLiteral("Gráfico de áreas"),
+        QStringLiteral("Gráfico escalonado 3D"), QStringLiteral("Gráfico escalonado"),
+        QStringLiteral("Gráfico combinado 3D"),  QStringLiteral("Gráfico combinado"),
+        QStringLiteral("Gráfico de pastel"),     QStringLiteral("Gráfico XY"),
     };
     words.series = {QStringLiteral("%1 serie"), QStringLiteral("%1 series")};
     words.categories = {QStringLiteral("%1 categoría"), QStringLiteral("%1 categorías")};

@@ -1,6 +1,7 @@
 #include "chart/ChartFunctions.h"
 #include "chart/DefaultLook.h"
 #include "chart/ValueLabelFormat.h"
+#include "chartcontrol/model/ChartKinds.h"
 
 #include "support/Raises.h"
 

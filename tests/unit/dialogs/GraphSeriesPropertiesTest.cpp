@@ -2,6 +2,7 @@
 
 #include "DialogsTest.h"
 #include "chartcontrol/model/Chart.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "dialogs/PatternPicker.h"
 #include "support/Raises.h"
 #include "support/SampleCharts.h"

@@ -3,6 +3,7 @@
 #include "DialogsTest.h"
 #include "chart/ChartFunctions.h"
 #include "chart/ValueLabelFormat.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "support/Raises.h"
 #include "support/SampleCharts.h"

@@ -324,16 +324,16 @@ TEST(FontPicker, GivesWhatItWasGivenWhereNothingIsTouched) {
                            .strikethrough = true,
                            .underline = true,
                            .colour = QColor(1, 2, 3)};
-    const FontPicker picker(start, {}, nullptr);
+    ScriptedDesktop desktop;
+    const FontPicker picker(desktop, start, {}, nullptr);
     EXPECT_EQ(picker.Choice(), start);
 }
 
 TEST(FontPicker, GivesTheColourAndTheEffectsThatWereChosen) {
     ScriptedDesktop desktop;
-    const ScopedDesktop scope(desktop);
     desktop.colours = {QColor(Qt::red)};
     const FontChoice start{.family = QStringLiteral("Arial"), .size = 9, .colour = QColor(Qt::blue)};
-    FontPicker picker(start, {}, nullptr);
+    FontPicker picker(desktop, start, {}, nullptr);
     picker.findChild<QPushButton*>(QStringLiteral("btnColour"))->click();
     auto* fonts = picker.findChild<QFontDialog*>();
     QFont font = fonts->currentFont();
@@ -350,8 +350,9 @@ TEST(FontPicker, GivesTheColourAndTheEffectsThatWereChosen) {
 TEST(FontPicker, EnterActsAsOkAndEscapeAsCancelWhereverTheFocusIs) {
     for (const auto& [key, result] :
          {std::pair(Qt::Key_Return, QDialog::Accepted), std::pair(Qt::Key_Escape, QDialog::Rejected)}) {
-        FontPicker picker(FontChoice(), {.title = {}, .colour = "Color", .ok = "OK", .cancel = "Cancel"},
-                          nullptr);
+        ScriptedDesktop desktop;
+        FontPicker picker(desktop, FontChoice(),
+                          {.title = {}, .colour = "Color", .ok = "OK", .cancel = "Cancel"}, nullptr);
         int tried = 0;
         for (QWidget* control : picker.findChildren<QWidget*>()) {
             const bool inDialog = control->window() == &picker && control->focusPolicy() != Qt::NoFocus;

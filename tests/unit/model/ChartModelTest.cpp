@@ -1,4 +1,5 @@
 #include "chartcontrol/model/Chart.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/model/Palette.h"
 
 #include "support/Raises.h"

@@ -1,5 +1,6 @@
 #include "viewer/ChartTypeList.h"
 
+#include "chartcontrol/model/ChartKinds.h"
 #include "text/LocalText.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,7 @@
 #include "viewer/GraphForm.h"
 
 #include "chart/ValueLabelFormat.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"

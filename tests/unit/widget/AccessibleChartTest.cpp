@@ -1,5 +1,7 @@
 #include "PointingTest.h"
 
+#include "chartcontrol/widget/AccessibleChart.h"
+
 #include <QAccessible>
 
 namespace QmChart6 {
@@ -7,6 +9,7 @@ namespace {
 
 class AccessibleChartTest : public PointingTest {
 protected:
+    AccessibleChartTest() { InstallAccessibleCharts(); }
     QAccessibleInterface* Interface() { return QAccessible::queryAccessibleInterface(&chart); }
 };
 

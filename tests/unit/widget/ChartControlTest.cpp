@@ -1,6 +1,6 @@
 #include "chartcontrol/widget/ChartControl.h"
 
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 
 #include <QImage>
 #include <QMimeData>

@@ -1,7 +1,7 @@
 #include "PointingTest.h"
 
 #include "chartcontrol/widget/ViewTurn.h"
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>

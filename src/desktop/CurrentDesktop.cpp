@@ -1,4 +1,4 @@
-#include "desktop/Desktop.h"
+#include "desktop/CurrentDesktop.h"
 
 #include "base/ProcessState.h"
 #include "desktop/Application.h"
