@@ -1,6 +1,6 @@
 #include "chartcontrol/paint/BitmapWriter.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/paint/PaintScene.h"
 
 #include <QBuffer>
@@ -12,8 +12,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int DotsPerInch = 96; // of a logical pixel
-constexpr double MillimetresPerInch = 25.4;
 constexpr double GreatestSide = 32'767; // what the painter takes
 constexpr double GreatestArea = 256e6;  // pixels, one gigabyte
 
@@ -47,7 +45,7 @@ QImage ImageOfScene(const Scene& scene, int scale) {
     QPainter painter(&image);
     PaintScene(scene, painter, scale / PointsPerPixel, PaintTarget::Raster);
     painter.end();
-    const int dotsPerMetre = qRound(DotsPerInch * scale / MillimetresPerInch * 1000);
+    const int dotsPerMetre = qRound(PixelsPerInch * scale / MillimetresPerInch * 1000);
     image.setDotsPerMeterX(dotsPerMetre);
     image.setDotsPerMeterY(dotsPerMetre);
     return image;

@@ -1,4 +1,4 @@
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/layout/SelectionHandles.h"
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/widget/AccessibleChart.h"
@@ -14,7 +14,7 @@ namespace QmChart6 {
 void ChartControl::TwipsToChartPart(int x, int y, int& part, int& index1, int& index2, int& index3,
                                     int& index4) {
     const bool isInside = x >= 0 && y >= 0 && x < TwipsOfPixels(width()) && y < TwipsOfPixels(height());
-    const double pointsPerTwip = PointsPerPixel / TwipsPerPixel;
+    constexpr double pointsPerTwip = 1.0 / TwipsPerPoint;
     const ChartPart found =
         isInside ? PartAt(CurrentLayout(), {x * pointsPerTwip, y * pointsPerTwip}) : ChartPart{};
     part = found.part;
