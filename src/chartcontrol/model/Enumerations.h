@@ -118,7 +118,6 @@ ChartType ToChartType(int number);
 SeriesType ToSeriesType(int number);
 PenStyle ToPenStyle(int number);
 BrushStyle ToBrushStyle(int number);
-FrameStyle ToFrameStyle(int number);
 LocationType ToLocationType(int number);
 LabelLocation ToLabelLocation(int number);
 LabelLineStyle ToLabelLineStyle(int number);

@@ -55,8 +55,6 @@ public:
     /// The look that point `index` is drawn with.
     [[nodiscard]] const DataPoint& Item(int index) const;
     [[nodiscard]] bool HasOwn() const { return !own_.empty(); }
-    /// Every point takes the look of all again.
-    void ResetOwn() { own_.clear(); }
 
     friend bool operator==(const DataPoints&, const DataPoints&) = default;
 
@@ -114,6 +112,8 @@ public:
     friend bool operator==(const SeriesCollection&, const SeriesCollection&) = default;
 
 private:
+    [[nodiscard]] std::size_t PlaceOf(int number) const;
+
     std::vector<Series> series_;
 };
 

@@ -3,7 +3,6 @@
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/widget/AccessibleChart.h"
 #include "chartcontrol/widget/ChartControl.h"
-#include "qmchart6/RuntimeError.h"
 
 #include <QPainter>
 
@@ -52,12 +51,7 @@ void ChartControl::Select(const ChartPart& part) {
 }
 
 void ChartControl::DropSelectionThatIsGone() {
-    try {
-        RequirePart(chart_, selected_);
-    } catch (const RuntimeError&) {
-        // The series or point went with its data; that is no failure, only nothing to select any more.
-        Select({});
-    }
+    if (!HasPart(chart_, selected_)) Select({});
 }
 
 QPoint ChartControl::PlaceOfSelection() {

@@ -134,7 +134,7 @@ private:
 
     /// Labels below a level edge take height; beside a sloping one they reach to the side that it falls from.
     void LeaveRoomForCategories(Box& room, double gap) {
-        plan_.view.assign(1, SpaceView(context_.chart.Plot, plan_.size));
+        plan_.view.emplace(context_.chart.Plot, plan_.size);
         const double slope = plan_.CategorySlope();
         if (std::abs(slope) < LeastSlope) {
             room.bottom -= labelDepth_ + gap;
@@ -189,7 +189,7 @@ private:
 
     /// The flat picture's box for the present height.
     [[nodiscard]] Box Flat() {
-        plan_.view.assign(1, SpaceView(context_.chart.Plot, plan_.size));
+        plan_.view.emplace(context_.chart.Plot, plan_.size);
         Box flat = Box::Nothing();
         for (const double x : {0.0, plan_.size.x})
             for (const double y : {0.0, plan_.size.y})
