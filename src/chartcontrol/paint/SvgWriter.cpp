@@ -3,6 +3,7 @@
 #include "base/Units.h"
 #include "chartcontrol/paint/Dash.h"
 #include "chartcontrol/paint/Hatch.h"
+#include "chartcontrol/paint/OutlinedText.h"
 #include "chartcontrol/scene/Outline.h"
 
 #include <cmath>
@@ -254,7 +255,10 @@ private:
         QString family = font.Name;
         family.remove(QLatin1Char('\'')).remove(QLatin1Char('\\'));
         QByteArray text = " font-family=\"'" + Escaped(family) + "', " + Fallbacks + "\" font-size=\"" +
-                          Number(font.Size) + "\" fill=\"" + ColourText(font.VtColor) + '"';
+                          Number(font.Size) + '"' + Fill(IsOutlined(font), font.VtColor);
+        if (IsOutlined(font))
+            text += " stroke=\"" + ColourText(font.VtColor) + "\" stroke-width=\"" +
+                    Number(OutlineWidth(font)) + "\" stroke-linejoin=\"bevel\"";
         if ((font.Style & FontBold) != 0) text += " font-weight=\"bold\"";
         if ((font.Style & FontItalic) != 0) text += " font-style=\"italic\"";
         QByteArray lines;

@@ -82,10 +82,20 @@ Shape& SceneBuilder::Append(Part part, Geometry geometry, const Stroke& stroke, 
     return scene_.shapes.emplace_back(std::move(shape));
 }
 
+double WidthBeforeOrigin(const TextLine& text) {
+    switch (text.anchor) {
+    case TextAnchor::Start:
+        return 0;
+    case TextAnchor::Middle:
+        return text.width / 2;
+    case TextAnchor::End:
+        return text.width;
+    }
+    return 0;
+}
+
 std::array<Point, 4> CornersOf(const TextLine& text) {
-    const double before = text.anchor == TextAnchor::Start    ? 0
-                          : text.anchor == TextAnchor::Middle ? text.width / 2
-                                                              : text.width;
+    const double before = WidthBeforeOrigin(text);
     const double radians = text.angle * std::numbers::pi / 180;
     const double cosine = std::cos(radians);
     const double sine = std::sin(radians);
