@@ -39,8 +39,8 @@ Fit FitOf(const CsvRecords& table, char separator, bool hasHeader, bool hasRowLa
     for (qsizetype row = 0; row < table.records.size(); ++row) {
         const QList<QByteArray>& record = table.records[row].cells;
         even += record.size() == fit.columns ? 1 : 0;
-        for (qsizetype column = hasRowLabels ? 1 : 0; row >= (hasHeader ? 1 : 0) && column < record.size();
-             ++column) {
+        if (hasHeader && row == 0) continue;
+        for (qsizetype column = hasRowLabels ? 1 : 0; column < record.size(); ++column) {
             cells += 1;
             numbers += IsNumber(record[column], separator) ? 1 : 0;
         }

@@ -1,7 +1,7 @@
 #include "automation/ChartSize.h"
 
 #include "base/ProcessState.h"
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "viewer/GraphForm.h"
 

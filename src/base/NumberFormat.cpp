@@ -65,7 +65,9 @@ private:
 
     QString Literals() {
         QString text;
-        for (bool quoted = false; at_ < format_.size() && (quoted || !BeginsNumber()); ++at_) {
+        bool quoted = false;
+        for (; at_ < format_.size(); ++at_) {
+            if (!quoted && BeginsNumber()) break;
             const QChar character = format_[at_];
             if (character == u'"') {
                 quoted = !quoted;

@@ -37,8 +37,9 @@ template<class T>
 bool HoldsDecimals(const Array<T>& table, int rows, int columns) {
     if (NeverHoldsPoint<T>()) {
         // The first element outside is the first one missing in row 1, or the first row that is missing.
-        for (int column = 1; rows > 0 && column <= columns; ++column) static_cast<void>(table.At(1, column));
-        for (int row = 1; columns > 0 && row <= rows; ++row) static_cast<void>(table.At(row, 1));
+        if (rows <= 0 || columns <= 0) return false;
+        for (int column = 1; column <= columns; ++column) static_cast<void>(table.At(1, column));
+        for (int row = 1; row <= rows; ++row) static_cast<void>(table.At(row, 1));
         return false;
     }
     if constexpr (!std::is_integral_v<T>)

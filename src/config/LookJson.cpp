@@ -50,17 +50,9 @@ QJsonObject ToJson(const Look::Record& record) {
 }
 
 FieldValue FromJson(const QJsonValue& json, FieldKind kind, const QString& field) {
-    switch (json.type()) {
-    case QJsonValue::String:
-        return ToKind(json.toString(), kind, field);
-    case QJsonValue::Bool:
-        return ToKind(json.toBool(), kind, field);
-    case QJsonValue::Double:
-        if (kind != FieldKind::Boolean) return FromDriver(json.toDouble(), kind, field);
-        break;
-    default:
-        break;
-    }
+    if (json.isString()) return ToKind(json.toString(), kind, field);
+    if (json.isBool()) return ToKind(json.toBool(), kind, field);
+    if (json.isDouble()) return NumberToKind(json.toDouble(), kind, field);
     throw RuntimeError(
         ErrorNumber::TypeMismatch,
         QStringLiteral("field \"%1\" takes a text, a number, true or false as its kind is").arg(field));

@@ -38,7 +38,6 @@ public:
     void Commit();
     /// Ends what was begun, keeping what was written, where an error is already on its way.
     void CommitQuietly() noexcept;
-    [[nodiscard]] bool IsWriting() const { return writing_; }
 
 private:
     void Open();

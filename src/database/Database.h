@@ -49,9 +49,6 @@ public:
         Connection& connection_;
     };
 
-    /// Ends the connection; recordsets are of no use any more.
-    void Close() { connection_.reset(); }
-
 private:
     const Schema& schema_;
     std::unique_ptr<Connection> connection_;

@@ -37,22 +37,6 @@ float ToReal(double number, const QString& field) {
     return real;
 }
 
-FieldValue ToNumberKind(double number, FieldKind kind, const QString& field) {
-    switch (kind) {
-    case FieldKind::Text:
-        RaiseMismatch(field, "text");
-    case FieldKind::Boolean:
-        RaiseMismatch(field, "true or false");
-    case FieldKind::Integer:
-        return ToWhole<std::int16_t>(number, field);
-    case FieldKind::Long:
-        return ToWhole<std::int32_t>(number, field);
-    case FieldKind::Real:
-        return ToReal(number, field);
-    }
-    RaiseMismatch(field, "another kind");
-}
-
 FieldValue ToTextKind(const QString& text, FieldKind kind, const QString& field) {
     if (kind != FieldKind::Text)
         RaiseMismatch(field, kind == FieldKind::Boolean ? "true or false" : "numbers");
@@ -71,6 +55,22 @@ FieldValue ToTruthKind(bool truth, FieldKind kind, const QString& field) {
 
 } // namespace
 
+FieldValue NumberToKind(double number, FieldKind kind, const QString& field) {
+    switch (kind) {
+    case FieldKind::Text:
+        RaiseMismatch(field, "text");
+    case FieldKind::Boolean:
+        RaiseMismatch(field, "true or false");
+    case FieldKind::Integer:
+        return ToWhole<std::int16_t>(number, field);
+    case FieldKind::Long:
+        return ToWhole<std::int32_t>(number, field);
+    case FieldKind::Real:
+        return ToReal(number, field);
+    }
+    RaiseMismatch(field, "another kind");
+}
+
 FieldValue ToKind(const FieldValue& value, FieldKind kind, const QString& field) {
     return std::visit(
         [&](const auto& held) -> FieldValue {
@@ -80,7 +80,7 @@ FieldValue ToKind(const FieldValue& value, FieldKind kind, const QString& field)
             else if constexpr (std::is_same_v<Held, bool>)
                 return ToTruthKind(held, kind, field);
             else
-                return ToNumberKind(static_cast<double>(held), kind, field);
+                return NumberToKind(static_cast<double>(held), kind, field);
         },
         value);
 }
@@ -100,7 +100,7 @@ FieldValue FromDriver(const QVariant& stored, FieldKind kind, const QString& fie
     case QMetaType::Float:
         // An embedded file keeps truth as a number.
         if (kind == FieldKind::Boolean) return stored.toDouble() != 0;
-        return ToNumberKind(stored.toDouble(), kind, field);
+        return NumberToKind(stored.toDouble(), kind, field);
     default:
         RaiseMismatch(field, "text, truth or numbers");
     }

@@ -6,10 +6,6 @@
 
 namespace QmChart6 {
 
-std::int32_t NumberOf(const QColor& colour) {
-    return colour.red() | colour.green() << 8 | colour.blue() << 16;
-}
-
 ColourBox::ColourBox(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

@@ -1,16 +1,9 @@
 #pragma once
 
-#include "chartcontrol/model/Drawing.h"
-
 #include <QColor>
 #include <QWidget>
 
-#include <cstdint>
-
 namespace QmChart6 {
-
-/// A colour as one number: red in the low byte, then green, then blue.
-std::int32_t NumberOf(const QColor& colour);
 
 /// A small framed box that shows a colour, and holds it.
 class ColourBox : public QWidget {

@@ -189,8 +189,7 @@ void GraphSeriesProperties::FillTypes() {
 void GraphSeriesProperties::WriteBack(Series& series, QString& label) const {
     label = txtName_->text();
     series.SeriesType = ToSeriesType(SeriesType());
-    const QColor& fill = pbColor_->BackColor();
-    series.StatLine.VtColor.Set(fill.red(), fill.green(), fill.blue());
+    series.StatLine.VtColor = ColourOf(pbColor_->BackColor());
     series.StatLine.Flag = Bit(*chkReg_, StatRegression) + Bit(*chkStdDev_, StatStandardDeviation) +
                            Bit(*chkMean_, StatMean) + Bit(*chkMax_, StatMaximum) + Bit(*chkMin_, StatMinimum);
     DataPoint& points = series.DataPoints.Item(DataPoints::All);
@@ -199,14 +198,12 @@ void GraphSeriesProperties::WriteBack(Series& series, QString& label) const {
 }
 
 void GraphSeriesProperties::WriteBrush(Brush& brush) const {
-    const QColor& fill = pbColor_->BackColor();
-    const QColor& pattern = pbStyleColor_->BackColor();
     // Solid first, so that a control which fills nothing takes the fill colour too.
     brush.Style = BrushStyle::Solid;
-    brush.FillColor.Set(fill.red(), fill.green(), fill.blue());
+    brush.FillColor = ColourOf(pbColor_->BackColor());
     brush.Style = ToBrushStyle(QmStyle());
     brush.Index = QmIndex();
-    brush.PatternColor.Set(pattern.red(), pattern.green(), pattern.blue());
+    brush.PatternColor = ColourOf(pbStyleColor_->BackColor());
 }
 
 void GraphSeriesProperties::WriteLabels(DataPointLabel& label) const {
@@ -268,13 +265,7 @@ void GraphSeriesProperties::SetSeriesType(std::int16_t type) {
 }
 
 void GraphSeriesProperties::ShowColours() {
-    const QColor& fill = pbColor_->BackColor();
-    const QColor& pattern = pbStyleColor_->BackColor();
-    Colour fillColour;
-    Colour patternColour;
-    fillColour.Set(fill.red(), fill.green(), fill.blue());
-    patternColour.Set(pattern.red(), pattern.green(), pattern.blue());
-    picStyle_->SetColours(fillColour, patternColour);
+    picStyle_->SetColours(ColourOf(pbColor_->BackColor()), ColourOf(pbStyleColor_->BackColor()));
 }
 
 } // namespace QmChart6

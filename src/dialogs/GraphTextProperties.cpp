@@ -176,7 +176,7 @@ void GraphTextProperties::WriteBack(const TextElement& element, bool allowText) 
     std::uint8_t red = 0;
     std::uint8_t green = 0;
     std::uint8_t blue = 0;
-    ColorToRGB(NumberOf(CDLabel_.colour), red, green, blue);
+    ColorToRGB(NumberOf(ColourOf(CDLabel_.colour)), red, green, blue);
     font.VtColor.Set(red, green, blue);
     // Written whatever is allowed, from the controls as they stand. A list that was never set has nothing to
     // say, so the element's own alignment stays.

@@ -130,8 +130,7 @@ std::vector<GraphTypesRow> SettingRows(const GraphTypesControls& form) {
         form.cbPiePos, [](const Chart& chart) { return static_cast<int>(chart.Plot.SubPlotLabelPosition); },
         SetPieLabelPosition));
     rows.push_back(Choice(
-        form.pbBackColor,
-        [](const Chart& chart) { return NumberOf(QtColourOf(chart.Backdrop.Fill.Brush.FillColor)); },
+        form.pbBackColor, [](const Chart& chart) { return NumberOf(chart.Backdrop.Fill.Brush.FillColor); },
         SetBackgroundColor));
     rows.push_back(Choice(
         form.cb3DPerspective, [](const Chart& chart) { return static_cast<int>(chart.Plot.Projection); },
@@ -155,7 +154,7 @@ int ValueOf(const QWidget& box) {
         return check->checkState() == Qt::PartiallyChecked ? Gray : (check->isChecked() ? 1 : 0);
     if (const auto* list = qobject_cast<const QComboBox*>(&box)) return list->currentData().toInt();
     const auto* colour = qobject_cast<const ColourBox*>(&box);
-    return colour == nullptr ? 0 : NumberOf(colour->BackColor());
+    return colour == nullptr ? 0 : NumberOf(ColourOf(colour->BackColor()));
 }
 
 void ShowValue(QWidget& box, int value) {

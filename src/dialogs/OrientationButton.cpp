@@ -19,11 +19,14 @@ QPainterPath Letters(const QFont& like, bool stacked, double size) {
     font.setBold(true);
     const QString letters = QStringLiteral("ABC");
     QPainterPath path;
-    if (!stacked) path.addText(0, 0, font, letters);
-    for (int at = 0; stacked && at < letters.size(); ++at) {
-        QPainterPath letter;
-        letter.addText(0, at * LineHeight, font, QString(letters[at]));
-        path.addPath(letter.translated(-letter.boundingRect().center().x(), 0));
+    if (stacked) {
+        for (int at = 0; at < letters.size(); ++at) {
+            QPainterPath letter;
+            letter.addText(0, at * LineHeight, font, QString(letters[at]));
+            path.addPath(letter.translated(-letter.boundingRect().center().x(), 0));
+        }
+    } else {
+        path.addText(0, 0, font, letters);
     }
     const QRectF box = path.boundingRect();
     const double scale = size / std::max(box.width(), box.height());

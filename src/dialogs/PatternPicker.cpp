@@ -1,6 +1,6 @@
 #include "dialogs/PatternPicker.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/scene/SceneBuilder.h"
 #include "text/LocalText.h"

@@ -1,6 +1,6 @@
 #include "dialogs/PropertyDialog.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "desktop/CurrentDesktop.h"
 #include "dialogs/FootButton.h"
 #include "dialogs/Mnemonics.h"

@@ -1,6 +1,6 @@
 #include "viewer/PrintChart.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/layout/Layout.h"
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"

@@ -1,6 +1,6 @@
 #include "viewer/ViewerToolBar.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "text/LocalText.h"
 #include "viewer/BarIcon.h"
 

@@ -1,7 +1,9 @@
+#include "base/Units.h"
 #include "chartcontrol/layout/Layout.h"
-#include "chartcontrol/scene/SceneJson.h"
 #include "support/Golden.h"
 #include "support/SampleCharts.h"
+#include "support/SceneJson.h"
+#include "support/StubTextMeasurer.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,7 +35,9 @@ class SceneGolden : public testing::TestWithParam<Samples::Sample> {};
 TEST_P(SceneGolden, IsLaidOutAsBefore) {
     const Samples::Sample& sample = GetParam();
     const Scene scene =
-        LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer()).scene;
+        LayOut(sample.make(), {{sample.width * PointsPerPixel, sample.height * PointsPerPixel}},
+               StubTextMeasurer())
+            .scene;
     const QByteArray dump = DumpScene(scene);
     ExpectGolden(QStringLiteral(QMCHART6_SOURCE_DIR "/tests/golden/scenes/%1.json")
                      .arg(QString::fromStdString(sample.name)),
@@ -42,8 +46,10 @@ TEST_P(SceneGolden, IsLaidOutAsBefore) {
 
 TEST_P(SceneGolden, IsReadBackAsItWasDumped) {
     const Samples::Sample& sample = GetParam();
-    const QByteArray dump = DumpScene(
-        LayOut(sample.make(), {{sample.width * 0.75, sample.height * 0.75}}, StubTextMeasurer()).scene);
+    const QByteArray dump =
+        DumpScene(LayOut(sample.make(), {{sample.width * PointsPerPixel, sample.height * PointsPerPixel}},
+                         StubTextMeasurer())
+                      .scene);
     EXPECT_EQ(DumpScene(ReadScene(dump)).toStdString(), dump.toStdString());
 }
 

@@ -1,13 +1,14 @@
 #include "SessionPlayer.h"
 #include "automation/ViewerList.h"
 #include "chartcontrol/layout/Layout.h"
-#include "chartcontrol/scene/SceneJson.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
 #include "qmchart6/QMChartArray.h"
 #include "support/ChartDesk.h"
 #include "support/Golden.h"
 #include "support/Samples.h"
+#include "support/SceneJson.h"
+#include "support/StubTextMeasurer.h"
 #include "support/TestStore.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 #include "automation/ViewerList.h"
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Units.h"
 #include "chartcontrol/scene/HitTest.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "viewer/GraphForm.h"
@@ -28,7 +29,7 @@ inline QPoint PlaceOf(QmChart6::ChartControl& control, QmChart6::Part wanted) {
         if (const auto* line = std::get_if<Polyline>(&shape.geometry))
             for (const Point point : scene.PointsOf(line->points)) candidates.push_back(point);
         for (const Point point : candidates) {
-            const QPoint place = QPointF(point.x / 0.75, point.y / 0.75).toPoint();
+            const QPoint place = QPointF(point.x / PointsPerPixel, point.y / PointsPerPixel).toPoint();
             int found = NoPart;
             int index1 = 0;
             int index2 = 0;

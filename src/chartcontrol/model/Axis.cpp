@@ -2,15 +2,24 @@
 
 namespace QmChart6 {
 
-AxisLabels& AxisLabelLevels::Item(int level) {
+namespace {
+
+void RequireFirst(int level) {
     if (level != 1)
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("an axis has one level of labels, not %1").arg(level));
+}
+
+} // namespace
+
+AxisLabels& AxisLabelLevels::Item(int level) {
+    RequireFirst(level);
     return first_;
 }
 
 const AxisLabels& AxisLabelLevels::Item(int level) const {
-    return const_cast<AxisLabelLevels*>(this)->Item(level); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    RequireFirst(level);
+    return first_;
 }
 
 } // namespace QmChart6

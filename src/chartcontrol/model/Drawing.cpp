@@ -17,4 +17,14 @@ void Colour::Set(int red, int green, int blue) {
     *this = {Component(red), Component(green), Component(blue)};
 }
 
+QByteArray ColourText(Colour colour) {
+    constexpr const char* digits = "0123456789abcdef";
+    QByteArray text("#");
+    for (const std::uint8_t component : {colour.Red, colour.Green, colour.Blue}) {
+        text += digits[component >> 4];
+        text += digits[component & 15];
+    }
+    return text;
+}
+
 } // namespace QmChart6

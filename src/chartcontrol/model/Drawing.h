@@ -2,6 +2,7 @@
 
 #include "chartcontrol/model/Enumerations.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
@@ -19,6 +20,14 @@ struct Colour {
 
     friend bool operator==(const Colour&, const Colour&) = default;
 };
+
+/// The colour as one number: red in the low byte, then green, then blue.
+[[nodiscard]] constexpr std::int32_t NumberOf(Colour colour) {
+    return colour.Red | colour.Green << 8 | colour.Blue << 16;
+}
+
+/// The colour as "#rrggbb".
+[[nodiscard]] QByteArray ColourText(Colour colour);
 
 /// A line's look. Width in points.
 struct Pen {

@@ -23,9 +23,6 @@ PenStyle ToPenStyle(int number) {
 BrushStyle ToBrushStyle(int number) {
     return InRange(number, BrushStyle::Hatch, "a brush style");
 }
-FrameStyle ToFrameStyle(int number) {
-    return InRange(number, FrameStyle::ThickOuter, "a frame style");
-}
 LocationType ToLocationType(int number) {
     return InRange(number, LocationType::Custom, "a location type");
 }

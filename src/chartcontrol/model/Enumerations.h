@@ -116,7 +116,6 @@ inline constexpr int HatchCount = 6;
 /// The enumeration's value of a plain number; a number that it does not have raises error 380.
 PenStyle ToPenStyle(int number);
 BrushStyle ToBrushStyle(int number);
-FrameStyle ToFrameStyle(int number);
 LocationType ToLocationType(int number);
 LabelLocation ToLabelLocation(int number);
 LabelLineStyle ToLabelLineStyle(int number);

@@ -2,6 +2,20 @@
 
 namespace QmChart6 {
 
+namespace {
+
+std::size_t PlaceOfAxis(int id, int index) {
+    if (id < 0 || id > static_cast<int>(AxisId::Z))
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall,
+                           QStringLiteral("an axis id is a number from 0 to 3, not %1").arg(id));
+    if (index != 1)
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("there is one axis of each id, not %1").arg(index));
+    return static_cast<std::size_t>(id);
+}
+
+} // namespace
+
 Plot::Plot() {
     for (QmChart6::Axis& axis : axes_) axis.AxisTitle.VtFont.Size = 10;
     Axis(AxisId::Y).AxisGrid.MajorPen.Style = PenStyle::Solid;
@@ -11,17 +25,11 @@ Plot::Plot() {
 }
 
 QmChart6::Axis& Plot::Axis(int id, int index) {
-    if (id < 0 || id > static_cast<int>(AxisId::Z))
-        throw RuntimeError(ErrorNumber::InvalidProcedureCall,
-                           QStringLiteral("an axis id is a number from 0 to 3, not %1").arg(id));
-    if (index != 1)
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
-                           QStringLiteral("there is one axis of each id, not %1").arg(index));
-    return axes_[static_cast<std::size_t>(id)];
+    return axes_[PlaceOfAxis(id, index)];
 }
 
 const QmChart6::Axis& Plot::Axis(int id, int index) const {
-    return const_cast<Plot*>(this)->Axis(id, index); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    return axes_[PlaceOfAxis(id, index)];
 }
 
 } // namespace QmChart6

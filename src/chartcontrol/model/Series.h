@@ -54,8 +54,6 @@ public:
     /// The look that point `index` is drawn with.
     [[nodiscard]] const DataPoint& Item(int index) const;
     [[nodiscard]] bool HasOwn() const { return !own_.empty(); }
-    /// Every point takes the look of all again.
-    void ResetOwn() { own_.clear(); }
 
     friend bool operator==(const DataPoints&, const DataPoints&) = default;
 

@@ -5,15 +5,19 @@
 
 namespace QmChart6 {
 
-Series& SeriesCollection::Item(int number) {
+std::size_t SeriesCollection::PlaceOf(int number) const {
     if (number < 1 || number > Count())
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("there is no series %1 among %2").arg(number).arg(Count()));
-    return series_[static_cast<std::size_t>(number) - 1];
+    return static_cast<std::size_t>(number) - 1;
+}
+
+Series& SeriesCollection::Item(int number) {
+    return series_[PlaceOf(number)];
 }
 
 const Series& SeriesCollection::Item(int number) const {
-    return const_cast<SeriesCollection*>(this)->Item(number); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    return series_[PlaceOf(number)];
 }
 
 void SeriesCollection::Resize(int count, ChartType type) {

@@ -27,6 +27,8 @@ public:
     friend bool operator==(const SeriesCollection&, const SeriesCollection&) = default;
 
 private:
+    [[nodiscard]] std::size_t PlaceOf(int number) const;
+
     std::vector<Series> series_;
 };
 

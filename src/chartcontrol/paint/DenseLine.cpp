@@ -1,5 +1,7 @@
 #include "chartcontrol/paint/DenseLine.h"
 
+#include "chartcontrol/paint/QtColour.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -31,7 +33,7 @@ void DenseLine::Draw(std::span<const Point> points, double width, Colour colour)
     const int whole = static_cast<int>(beside + 0.01);
     const double part = beside - whole;
     const auto half = static_cast<float>(pixels / 2);
-    const QRgb rgb = qRgb(colour.Red, colour.Green, colour.Blue);
+    const QRgb rgb = RgbOf(colour);
     if (part > 0.02) FillColumns(Widened(whole + 1), half, rgb, static_cast<float>(part));
     FillColumns(Widened(whole), half, rgb, 1);
 }

@@ -1,6 +1,6 @@
 #include "chartcontrol/paint/EmfRecords.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 
 #include <algorithm>
 #include <array>
@@ -37,7 +37,7 @@ enum RecordType : std::uint32_t {
     ExtCreatePen = 95,
 };
 
-constexpr double UnitsPerPoint = 20;
+constexpr double UnitsPerPoint = TwipsPerPoint;
 constexpr int HeaderSize = 108;
 /// Where the header keeps what is known at the end only.
 constexpr int OffsetOfBytes = 48;
@@ -47,13 +47,6 @@ constexpr int OffsetOfHandles = 56;
 /// The device that the file says it was made for: 96 pixels to the inch.
 constexpr int DeviceWidth = 1920;
 constexpr int DeviceHeight = 1080;
-constexpr double MillimetresPerInch = 25.4;
-constexpr double DotsPerInch = 96;
-constexpr double PointsPerInch = 72;
-
-std::uint32_t ColourNumber(Colour colour) {
-    return static_cast<std::uint32_t>(colour.Red | colour.Green << 8 | colour.Blue << 16);
-}
 
 void Put32(QByteArray& bytes, qsizetype at, std::uint32_t value) {
     for (int i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> (8 * i) & 0xff);
@@ -103,10 +96,7 @@ public:
             Rect(0, 0, -1, -1);
             return;
         }
-        Box box{points[0].x, points[0].y, points[0].x, points[0].y};
-        for (const Point& point : points)
-            box = {std::min(box.left, point.x), std::min(box.top, point.y), std::max(box.right, point.x),
-                   std::max(box.bottom, point.y)};
+        const Box box = Box::Around(points);
         Rect(Unit(box.left), Unit(box.top), Unit(box.right), Unit(box.bottom));
     }
     /// UTF-16 in a field of so many units, zeros behind.
@@ -164,13 +154,13 @@ void EmfRecords::Header(const Size& size) {
     record.U32(0); // no palette
     record.U32(DeviceWidth);
     record.U32(DeviceHeight);
-    record.U32(static_cast<std::uint32_t>(std::lround(DeviceWidth / DotsPerInch * MillimetresPerInch)));
-    record.U32(static_cast<std::uint32_t>(std::lround(DeviceHeight / DotsPerInch * MillimetresPerInch)));
+    record.U32(static_cast<std::uint32_t>(std::lround(DeviceWidth / PixelsPerInch * MillimetresPerInch)));
+    record.U32(static_cast<std::uint32_t>(std::lround(DeviceHeight / PixelsPerInch * MillimetresPerInch)));
     record.Zeros(12); // no pixel format
     record.U32(
-        static_cast<std::uint32_t>(std::lround(DeviceWidth / DotsPerInch * MillimetresPerInch * 1000)));
+        static_cast<std::uint32_t>(std::lround(DeviceWidth / PixelsPerInch * MillimetresPerInch * 1000)));
     record.U32(
-        static_cast<std::uint32_t>(std::lround(DeviceHeight / DotsPerInch * MillimetresPerInch * 1000)));
+        static_cast<std::uint32_t>(std::lround(DeviceHeight / PixelsPerInch * MillimetresPerInch * 1000)));
     static_assert(HeaderSize == 108);
 }
 
@@ -223,7 +213,7 @@ std::uint32_t EmfRecords::CreatePen(Colour colour, double width) {
     record.U32(geometric | flatEnds);
     record.U32(static_cast<std::uint32_t>(std::max(1, Unit(width))));
     record.U32(0); // solid
-    record.U32(ColourNumber(colour));
+    record.U32(static_cast<std::uint32_t>(NumberOf(colour)));
     record.U32(0);
     record.U32(0);
     return handles_++;
@@ -233,7 +223,7 @@ std::uint32_t EmfRecords::CreateBrush(Colour colour) {
     Record record(*this, CreateBrushIndirect);
     record.U32(handles_);
     record.U32(0); // solid
-    record.U32(ColourNumber(colour));
+    record.U32(static_cast<std::uint32_t>(NumberOf(colour)));
     record.U32(0);
     return handles_++;
 }
@@ -307,7 +297,7 @@ void EmfRecords::Text(const QString& text, Point origin, TextAnchor anchor, Colo
                                                                                : right);
     if (alignment != alignment_) Number(SetTextAlign, alignment);
     alignment_ = alignment;
-    Number(SetTextColor, ColourNumber(colour));
+    Number(SetTextColor, static_cast<std::uint32_t>(NumberOf(colour)));
     constexpr std::uint32_t textOffset = 76;
     const auto units = static_cast<std::uint32_t>(text.size());
     const std::uint32_t advanceOffset = textOffset + (2 * units + 3) / 4 * 4;

@@ -3,6 +3,7 @@
 #include "chartcontrol/paint/Dash.h"
 #include "chartcontrol/paint/EmfRecords.h"
 #include "chartcontrol/paint/Hatch.h"
+#include "chartcontrol/paint/OutlinedText.h"
 #include "chartcontrol/scene/Outline.h"
 
 #include <algorithm>
@@ -60,6 +61,10 @@ public:
     void operator()(const Slice& slice) { Filled(SliceOutline(slice)); }
 
     void operator()(const TextLine& text) {
+        if (IsOutlined(text.font)) {
+            Outlined(text);
+            return;
+        }
         using Key = std::pair<Font, double>;
         Font font = text.font;
         font.VtColor = {};
@@ -141,6 +146,14 @@ private:
             file_.Polygon(outline);
         }
         if (IsDashed(stroke.style)) Stroked(outline, true);
+    }
+
+    void Outlined(const TextLine& text) {
+        Gathered letters;
+        for (const std::vector<Point>& outline : LetterOutlines(text)) letters.Add(outline);
+        SelectBrush(EmfRecords::StockNoBrush);
+        SelectPen(PenOf(text.font.VtColor, OutlineWidth(text.font)));
+        file_.PolyPolygon(letters.points, letters.runs);
     }
 
     void Pieces(const HatchPieces& pieces, std::span<const Point> outline) {

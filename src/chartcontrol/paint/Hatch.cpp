@@ -41,16 +41,6 @@ Frame2D FrameOf(LineFamily::Direction direction) {
     return {};
 }
 
-Box Enclosing(std::span<const Point> outline) {
-    constexpr double Infinity = std::numeric_limits<double>::infinity();
-    Box box{Infinity, Infinity, -Infinity, -Infinity};
-    for (const Point point : outline) {
-        box = {std::min(box.left, point.x), std::min(box.top, point.y), std::max(box.right, point.x),
-               std::max(box.bottom, point.y)};
-    }
-    return box;
-}
-
 /// Whether the outline is an upright rectangle, which most are and which is cut without any polygon.
 bool IsBox(std::span<const Point> outline) {
     if (outline.size() != 4) return false;
@@ -100,7 +90,7 @@ double AreaOf(std::span<const Point> polygon) {
 class Hatcher {
 public:
     Hatcher(std::span<const Point> outline, HatchPieces& pieces)
-        : outline_(outline.begin(), outline.end()), bounds_(Enclosing(outline)), isBox_(IsBox(outline)),
+        : outline_(outline.begin(), outline.end()), bounds_(Box::Around(outline)), isBox_(IsBox(outline)),
           pieces_(pieces) {}
 
     void Draw(HatchDesign design);
@@ -237,7 +227,7 @@ void Hatcher::DrawDotRow(const DotGrid& grid, int row) {
         Cut(outline_, {{0, 1}, bottom}, spare_);
         Cut(spare_, {{0, -1}, -top}, band_);
         if (band_.empty()) return;
-        band = Enclosing(band_);
+        band = Box::Around(band_);
     }
     const double shift = (row & 1) != 0 ? grid.columnPeriod / 2 : 0;
     const auto first = static_cast<int>(std::floor((band.left - shift - grid.side) / grid.columnPeriod));
@@ -263,7 +253,7 @@ void Hatcher::DrawDotRow(const DotGrid& grid, int row) {
 void Hatcher::AddPolygon(const std::vector<Point>& polygon) {
     if (polygon.size() < 3) return;
     if (IsBox(polygon)) {
-        pieces_.boxes.push_back(Enclosing(polygon));
+        pieces_.boxes.push_back(Box::Around(polygon));
         return;
     }
     pieces_.polygons.push_back({pieces_.points.size(), polygon.size()});

@@ -1,6 +1,6 @@
 #include "chartcontrol/paint/PictureFormat.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/paint/BitmapWriter.h"
 #include "chartcontrol/paint/EmfWriter.h"
 #include "chartcontrol/paint/PdfWriter.h"

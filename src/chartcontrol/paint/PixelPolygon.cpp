@@ -1,5 +1,7 @@
 #include "chartcontrol/paint/PixelPolygon.h"
 
+#include "chartcontrol/paint/QtColour.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -15,14 +17,6 @@ constexpr int Rim = 2;
 /// What a whole pixel counts; a little more than 256, so that sums that miss the whole by rounding are whole.
 constexpr float FullCoverage = 256.4F;
 
-Box BoundsOf(std::span<const Point> outline, double grownBy) {
-    Box box{1e300, 1e300, -1e300, -1e300};
-    for (const Point& point : outline)
-        box = {std::min(box.left, point.x), std::min(box.top, point.y), std::max(box.right, point.x),
-               std::max(box.bottom, point.y)};
-    return box.Grown(grownBy);
-}
-
 } // namespace
 
 bool PixelPolygon::Takes(const Box& bounds) const {
@@ -37,7 +31,7 @@ bool PixelPolygon::Takes(const Box& bounds) const {
 
 void PixelPolygon::Fill(std::span<const Point> outline, Colour colour) {
     if (outline.size() < 3) return;
-    Begin(BoundsOf(outline, 0));
+    Begin(Box::Around(outline));
     Place before = PlaceOf(outline.back());
     for (const Point& point : outline) {
         const Place place = PlaceOf(point);
@@ -56,7 +50,7 @@ void PixelPolygon::Chain(std::span<const Point> points, double width, Colour col
     for (std::size_t i = 1; i < points.size(); ++i) {
         // At a join segments meet half way round the corner; at the ends of the chain they are flat.
         const bool inner = points.size() > 2;
-        Begin(BoundsOf(std::array{points[i - 1], points[i]}, width));
+        Begin(Box::Around(std::array{points[i - 1], points[i]}).Grown(width));
         Quad(PlaceOf(points[i - 1]), PlaceOf(points[i]), half, inner ? half / 2 : 0);
         Sweep(colour);
     }
@@ -68,7 +62,7 @@ void PixelPolygon::Outline(std::span<const Point> outline, double width, Colour 
     const auto half = static_cast<float>(width * target_.Scale() / 2);
     Point before = outline.back();
     for (const Point& point : outline) {
-        Begin(BoundsOf(std::array{before, point}, width));
+        Begin(Box::Around(std::array{before, point}).Grown(width));
         Quad(PlaceOf(before), PlaceOf(point), half, half);
         Sweep(colour);
         before = point;
@@ -170,7 +164,7 @@ void PixelPolygon::Quad(Place from, Place to, float half, float beyond) {
 }
 
 void PixelPolygon::Sweep(Colour colour) {
-    const QRgb rgb = qRgb(colour.Red, colour.Green, colour.Blue);
+    const QRgb rgb = RgbOf(colour);
     for (int row = 0; row < height_; ++row) {
         const Touched& touched = rows_[static_cast<std::size_t>(row)];
         float* sums = sums_.data() + static_cast<std::ptrdiff_t>(row) * width_;

@@ -8,9 +8,9 @@
 namespace QmChart6 {
 
 std::optional<PixelTarget> PixelTarget::Of(QPainter& painter, double unit) {
-    const QPaintDevice* device = painter.device();
+    QPaintDevice* device = painter.device();
     if (device == nullptr || device->devType() != QInternal::Image) return {};
-    const auto* image = static_cast<const QImage*>(device);
+    auto* image = static_cast<QImage*>(device);
     const bool format = image->format() == QImage::Format_RGB32;
     const QTransform toDevice = painter.deviceTransform();
     const bool upright = toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 && toDevice.m22() > 0;
@@ -18,8 +18,9 @@ std::optional<PixelTarget> PixelTarget::Of(QPainter& painter, double unit) {
                        painter.compositionMode() == QPainter::CompositionMode_SourceOver;
     if (!format || !upright || !plain) return {};
     PixelTarget target;
-    // The painter's own way to the pixels: the image is not to be detached from what it draws into.
-    target.pixels_ = reinterpret_cast<QRgb*>(const_cast<uchar*>(image->constBits())); // NOLINT
+    // An image that is painted on shares its pixels with no other, so these are the ones that the painter
+    // draws into.
+    target.pixels_ = reinterpret_cast<QRgb*>(image->bits());
     target.stride_ = image->bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
     target.width_ = image->width();
     target.height_ = image->height();

@@ -1,5 +1,7 @@
 #include "chartcontrol/paint/QtTextMeasurer.h"
 
+#include "base/Units.h"
+
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHash>
@@ -16,15 +18,13 @@ constexpr qsizetype GreatestCache = 2048; // widths kept for each face
 
 /// The resolution that Qt takes for fonts that are not for a certain device.
 int ScreenDotsPerInch() {
-    constexpr int Usual = 96;
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? qRound(screen->logicalDotsPerInchY()) : Usual;
+    return screen != nullptr ? qRound(screen->logicalDotsPerInchY()) : static_cast<int>(PixelsPerInch);
 }
 
 } // namespace
 
 QFont QtFontOf(const Font& font, double scale, int dotsPerInch) {
-    constexpr double PointsPerInch = 72;
     constexpr double LeastSize = 0.01;
     QFont result(font.Name);
     // setPixelSize takes whole pixels only; points of the device's own resolution say the same with

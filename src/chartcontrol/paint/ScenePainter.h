@@ -64,7 +64,6 @@ private:
     [[nodiscard]] QRectF SnappedDot(const Box& box, const QRectF& within) const;
     bool DrawInPixels(std::span<const Point> outline);
     void StrokeRect(const QRectF& rect);
-    void DrawOutlinedText(const TextLine& text);
     void DrawTextAtOrigin(const TextLine& text, QPointF start);
 
     const Scene& scene_;

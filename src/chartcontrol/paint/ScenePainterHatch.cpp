@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 namespace QmChart6 {
 
@@ -49,10 +50,10 @@ void ScenePainter::DrawPieceLines(const HatchPieces& pieces, const QRectF& withi
             painter_.drawLine(At(line.from), At(line.to));
             continue;
         }
+        const Box thin = Box::Around(std::array{line.from, line.to});
         const double x = upright ? half : 0;
         const double y = upright ? 0 : half;
-        const Box box{std::min(line.from.x, line.to.x) - x, std::min(line.from.y, line.to.y) - y,
-                      std::max(line.from.x, line.to.x) + x, std::max(line.from.y, line.to.y) + y};
+        const Box box{thin.left - x, thin.top - y, thin.right + x, thin.bottom + y};
         painter_.fillRect(SnappedDot(box, within), ink);
     }
 }

@@ -1,7 +1,9 @@
 #include "chartcontrol/paint/MarkerStamps.h"
+#include "chartcontrol/paint/OutlinedText.h"
 #include "chartcontrol/paint/QtColour.h"
 #include "chartcontrol/paint/ScenePainter.h"
 #include "chartcontrol/scene/Outline.h"
+#include "chartcontrol/scene/SceneBuilder.h"
 
 #include <QPainter>
 
@@ -34,23 +36,6 @@ QPainterPath MarkerPath(const MarkerRun& run, double scale) {
     return path;
 }
 
-/// The line that outlined letters are drawn with, in points.
-double OutlineWidth(const Font& font) {
-    return font.Size / 30;
-}
-
-double WidthBeforeOrigin(const TextLine& text) {
-    switch (text.anchor) {
-    case TextAnchor::Start:
-        return 0;
-    case TextAnchor::Middle:
-        return text.width / 2;
-    case TextAnchor::End:
-        return text.width;
-    }
-    return 0;
-}
-
 } // namespace
 
 // --- texts
@@ -71,7 +56,7 @@ void ScenePainter::operator()(const TextLine& text) {
 }
 
 void ScenePainter::DrawTextAtOrigin(const TextLine& text, QPointF start) {
-    if ((text.font.Style & FontOutline) == 0) {
+    if (!IsOutlined(text.font)) {
         SetPen(QPen(QtColourOf(text.font.VtColor)));
         painter_.drawText(start, text.text);
         return;

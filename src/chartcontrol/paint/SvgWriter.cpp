@@ -1,8 +1,9 @@
 #include "chartcontrol/paint/SvgWriter.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/paint/Dash.h"
 #include "chartcontrol/paint/Hatch.h"
+#include "chartcontrol/paint/OutlinedText.h"
 #include "chartcontrol/scene/Outline.h"
 
 #include <cmath>
@@ -21,16 +22,6 @@ QByteArray Number(double value) {
     while (text.endsWith('0')) text.chop(1);
     if (text.endsWith('.')) text.chop(1);
     return text == "-0" ? QByteArray("0") : text;
-}
-
-QByteArray ColourOf(Colour colour) {
-    constexpr const char* digits = "0123456789abcdef";
-    QByteArray text("#");
-    for (const std::uint8_t component : {colour.Red, colour.Green, colour.Blue}) {
-        text += digits[component >> 4];
-        text += digits[component & 15];
-    }
-    return text;
 }
 
 /// The text with what XML gives a meaning to escaped, and what it forbids left out.
@@ -210,12 +201,12 @@ private:
     }
 
     static QByteArray Fill(bool none, Colour colour) {
-        return none ? QByteArray(" fill=\"none\"") : " fill=\"" + ColourOf(colour) + '"';
+        return none ? QByteArray(" fill=\"none\"") : " fill=\"" + ColourText(colour) + '"';
     }
     [[nodiscard]] QByteArray Strokes() const {
         const Stroke& stroke = shape_->stroke;
         if (stroke.style == PenStyle::None) return {};
-        QByteArray text = " stroke=\"" + ColourOf(stroke.colour) + "\" stroke-width=\"" +
+        QByteArray text = " stroke=\"" + ColourText(stroke.colour) + "\" stroke-width=\"" +
                           Number(stroke.width) + "\" stroke-linejoin=\"round\"";
         if (IsDashed(stroke.style)) {
             QByteArray lengths;
@@ -251,7 +242,7 @@ private:
         QByteArray lines;
         for (const HatchLine& line : pieces.lines) lines += PathOf(std::array{line.from, line.to}, false);
         if (!lines.isEmpty())
-            Element("path", "d=\"" + lines + "\" fill=\"none\" stroke=\"" + ColourOf(pieces.ink) +
+            Element("path", "d=\"" + lines + "\" fill=\"none\" stroke=\"" + ColourText(pieces.ink) +
                                 "\" stroke-width=\"" + Number(pieces.lineWidth) + '"');
         QByteArray areas;
         for (const Box& box : pieces.boxes) areas += PathOf(BoxOutline(box), true);
@@ -264,7 +255,10 @@ private:
         QString family = font.Name;
         family.remove(QLatin1Char('\'')).remove(QLatin1Char('\\'));
         QByteArray text = " font-family=\"'" + Escaped(family) + "', " + Fallbacks + "\" font-size=\"" +
-                          Number(font.Size) + "\" fill=\"" + ColourOf(font.VtColor) + '"';
+                          Number(font.Size) + '"' + Fill(IsOutlined(font), font.VtColor);
+        if (IsOutlined(font))
+            text += " stroke=\"" + ColourText(font.VtColor) + "\" stroke-width=\"" +
+                    Number(OutlineWidth(font)) + "\" stroke-linejoin=\"bevel\"";
         if ((font.Style & FontBold) != 0) text += " font-weight=\"bold\"";
         if ((font.Style & FontItalic) != 0) text += " font-style=\"italic\"";
         QByteArray lines;

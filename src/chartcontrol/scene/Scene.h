@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chartcontrol/model/Drawing.h"
+#include "chartcontrol/scene/Geometry.h"
 
 #include <QString>
 #include <QStringList>
@@ -14,38 +15,6 @@ namespace QmChart6 {
 
 // A scene is the finished picture as data: shapes in drawing order, each tagged with the chart part it shows.
 // All coordinates and widths are points (1/72 inch), x to the right and y downwards from the top left corner.
-
-struct Point {
-    double x = 0;
-    double y = 0;
-
-    friend bool operator==(const Point&, const Point&) = default;
-};
-
-struct Size {
-    double width = 0;
-    double height = 0;
-
-    friend bool operator==(const Size&, const Size&) = default;
-};
-
-/// left <= right and top <= bottom, but for an empty box that nothing was added to yet.
-struct Box {
-    double left = 0;
-    double top = 0;
-    double right = 0;
-    double bottom = 0;
-
-    [[nodiscard]] double Width() const { return right - left; }
-    [[nodiscard]] double Height() const { return bottom - top; }
-    [[nodiscard]] Point Center() const { return {(left + right) / 2, (top + bottom) / 2}; }
-    [[nodiscard]] bool Contains(Point point) const {
-        return point.x >= left && point.x <= right && point.y >= top && point.y <= bottom;
-    }
-    [[nodiscard]] Box Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
-
-    friend bool operator==(const Box&, const Box&) = default;
-};
 
 enum class PartCode {
     Chart = 0,

@@ -2,45 +2,27 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
 
 namespace QmChart6 {
 
 namespace {
 
-constexpr double Infinity = std::numeric_limits<double>::infinity();
-constexpr Box Nothing{Infinity, Infinity, -Infinity, -Infinity};
-
-void Enclose(Box& box, Point point) {
-    box.left = std::min(box.left, point.x);
-    box.right = std::max(box.right, point.x);
-    box.top = std::min(box.top, point.y);
-    box.bottom = std::max(box.bottom, point.y);
-}
-
-template<class Points>
-Box Enclosing(const Points& points) {
-    Box box = Nothing;
-    for (const Point point : points) Enclose(box, point);
-    return box;
-}
-
 struct BoundsOfGeometry {
     const Scene& scene;
     double halfStroke;
 
     Box operator()(const Polyline& line) const {
-        return Enclosing(scene.PointsOf(line.points)).Grown(halfStroke);
+        return Box::Around(scene.PointsOf(line.points)).Grown(halfStroke);
     }
     Box operator()(const Polygon& polygon) const {
-        return Enclosing(scene.PointsOf(polygon.points)).Grown(halfStroke);
+        return Box::Around(scene.PointsOf(polygon.points)).Grown(halfStroke);
     }
     Box operator()(const Rectangle& rectangle) const { return rectangle.box.Grown(halfStroke); }
     Box operator()(const Slice& slice) const { return slice.box.Grown(halfStroke); }
     Box operator()(const TextLine& text) const { return BoundsOf(text); }
     Box operator()(const MarkerRun& run) const {
-        return Enclosing(scene.PointsOf(run.points)).Grown(run.size / 2 + halfStroke);
+        return Box::Around(scene.PointsOf(run.points)).Grown(run.size / 2 + halfStroke);
     }
 };
 
@@ -100,10 +82,20 @@ Shape& SceneBuilder::Append(Part part, Geometry geometry, const Stroke& stroke, 
     return scene_.shapes.emplace_back(std::move(shape));
 }
 
+double WidthBeforeOrigin(const TextLine& text) {
+    switch (text.anchor) {
+    case TextAnchor::Start:
+        return 0;
+    case TextAnchor::Middle:
+        return text.width / 2;
+    case TextAnchor::End:
+        return text.width;
+    }
+    return 0;
+}
+
 std::array<Point, 4> CornersOf(const TextLine& text) {
-    const double before = text.anchor == TextAnchor::Start    ? 0
-                          : text.anchor == TextAnchor::Middle ? text.width / 2
-                                                              : text.width;
+    const double before = WidthBeforeOrigin(text);
     const double radians = text.angle * std::numbers::pi / 180;
     const double cosine = std::cos(radians);
     const double sine = std::sin(radians);
@@ -117,7 +109,7 @@ std::array<Point, 4> CornersOf(const TextLine& text) {
 }
 
 Box BoundsOf(const TextLine& text) {
-    return Enclosing(CornersOf(text));
+    return Box::Around(CornersOf(text));
 }
 
 SceneFill SolidFill(Colour colour) {

@@ -47,6 +47,8 @@ private:
     int clip_ = NoClip;
 };
 
+/// How much of the text's width lies before its origin.
+double WidthBeforeOrigin(const TextLine& text);
 /// The box round a turned line of text.
 Box BoundsOf(const TextLine& text);
 /// The four corners of a turned line of text, for exact hits: start-top, end-top, end-bottom, start-bottom.

@@ -1,6 +1,6 @@
 #include "chartcontrol/widget/AccessibleChart.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/layout/SelectionHandles.h"
 #include "chartcontrol/layout/data/SeriesLook.h"
 #include "chartcontrol/widget/ChartControl.h"

@@ -1,6 +1,6 @@
 #include "chartcontrol/widget/ChartControl.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/layout/Layout.h"
 #include "chartcontrol/paint/ChartMimeData.h"
 #include "chartcontrol/paint/PaintScene.h"

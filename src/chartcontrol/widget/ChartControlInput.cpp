@@ -1,4 +1,4 @@
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/layout/data/DataPointHit.h"
 #include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/widget/ChartControl.h"

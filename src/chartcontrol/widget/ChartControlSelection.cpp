@@ -1,8 +1,7 @@
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/layout/SelectionHandles.h"
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/widget/ChartControl.h"
-#include "qmchart6/RuntimeError.h"
 
 #include <QPainter>
 
@@ -13,7 +12,7 @@ namespace QmChart6 {
 void ChartControl::TwipsToChartPart(int x, int y, int& part, int& index1, int& index2, int& index3,
                                     int& index4) {
     const bool isInside = x >= 0 && y >= 0 && x < TwipsOfPixels(width()) && y < TwipsOfPixels(height());
-    const double pointsPerTwip = PointsPerPixel / TwipsPerPixel;
+    constexpr double pointsPerTwip = 1.0 / TwipsPerPoint;
     const ChartPart found =
         isInside ? PartAt(CurrentLayout(), {x * pointsPerTwip, y * pointsPerTwip}) : ChartPart{};
     part = found.part;
@@ -50,12 +49,7 @@ void ChartControl::Select(const ChartPart& part) {
 }
 
 void ChartControl::DropSelectionThatIsGone() {
-    try {
-        RequirePart(chart_, selected_);
-    } catch (const RuntimeError&) {
-        // The series or point went with its data; that is no failure, only nothing to select any more.
-        Select({});
-    }
+    if (!HasPart(chart_, selected_)) Select({});
 }
 
 QPoint ChartControl::PlaceOfSelection() {

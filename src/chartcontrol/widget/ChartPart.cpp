@@ -7,6 +7,18 @@ namespace QmChart6 {
 
 namespace {
 
+constexpr int LastPart = static_cast<int>(PartCode::AxisTitle);
+
+bool IsOfAxis(PartCode code) {
+    return code == PartCode::Axis || code == PartCode::AxisLabel || code == PartCode::AxisTitle;
+}
+
+/// Whether index1 of such a part is a series, and index2 a data point, or below 1 all of them.
+bool IsOfData(PartCode code) {
+    return code == PartCode::Series || code == PartCode::SeriesLabel || code == PartCode::DataPoint ||
+           code == PartCode::PointLabel;
+}
+
 ChartPart AxisPart(PartCode code, int axis) {
     return {static_cast<int>(code), axis, 1, code == PartCode::AxisLabel ? 1 : 0, 0};
 }
@@ -69,20 +81,29 @@ Part ShapesOf(const ChartPart& part) {
     return {code, AnyIndex, AnyIndex};
 }
 
-void RequirePart(const Chart& chart, const ChartPart& part) {
-    if (part.IsNone()) return;
-    const auto last = static_cast<int>(PartCode::AxisTitle);
-    if (part.part < 0 || part.part > last)
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
-                           QStringLiteral("a part code is from 0 to %1, not %2").arg(last).arg(part.part));
+bool HasPart(const Chart& chart, const ChartPart& part) {
+    if (part.IsNone()) return true;
+    if (part.part < 0 || part.part > LastPart) return false;
     const auto code = static_cast<PartCode>(part.part);
-    if (code == PartCode::Axis || code == PartCode::AxisLabel || code == PartCode::AxisTitle)
+    if (IsOfAxis(code)) return part.index1 >= 0 && part.index1 <= static_cast<int>(AxisId::Z);
+    if (!IsOfData(code)) return true;
+    return part.index1 >= 1 && part.index1 <= chart.Plot.SeriesCollection.Count() &&
+           part.index2 <= chart.CategoryCount();
+}
+
+void RequirePart(const Chart& chart, const ChartPart& part) {
+    if (HasPart(chart, part)) return;
+    if (part.part < 0 || part.part > LastPart)
+        throw RuntimeError(
+            ErrorNumber::InvalidPropertyValue,
+            QStringLiteral("a part code is from 0 to %1, not %2").arg(LastPart).arg(part.part));
+    // The chart itself tells what it lacks.
+    if (IsOfAxis(static_cast<PartCode>(part.part))) {
         static_cast<void>(chart.Plot.Axis(part.index1));
-    if (part.IsOfSeries() || code == PartCode::SeriesLabel || code == PartCode::PointLabel) {
-        static_cast<void>(chart.Plot.SeriesCollection(part.index1));
-        // A point index below 1 speaks of all of them.
-        if (part.index2 > 0) static_cast<void>(chart.CategoryName(part.index2));
+        return;
     }
+    static_cast<void>(chart.Plot.SeriesCollection(part.index1));
+    static_cast<void>(chart.CategoryName(part.index2));
 }
 
 } // namespace QmChart6

@@ -32,6 +32,9 @@ ChartPart PartAt(const LaidOutChart& laidOut, Point place);
 /// The shapes of a part that is not NoPart, as Find takes them: a series' shapes whatever point is named.
 Part ShapesOf(const ChartPart& part);
 
+/// Whether the chart has the part, as it has NoPart; a series or point may have gone with its data.
+bool HasPart(const Chart& chart, const ChartPart& part);
+
 /// Raises 380 for a code that stands for no part, 9 for a series or data point and 5 for an axis that the
 /// chart does not have. NoPart is fine.
 void RequirePart(const Chart& chart, const ChartPart& part);

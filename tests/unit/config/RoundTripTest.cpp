@@ -3,9 +3,9 @@
 #include "RandomLook.h"
 #include "chart/ChartFunctions.h"
 #include "chartcontrol/layout/Layout.h"
-#include "chartcontrol/scene/SceneJson.h"
-#include "chartcontrol/scene/TextMeasurer.h"
 #include "config/LookJson.h"
+#include "support/SceneJson.h"
+#include "support/StubTextMeasurer.h"
 
 using namespace QmChart6;
 

@@ -1,7 +1,7 @@
 #include "dialogs/GraphTextProperties.h"
 
 #include "DialogsTest.h"
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/model/Chart.h"
 #include "dialogs/OrientationButton.h"
 #include "support/Raises.h"

@@ -1,3 +1,4 @@
+#include "base/Units.h"
 #include "unit/layout/LayoutSupport.h"
 
 #include "chartcontrol/scene/Outline.h"
@@ -71,7 +72,8 @@ class EveryShape : public testing::TestWithParam<Samples::Sample> {};
 
 TEST_P(EveryShape, IsHitInsideOrCoveredByOneAbove) {
     const Samples::Sample& sample = GetParam();
-    const Scene scene = LaidOut(sample.make(), {sample.width * 0.75, sample.height * 0.75});
+    const Scene scene =
+        LaidOut(sample.make(), {sample.width * PointsPerPixel, sample.height * PointsPerPixel});
     std::size_t checked = 0;
     for (std::size_t index = 0; index < scene.shapes.size(); ++index) {
         const Shape& shape = scene.shapes[index];

@@ -1,3 +1,4 @@
+#include "base/Units.h"
 #include "unit/layout/LayoutSupport.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +38,7 @@ bool Overlap(const TextLine& one, const TextLine& other) {
 class EverySample : public testing::TestWithParam<Samples::Sample> {
 protected:
     static std::vector<Size> Sizes(const Samples::Sample& sample) {
-        const Size own{sample.width * 0.75, sample.height * 0.75};
+        const Size own{sample.width * PointsPerPixel, sample.height * PointsPerPixel};
         if (own.width < 150) return {own};
         return {own, {own.width * 2, own.height * 2}, {own.width, own.height * 0.7}, {300, 225}};
     }

@@ -4,6 +4,7 @@
 #include "chartcontrol/scene/HitTest.h"
 #include "chartcontrol/scene/SceneBuilder.h"
 #include "support/SampleCharts.h"
+#include "support/StubTextMeasurer.h"
 
 #include <variant>
 #include <vector>

@@ -1,3 +1,4 @@
+#include "base/Units.h"
 #include "unit/layout/LayoutSupport.h"
 
 #include <gtest/gtest.h>
@@ -112,7 +113,8 @@ class EveryPoint : public testing::TestWithParam<Samples::Sample> {};
 TEST_P(EveryPoint, IsFoundAtItsPlace) {
     const Samples::Sample& sample = GetParam();
     const Chart chart = sample.make();
-    const LaidOutChart laidOut = LaidOutWhole(chart, {sample.width * 0.75, sample.height * 0.75});
+    const LaidOutChart laidOut =
+        LaidOutWhole(chart, {sample.width * PointsPerPixel, sample.height * PointsPerPixel});
     // More points than pixels share their places with others.
     const bool isDense = chart.CategoryCount() > laidOut.scene.size.width / 4;
     if (chart.CategoryCount() == 0 || sample.name == "all-missing" || sample.name == "tiny")

@@ -1,4 +1,4 @@
-#include "chartcontrol/scene/SceneJson.h"
+#include "support/SceneJson.h"
 #include "chartcontrol/scene/SceneBuilder.h"
 #include "support/Raises.h"
 

@@ -1,6 +1,6 @@
 #include "viewer/GraphForm.h"
 
-#include "base/Twips.h"
+#include "base/Units.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"

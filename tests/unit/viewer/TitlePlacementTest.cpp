@@ -1,4 +1,5 @@
 #include "viewer/TitlePlacement.h"
+#include "support/StubTextMeasurer.h"
 
 #include "chartcontrol/layout/Layout.h"
 

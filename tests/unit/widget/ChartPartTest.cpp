@@ -90,6 +90,21 @@ TEST_F(ChartPartTest, WhatIsNoPartIsRefusedAndTheSelectionStays) {
     EXPECT_EQ(chart.SelectedPart(), (ChartPart{1}));
 }
 
+TEST_F(ChartPartTest, WhatTheChartHasIsWhatMayBeSelected) {
+    for (int part = -3; part <= 13; ++part)
+        for (int index1 = -2; index1 <= 7; ++index1)
+            for (const int index2 : {-1, 0, 1, 12, 13, 14}) {
+                const ChartPart wanted{part, index1, index2};
+                bool raised = false;
+                try {
+                    RequirePart(chart.Model(), wanted);
+                } catch (const RuntimeError&) {
+                    raised = true;
+                }
+                EXPECT_EQ(HasPart(chart.Model(), wanted), !raised) << part << ' ' << index1 << ' ' << index2;
+            }
+}
+
 TEST_F(ChartPartTest, EveryPartThatIsFoundCanBeSelected) {
     for (int y = 0; y < chart.height(); y += 7)
         for (int x = 0; x < chart.width(); x += 7) {

@@ -59,10 +59,13 @@ void LayOutDenseBars(const PlotContext& context, int number) {
 
 void LayOutBars(const PlotContext& context, const std::vector<int>& series) {
     const bool dense = context.plot.IsDense();
-    // Dense bars all stand on the axis, so that of piled ones the lower must cover the higher.
-    for (std::size_t i = 0; dense && i < series.size(); ++i)
-        LayOutDenseBars(context, context.plotted.IsStacked() ? series[series.size() - 1 - i] : series[i]);
-    for (std::size_t i = 0; !dense && i < series.size(); ++i) LayOutSingleBars(context, series[i]);
+    for (std::size_t i = 0; i < series.size(); ++i) {
+        // Dense bars all stand on the axis, so that of piled ones the lower must cover the higher.
+        if (dense)
+            LayOutDenseBars(context, context.plotted.IsStacked() ? series[series.size() - 1 - i] : series[i]);
+        else
+            LayOutSingleBars(context, series[i]);
+    }
 }
 
 } // namespace QmChart6

@@ -5,19 +5,27 @@
 
 namespace QmChart6 {
 
-void LayOutLine(const PlotContext& context, int number) {
+namespace {
+
+void LayOutRuns(const PlotContext& context, int number, const Runs& runs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const LinearMap& map = context.plot.MapOf(number);
-    const LineLook look = LineLookOf(series);
-    const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
-    const Runs& runs = *collected;
-    for (std::size_t run = 0; look.line && run < runs.Count(); ++run) {
+    for (std::size_t run = 0; run < runs.Count(); ++run) {
         if (runs.starts[run + 1] - runs.starts[run] < 2) continue;
         for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
             context.builder.AddPoint(
                 {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
         context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
     }
+}
+
+} // namespace
+
+void LayOutLine(const PlotContext& context, int number) {
+    const LineLook look = LineLookOf(context.chart.Plot.SeriesCollection(number));
+    const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
+    const Runs& runs = *collected;
+    if (look.line) LayOutRuns(context, number, runs);
     if (look.markers)
         LayOutMarkers(context, number, runs);
     else

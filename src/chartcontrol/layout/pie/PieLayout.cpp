@@ -58,8 +58,9 @@ private:
     [[nodiscard]] std::vector<PieLabel> Labels(int category, bool inside) {
         std::vector<PieLabel> labels;
         const double sum = SumOf(category);
+        if (!(sum > 0)) return labels;
         double before = 0;
-        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count() && sum > 0; ++number) {
+        for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number) {
             const double value = chart_.SeriesValues(number)[category];
             if (!(value > 0)) continue;
             const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);

@@ -134,7 +134,7 @@ private:
 
     /// Labels below a level edge take height; beside a sloping one they reach to the side that it falls from.
     void LeaveRoomForCategories(Box& room, double gap) {
-        plan_.view.assign(1, SpaceView(context_.chart.Plot, plan_.size));
+        plan_.view.emplace(context_.chart.Plot, plan_.size);
         const double slope = plan_.CategorySlope();
         if (std::abs(slope) < LeastSlope) {
             room.bottom -= labelDepth_ + gap;
@@ -189,15 +189,11 @@ private:
 
     /// The flat picture's box for the present height.
     [[nodiscard]] Box Flat() {
-        plan_.view.assign(1, SpaceView(context_.chart.Plot, plan_.size));
-        Box flat{1e300, 1e300, -1e300, -1e300};
+        plan_.view.emplace(context_.chart.Plot, plan_.size);
+        Box flat = Box::Nothing();
         for (const double x : {0.0, plan_.size.x})
             for (const double y : {0.0, plan_.size.y})
-                for (const double z : {0.0, plan_.size.z}) {
-                    const Point corner = plan_.View().Flat({x, y, z});
-                    flat = {std::min(flat.left, corner.x), std::min(flat.top, corner.y),
-                            std::max(flat.right, corner.x), std::max(flat.bottom, corner.y)};
-                }
+                for (const double z : {0.0, plan_.size.z}) flat.Include(plan_.View().Flat({x, y, z}));
         return flat;
     }
 
@@ -228,14 +224,10 @@ private:
 } // namespace
 
 Size SpacePlan::Extent() const {
-    Box box{1e300, 1e300, -1e300, -1e300};
+    Box box = Box::Nothing();
     for (const double x : {0.0, size.x})
         for (const double y : {0.0, size.y})
-            for (const double z : {0.0, size.z}) {
-                const Point corner = Page({x, y, z});
-                box = {std::min(box.left, corner.x), std::min(box.top, corner.y),
-                       std::max(box.right, corner.x), std::max(box.bottom, corner.y)};
-            }
+            for (const double z : {0.0, size.z}) box.Include(Page({x, y, z}));
     return {box.Width(), box.Height()};
 }
 

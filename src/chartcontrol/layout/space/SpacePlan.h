@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/axes/AxesPlan.h"
 #include "chartcontrol/layout/space/SpaceView.h"
 
+#include <optional>
 #include <vector>
 
 namespace QmChart6 {
@@ -11,7 +12,7 @@ namespace QmChart6 {
 /// page.
 struct SpacePlan {
     SpacePoint size;
-    std::vector<SpaceView> view; // one; a view has no empty state
+    std::optional<SpaceView> view; // once its size is known
     /// Page points to a unit of space, and where the page's origin of the flat picture is.
     double scale = 1;
     Point origin;
@@ -39,7 +40,7 @@ struct SpacePlan {
     double xLabelWidth = 0;
     Furniture furniture = Furniture::All;
 
-    [[nodiscard]] const SpaceView& View() const { return view.front(); }
+    [[nodiscard]] const SpaceView& View() const { return *view; }
     [[nodiscard]] Point Page(SpacePoint point) const {
         const Point flat = View().Flat(point);
         return {origin.x + flat.x * scale, origin.y + flat.y * scale};

@@ -91,7 +91,8 @@ std::vector<LabelPlace> PlacesFor(LabelLocation location, const LabelAnchor& anc
     for (const Box& box :
          anchor.isBar ? PlacesAtBar(location, anchor, size) : PlacesAtPoint(location, anchor.box, size))
         places.push_back({box, false});
-    for (int step = 1; withLine && step <= FarthestAway; ++step) {
+    if (!withLine) return places;
+    for (int step = 1; step <= FarthestAway; ++step) {
         const double away = step * size.height * 1.2 + 4;
         for (const double direction : {anchor.negative ? 1.0 : -1.0, anchor.negative ? -1.0 : 1.0}) {
             Box box = direction < 0 ? Above(anchor.box, size) : Below(anchor.box, size);

@@ -1,3 +1,4 @@
+#include "support/StubTextMeasurer.h"
 #include "unit/layout/LayoutSupport.h"
 
 #include "chartcontrol/layout/axes/CategoryLabels.h"

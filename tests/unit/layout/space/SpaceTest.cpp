@@ -1,3 +1,4 @@
+#include "support/StubTextMeasurer.h"
 #include "unit/layout/LayoutSupport.h"
 
 #include "chartcontrol/layout/space/SpaceFaces.h"

@@ -1,4 +1,4 @@
-#include "chartcontrol/scene/SceneJson.h"
+#include "support/SceneJson.h"
 
 #include <array>
 #include <charconv>
@@ -53,11 +53,8 @@ QByteArray Quoted(const QString& text) {
     return "\"" + escaped.toUtf8() + "\"";
 }
 
-QByteArray ColourText(Colour colour) {
-    return "\"#" +
-           QByteArray::number((colour.Red << 16) + (colour.Green << 8) + colour.Blue, 16)
-               .rightJustified(6, '0') +
-           "\"";
+QByteArray QuotedColour(Colour colour) {
+    return "\"" + ColourText(colour) + "\"";
 }
 
 QByteArray PartName(PartCode code) {
@@ -69,7 +66,7 @@ QByteArray PartName(PartCode code) {
 
 QByteArray FontText(const Font& font) {
     return "[" + Quoted(font.Name) + ", " + Number(font.Size) + ", " + QByteArray::number(font.Style) + ", " +
-           QByteArray::number(font.Effect) + ", " + ColourText(font.VtColor) + "]";
+           QByteArray::number(font.Effect) + ", " + QuotedColour(font.VtColor) + "]";
 }
 
 QByteArray Integer(int value) {
@@ -123,12 +120,12 @@ QByteArray ShapeText(const Scene& scene, const Shape& shape) {
                       std::visit(GeometryText{scene}, shape.geometry);
     if (shape.stroke != Stroke{}) {
         text += ", \"stroke\": [" + Integer(static_cast<int>(shape.stroke.style)) + ", " +
-                Number(shape.stroke.width) + ", " + ColourText(shape.stroke.colour) + "]";
+                Number(shape.stroke.width) + ", " + QuotedColour(shape.stroke.colour) + "]";
     }
     if (shape.fill != SceneFill{}) {
         text += ", \"fill\": [" + Integer(static_cast<int>(shape.fill.style)) + ", " +
-                Integer(shape.fill.index) + ", " + ColourText(shape.fill.colour) + ", " +
-                ColourText(shape.fill.patternColour) + "]";
+                Integer(shape.fill.index) + ", " + QuotedColour(shape.fill.colour) + ", " +
+                QuotedColour(shape.fill.patternColour) + "]";
     }
     if (shape.clip != NoClip) text += ", \"clip\": " + Integer(shape.clip);
     if (shape.crisp) text += ", \"crisp\": true";

@@ -4,9 +4,14 @@
 
 namespace QmChart6 {
 
-/// 15 twips to a logical pixel, 20 to a point: a logical pixel is 1/96 inch.
+// A logical pixel is 1/96 inch, a point 1/72, a twip 1/20 of a point.
+inline constexpr double MillimetresPerInch = 25.4;
+inline constexpr double PixelsPerInch = 96;
+inline constexpr double PointsPerInch = 72;
+inline constexpr double PointsPerPixel = PointsPerInch / PixelsPerInch;
+inline constexpr int TwipsPerPoint = 20;
 inline constexpr int TwipsPerPixel = 15;
-inline constexpr double PointsPerPixel = 0.75;
+static_assert(TwipsPerPixel == TwipsPerPoint * PointsPerPixel);
 
 /// What a window's frame adds to its inside, in twips; the same on every desktop, so that sizes are too.
 inline constexpr int NominalFrameWidth = 120;

@@ -1,4 +1,4 @@
-#include "chartcontrol/scene/SceneJson.h"
+#include "support/SceneJson.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
