@@ -121,13 +121,10 @@ std::vector<std::size_t> Find(const Scene& scene, Part part) {
 }
 
 std::optional<Box> BoundsOf(const Scene& scene, Part part) {
-    std::optional<Box> bounds;
-    for (const std::size_t index : Find(scene, part)) {
-        const Box& box = scene.shapes[index].bounds;
-        if (!bounds) bounds = box;
-        bounds = {std::min(bounds->left, box.left), std::min(bounds->top, box.top),
-                  std::max(bounds->right, box.right), std::max(bounds->bottom, box.bottom)};
-    }
+    const std::vector<std::size_t> shapes = Find(scene, part);
+    if (shapes.empty()) return std::nullopt;
+    Box bounds = Box::Nothing();
+    for (const std::size_t index : shapes) bounds.Include(scene.shapes[index].bounds);
     return bounds;
 }
 
