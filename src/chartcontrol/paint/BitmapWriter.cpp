@@ -1,6 +1,7 @@
 #include "chartcontrol/paint/BitmapWriter.h"
 
 #include "base/Twips.h"
+#include "chartcontrol/paint/Inches.h"
 #include "chartcontrol/paint/PaintScene.h"
 
 #include <QBuffer>
@@ -12,8 +13,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int DotsPerInch = 96; // of a logical pixel
-constexpr double MillimetresPerInch = 25.4;
 constexpr double GreatestSide = 32'767; // what the painter takes
 constexpr double GreatestArea = 256e6;  // pixels, one gigabyte
 

@@ -1,6 +1,7 @@
 #include "chartcontrol/paint/EmfRecords.h"
 
 #include "base/Twips.h"
+#include "chartcontrol/paint/Inches.h"
 
 #include <algorithm>
 #include <array>
@@ -47,9 +48,6 @@ constexpr int OffsetOfHandles = 56;
 /// The device that the file says it was made for: 96 pixels to the inch.
 constexpr int DeviceWidth = 1920;
 constexpr int DeviceHeight = 1080;
-constexpr double MillimetresPerInch = 25.4;
-constexpr double DotsPerInch = 96;
-constexpr double PointsPerInch = 72;
 
 std::uint32_t ColourNumber(Colour colour) {
     return static_cast<std::uint32_t>(colour.Red | colour.Green << 8 | colour.Blue << 16);

@@ -1,5 +1,6 @@
 #include "chartcontrol/paint/PdfWriter.h"
 
+#include "chartcontrol/paint/Inches.h"
 #include "chartcontrol/paint/PaintScene.h"
 
 #include <QBuffer>
@@ -12,7 +13,6 @@ namespace QmChart6 {
 
 QByteArray EncodePdf(const Scene& scene, const QString& title) {
     constexpr int Resolution = 1200;
-    constexpr double PointsPerInch = 72;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);

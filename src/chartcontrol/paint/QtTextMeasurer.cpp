@@ -1,5 +1,7 @@
 #include "chartcontrol/paint/QtTextMeasurer.h"
 
+#include "chartcontrol/paint/Inches.h"
+
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHash>
@@ -24,7 +26,6 @@ int ScreenDotsPerInch() {
 } // namespace
 
 QFont QtFontOf(const Font& font, double scale, int dotsPerInch) {
-    constexpr double PointsPerInch = 72;
     constexpr double LeastSize = 0.01;
     QFont result(font.Name);
     // setPixelSize takes whole pixels only; points of the device's own resolution say the same with
