@@ -31,7 +31,7 @@ QString List(const CommandLine& line) {
     return text;
 }
 
-QString Show(const CommandLine& line) {
+QString ShowLook(const CommandLine& line) {
     return QString::fromUtf8(ExportLook(Store(line), line.operands[0]));
 }
 
@@ -82,7 +82,7 @@ struct ConfigCommand {
 const std::vector<ConfigCommand>& ConfigCommands() {
     static const std::vector<ConfigCommand> commands{
         {"init", {"FOLDER"}, Init},        {"list", {}, List},
-        {"show", {"NAME"}, Show},          {"delete", {"NAME"}, Delete},
+        {"show", {"NAME"}, ShowLook},      {"delete", {"NAME"}, Delete},
         {"bind", {"ID", "NAME"}, Bind},    {"bindings", {}, Bindings},
         {"copy", {"FROM", "TO"}, Copy},    {"export", {"NAME", "LOOK.json"}, Export},
         {"import", {"LOOK.json"}, Import},

@@ -22,7 +22,7 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int MinimumListWidth = 180; // logical pixels
+constexpr int MinimumSeriesListWidth = 180; // logical pixels
 
 /// The types in the order of cbType, as 2D series have them.
 constexpr std::array TypesInOrder{SeriesType::Bar2D,  SeriesType::Line2D, SeriesType::Area2D,
@@ -67,7 +67,7 @@ QWidget* GraphSeriesProperties::MakeGeneral() {
     grid->addWidget(txtName_, 0, 1);
     cbType_ = new QComboBox(page);
     cbType_->setObjectName(QStringLiteral("cbType"));
-    cbType_->setMinimumWidth(MinimumListWidth);
+    cbType_->setMinimumWidth(MinimumSeriesListWidth);
     grid->addWidget(NewLabel(page, "lblType", LocalText(TextKey::Type), *cbType_), 1, 0);
     grid->addWidget(cbType_, 1, 1);
     auto* btnColor = new QPushButton(WithDots(LocalText(TextKey::Color)), page);

@@ -49,7 +49,7 @@ FontChoice ChoiceOf(const Font& font) {
             .colour = QtColourOf(font.VtColor)};
 }
 
-QComboBox* NewList(QWidget* parent, const char* name, std::initializer_list<TextKey> textKeys) {
+QComboBox* NewUnsetList(QWidget* parent, const char* name, std::initializer_list<TextKey> textKeys) {
     auto* list = new QComboBox(parent);
     list->setObjectName(QLatin1String(name));
     for (const TextKey key : textKeys) list->addItem(LocalText(key));
@@ -127,8 +127,9 @@ void GraphTextProperties::MakeAlignment() {
     frmAlignment_ = new QGroupBox(LocalText(TextKey::Alignment), this);
     frmAlignment_->setObjectName(QStringLiteral("frmAlignment"));
     // In the order of the codes that stand for them.
-    cbHorizontal_ = NewList(frmAlignment_, "cbHorizontal", {TextKey::Left, TextKey::Right, TextKey::Center});
-    cbVertical_ = NewList(frmAlignment_, "cbVertical", {TextKey::Top, TextKey::Bottom, TextKey::Center});
+    cbHorizontal_ =
+        NewUnsetList(frmAlignment_, "cbHorizontal", {TextKey::Left, TextKey::Right, TextKey::Center});
+    cbVertical_ = NewUnsetList(frmAlignment_, "cbVertical", {TextKey::Top, TextKey::Bottom, TextKey::Center});
     lblHorizontal_ = NewLabel(frmAlignment_, "lblHorizontal", LocalText(TextKey::Horizontal), *cbHorizontal_);
     lblVertical_ = NewLabel(frmAlignment_, "lblVertical", LocalText(TextKey::Vertical), *cbVertical_);
     auto* grid = new QGridLayout(frmAlignment_);

@@ -12,8 +12,8 @@ namespace QmChart6 {
 namespace {
 
 // Logical pixels.
-constexpr int SideMargin = 32;
-constexpr int EdgeMargin = 24;
+constexpr int WindowSideMargin = 32;
+constexpr int WindowEdgeMargin = 24;
 
 } // namespace
 
@@ -23,7 +23,7 @@ GraphPrinting::GraphPrinting(QWidget* owner)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowTitle(LocalText(TextKey::PrintingInProgress));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(SideMargin, EdgeMargin, SideMargin, EdgeMargin);
+    column->setContentsMargins(WindowSideMargin, WindowEdgeMargin, WindowSideMargin, WindowEdgeMargin);
     auto* text = new QLabel(LocalText(TextKey::PrintingInProgress), this);
     text->setTextFormat(Qt::PlainText);
     text->setAlignment(Qt::AlignCenter);

@@ -22,7 +22,7 @@ def program(name):
     found = sorted(glob.glob(f"/usr/lib/postgresql/*/bin/{name}"))
     path = found[-1] if found else shutil.which(name)
     if not path:
-        sys.exit(f"{name} is missing: install the package postgresql-15")
+        sys.exit(f"{name} is missing: install the package postgresql")
     return path
 
 

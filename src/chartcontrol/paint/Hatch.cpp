@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numbers>
 
 namespace QmChart6 {
 
@@ -13,7 +12,6 @@ namespace {
 
 constexpr double GreatestPieceCount = 200'000;
 constexpr double WidestLine = 1; // points; broader ones are areas
-constexpr double Slant = 1 / std::numbers::sqrt2;
 
 /// The way along the lines and the way across them: two perpendicular unit vectors.
 struct Frame2D {

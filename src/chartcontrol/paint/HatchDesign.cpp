@@ -1,7 +1,5 @@
 #include "chartcontrol/paint/HatchDesign.h"
 
-#include <numbers>
-
 namespace QmChart6 {
 
 namespace {
@@ -11,7 +9,6 @@ using Direction = LineFamily::Direction;
 // All lengths are multiples of 0.75 points, one logical pixel, so that patterns fall on whole pixels at the
 // usual screen scales. The period of slanted lines is given as measured along the horizontal.
 constexpr double Hair = 0.75;
-constexpr double Slant = 1 / std::numbers::sqrt2;
 
 LineFamily Lines(Direction direction, double period, double width) {
     const bool slanted = direction == Direction::Down || direction == Direction::Up;

@@ -2,9 +2,13 @@
 
 #include "chartcontrol/scene/Scene.h"
 
+#include <numbers>
 #include <vector>
 
 namespace QmChart6 {
+
+/// How far a slanted line goes along the horizontal and along the vertical, of its length.
+inline constexpr double Slant = 1 / std::numbers::sqrt2;
 
 /// Parallel lines: period and width across them, in points. Lines broader than a point are areas with exact
 /// ends.

@@ -15,7 +15,7 @@ constexpr std::size_t ManyMarkers = 24; // from here on markers are stamped
 /// From here on small ones are stamped plainly: in such a cloud nobody sees their edges.
 constexpr std::size_t VeryManyMarkers = 5000;
 
-QPainterPath PathOf(const std::vector<Point>& outline, double scale) {
+QPainterPath ClosedPath(const std::vector<Point>& outline, double scale) {
     QPainterPath path;
     for (std::size_t at = 0; at < outline.size(); ++at) {
         const QPointF point(outline[at].x * scale, outline[at].y * scale);
@@ -30,7 +30,7 @@ QPainterPath PathOf(const std::vector<Point>& outline, double scale) {
 }
 
 QPainterPath MarkerPath(const MarkerRun& run, double scale) {
-    if (run.style != MarkerStyle::Circle) return PathOf(MarkerOutline(run.style, run.size), scale);
+    if (run.style != MarkerStyle::Circle) return ClosedPath(MarkerOutline(run.style, run.size), scale);
     QPainterPath path;
     path.addEllipse(QPointF(0, 0), run.size / 2 * scale, run.size / 2 * scale);
     return path;

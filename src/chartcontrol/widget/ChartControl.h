@@ -1,8 +1,8 @@
 #pragma once
 
 #include "chartcontrol/layout/Layout.h"
+#include "chartcontrol/model/ChartVocabulary.h"
 #include "chartcontrol/widget/ChartPart.h"
-#include "chartcontrol/widget/ChartVocabulary.h"
 
 #include <QImage>
 #include <QPoint>

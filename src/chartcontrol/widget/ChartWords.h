@@ -1,7 +1,7 @@
 #pragma once
 
 #include "chartcontrol/layout/data/DataPointHit.h"
-#include "chartcontrol/widget/ChartVocabulary.h"
+#include "chartcontrol/model/ChartVocabulary.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "chartcontrol/widget/ChartVocabulary.h"
+#include "chartcontrol/model/ChartVocabulary.h"
 #include "text/TextKey.h"
 
 #include <array>

@@ -17,9 +17,9 @@ constexpr int MostTitleLines = 2;
 /// rest.
 constexpr int MostPasses = 8;
 
-class Planner {
+class AxesPlanner {
 public:
-    Planner(const LayoutContext& context, const PlotDemand& demand, const Box& box, Furniture furniture)
+    AxesPlanner(const LayoutContext& context, const PlotDemand& demand, const Box& box, Furniture furniture)
         : context_(context), demand_(demand), box_(box), furniture_(furniture) {
         plan_.showX = Shown(AxisId::X);
         plan_.showY = Shown(AxisId::Y);
@@ -179,7 +179,7 @@ double AxesPlan::TitleGap(const Axis& axis) {
 
 AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const Box& box,
                   Furniture furniture) {
-    return Planner(context, demand, box, furniture).Run();
+    return AxesPlanner(context, demand, box, furniture).Run();
 }
 
 } // namespace QmChart6

@@ -10,7 +10,7 @@ namespace QmChart6 {
 namespace {
 
 /// Labels side by side stay this many font sizes apart.
-constexpr double GapShare = 0.6;
+constexpr double CategoryGapShare = 0.6;
 /// Wrapping starts to look good from slots this many font sizes wide, up to so many lines.
 constexpr double NarrowestWrapShare = 3.5;
 constexpr int MostWrapLines = 3;
@@ -37,9 +37,9 @@ int NiceStride(double least, int count) {
             if (stride * scale >= start) return stride * scale;
 }
 
-class Planner {
+class CategoryPlanner {
 public:
-    Planner(const CategoryLabelWish& wish, const Font& font, const TextMeasurer& measurer)
+    CategoryPlanner(const CategoryLabelWish& wish, const Font& font, const TextMeasurer& measurer)
         : wish_(wish), font_(font), measurer_(measurer) {
         plan_.line = measurer.Measure(QStringLiteral("x"), font);
     }
@@ -81,7 +81,7 @@ private:
             const double width = block.Length();
             if (block.elided && wish_.count > 1) return false;
             if (category > 0 && before > 0 && width > 0 &&
-                (before + width) / 2 + GapShare * font_.Size > pitch)
+                (before + width) / 2 + CategoryGapShare * font_.Size > pitch)
                 return false;
             any = any || width > 0;
             before = width;
@@ -94,7 +94,7 @@ private:
 
     bool TryWrapped() {
         if (wish_.slot < NarrowestWrapShare * font_.Size) return false;
-        const double room = wish_.slot - GapShare * font_.Size;
+        const double room = wish_.slot - CategoryGapShare * font_.Size;
         plan_.labels.clear();
         for (int category = 0; category < wish_.count; ++category) {
             const QString text = Printable(wish_.text(category)).simplified();
@@ -183,7 +183,7 @@ double CategoryLabelPlan::ReachRight(const Label& label) const {
 
 CategoryLabelPlan PlanCategoryLabels(const CategoryLabelWish& wish, const Font& font,
                                      const TextMeasurer& measurer) {
-    return Planner(wish, font, measurer).Run();
+    return CategoryPlanner(wish, font, measurer).Run();
 }
 
 void PlaceCategoryLabels(SceneBuilder& builder, const CategoryLabelPlan& plan,

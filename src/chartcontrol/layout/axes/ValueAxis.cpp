@@ -14,7 +14,7 @@ constexpr double TickRoomUpright = 4;
 constexpr double TickRoomAcross = 7;
 constexpr int MostTicks = 12;
 /// Labels side by side stay this many font sizes apart.
-constexpr double LabelGapShare = 1.0;
+constexpr double ValueGapShare = 1.0;
 
 /// Where plain digits would run longer than this, labels get an exponent.
 constexpr double LargestPlain = 1e15;
@@ -92,7 +92,7 @@ ValueAxisPlan PlanValueAxis(const LayoutContext& context, const Axis& axis, cons
     const double room = (wish.across ? TickRoomAcross : TickRoomUpright) * std::max(1.0, font.Size);
     int count = std::clamp(static_cast<int>(std::lround(wish.length / room)) + 1, 2, MostTicks);
     ValueAxisPlan plan = PlanWith(context, axis, wish, count);
-    while (count > 2 && LabelsMeet(plan, wish, LabelGapShare * font.Size))
+    while (count > 2 && LabelsMeet(plan, wish, ValueGapShare * font.Size))
         plan = PlanWith(context, axis, wish, --count);
     return plan;
 }

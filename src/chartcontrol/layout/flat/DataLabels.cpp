@@ -17,7 +17,7 @@ namespace {
 
 /// Labels closer than this along the axis are not even tried. Points.
 constexpr double ClosestPitch = 5;
-constexpr double LongestLabel = 160;
+constexpr double LongestDataLabel = 160;
 constexpr int MostLines = 3;
 
 /// A label that wants a place. Lower ranks are placed first.
@@ -112,7 +112,7 @@ private:
         const DataPointLabel& label = look.DataPointLabel;
         const QString text = texts_.Of(label, candidate.series, candidate.category, candidate.value);
         TextBlock block = BreakText(text, label.VtFont, label.TextLayout.Orientation,
-                                    {LongestLabel, MostLines}, context_.measurer);
+                                    {LongestDataLabel, MostLines}, context_.measurer);
         const bool withLine = label.LineStyle != LabelLineStyle::None;
         for (const LabelPlace& place :
              PlacesFor(label.LocationType, candidate.anchor, block.Extent(), withLine)) {

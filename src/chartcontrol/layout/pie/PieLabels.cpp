@@ -12,7 +12,7 @@ namespace QmChart6 {
 namespace {
 
 /// Points: from the pie to a label, and between two labels.
-constexpr double Gap = 4;
+constexpr double PieLabelGap = 4;
 constexpr double Apart = 1.5;
 /// With lines, labels stand this much farther out.
 constexpr double LineRoom = 9;
@@ -21,7 +21,7 @@ constexpr double InsideShare = 0.64;
 /// A label without a line that had to move farther than this many of its heights would be taken for another
 /// slice's.
 constexpr double FarthestWithoutLine = 1.2;
-constexpr double LongestLabel = 140;
+constexpr double LongestPieLabel = 140;
 
 Point DirectionOf(double turn) {
     const double angle = 2 * std::numbers::pi * turn;
@@ -94,7 +94,7 @@ public:
         for (const PieLabel* label : labels) {
             const double room =
                 right ? circle_.cell.right - circle_.center.x : circle_.center.x - circle_.cell.left;
-            const TextBlock block = BlockOf(*label, std::min(room, LongestLabel), context_.measurer);
+            const TextBlock block = BlockOf(*label, std::min(room, LongestPieLabel), context_.measurer);
             const double reach = Reach(*label);
             const double wished =
                 circle_.center.y + DirectionOf(label->turn).y * (reach + block.Extent().height / 2);
@@ -110,13 +110,13 @@ public:
 
 private:
     [[nodiscard]] double Reach(const PieLabel& label) const {
-        return circle_.radius + Gap + (LineOf(label) == LabelLineStyle::None ? 0 : LineRoom);
+        return circle_.radius + PieLabelGap + (LineOf(label) == LabelLineStyle::None ? 0 : LineRoom);
     }
 
     /// The labels of the smallest slices go until the others fit one below the other.
     [[nodiscard]] int DropWhatCannotFit(std::vector<const PieLabel*>& labels) const {
         const auto height = [&](const PieLabel* label) {
-            return BlockOf(*label, LongestLabel, context_.measurer).Extent().height + Apart;
+            return BlockOf(*label, LongestPieLabel, context_.measurer).Extent().height + Apart;
         };
         double all = 0;
         for (const PieLabel* label : labels) all += height(label);
@@ -177,10 +177,10 @@ private:
 Size OutsideReach(const std::vector<PieLabel>& labels, const TextMeasurer& measurer) {
     Size reach;
     for (const PieLabel& label : labels) {
-        const Size size = BlockOf(label, LongestLabel, measurer).Extent();
+        const Size size = BlockOf(label, LongestPieLabel, measurer).Extent();
         const double line = LineOf(label) == LabelLineStyle::None ? 0 : LineRoom;
-        reach = {std::max(reach.width, size.width + Gap + line),
-                 std::max(reach.height, size.height + Gap + line)};
+        reach = {std::max(reach.width, size.width + PieLabelGap + line),
+                 std::max(reach.height, size.height + PieLabelGap + line)};
     }
     return reach;
 }

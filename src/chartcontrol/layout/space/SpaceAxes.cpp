@@ -9,8 +9,6 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr double LabelGapShare = 0.55;
-
 class SpaceAxes {
 public:
     SpaceAxes(const LayoutContext& context, const SpacePlan& plan, const Box& box)
@@ -29,9 +27,7 @@ private:
     [[nodiscard]] bool Shown(AxisId id) const {
         return plan_.furniture != Furniture::None && !AxisOf(id).AxisScale.Hide;
     }
-    [[nodiscard]] double Gap(AxisId id) const {
-        return LabelGapShare * AxisOf(id).Labels.Item(1).VtFont.Size;
-    }
+    [[nodiscard]] double Gap(AxisId id) const { return AxesPlan::LabelGap(AxisOf(id)); }
 
     /// The corner of the floor whose upright edge is outermost on the page.
     [[nodiscard]] SpacePoint Outermost(bool left) const {

@@ -14,7 +14,7 @@ constexpr double BottomLight = 0.55;
 constexpr double SideLight = 0.74;
 /// Outlines are a little darker than their face, so that equal faces beside each other stay apart.
 constexpr double EdgeLight = 0.86;
-constexpr double EdgeWidth = 0.5;
+constexpr double FaceEdgeWidth = 0.5;
 
 std::uint8_t Lit(std::uint8_t component, double light) {
     const double lit = light <= 1 ? component * light : 255 - (255 - component) * (2 - light);
@@ -62,7 +62,8 @@ SpaceFaces::Drawn SpaceFaces::Draw(Part part, std::span<const SpacePoint> corner
     fill.patternColour = Shaded(fill.patternColour, normal);
     const bool open = brush.Style == BrushStyle::None;
     builder_.AddPolygon(
-        part, fill, {PenStyle::Solid, EdgeWidth, Lit(Shaded(brush.FillColor, normal), open ? 1 : EdgeLight)});
+        part, fill,
+        {PenStyle::Solid, FaceEdgeWidth, Lit(Shaded(brush.FillColor, normal), open ? 1 : EdgeLight)});
     const Box& bounds = builder_.Built().shapes.back().bounds;
     const auto count = static_cast<double>(corners.size());
     return {{sum.x / count, sum.y / count}, bounds.Width() * bounds.Height()};

@@ -18,17 +18,16 @@ constexpr double GreatestHeight = 2.0;
 constexpr int HeightSteps = 24;
 /// Series names along the depth take at most this part of the width.
 constexpr double WidestNameShare = 0.2;
-constexpr double LabelGapShare = 0.55;
-constexpr double TitleGapShare = 0.55;
+constexpr double SpaceTitleGapShare = 0.55;
 /// Room for the labels of the categories below the plot, as a part of the height.
 constexpr double LabelDepthShare = 0.25;
 /// Rounds in which labels and space are fitted to each other.
 constexpr int MostRounds = 3;
 
-class Planner {
+class SpacePlanner {
 public:
-    Planner(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
-            const Box& box, Furniture furniture)
+    SpacePlanner(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                 const Box& box, Furniture furniture)
         : context_(context), demand_(demand), plotted_(plotted), box_(box) {
         plan_.furniture = furniture;
     }
@@ -112,9 +111,9 @@ private:
         plan_.yTitle = Title(AxisId::Y, box_.Height());
         plan_.zTitle = Title(AxisId::Z, 0.25 * box_.Width());
         Box room = box_;
-        const auto gap = [&](AxisId id) { return LabelGapShare * AxisOf(id).Labels.Item(1).VtFont.Size; };
+        const auto gap = [&](AxisId id) { return AxesPlan::LabelGap(AxisOf(id)); };
         const auto title = [&](const TextBlock& block, double extent) {
-            return block.IsEmpty() ? 0 : extent + TitleGapShare * block.font.Size;
+            return block.IsEmpty() ? 0 : extent + SpaceTitleGapShare * block.font.Size;
         };
         room.left += title(plan_.yTitle, plan_.yTitle.Extent().width);
         if (Shown(AxisId::Y)) room.left += plan_.primary.LabelWidth() + gap(AxisId::Y);
@@ -253,7 +252,7 @@ double SpacePlan::CategorySlope() const {
 
 SpacePlan PlanSpace(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
                     const Box& box, Furniture furniture) {
-    return Planner(context, demand, plotted, box, furniture).Run();
+    return SpacePlanner(context, demand, plotted, box, furniture).Run();
 }
 
 } // namespace QmChart6

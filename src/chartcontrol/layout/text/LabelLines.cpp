@@ -9,7 +9,7 @@ namespace {
 constexpr double Width = 0.6;
 /// The level end of a bent line.
 constexpr double LevelEnd = 6;
-constexpr double Gap = 1.5;
+constexpr double LineGap = 1.5;
 
 } // namespace
 
@@ -22,21 +22,22 @@ void AddLabelLine(SceneBuilder& builder, Part part, LabelLineStyle style, Point 
     case LabelLineStyle::None:
         return;
     case LabelLineStyle::Straight: {
-        const Point to = beside ? Point{from.x < label.left ? label.left - Gap : label.right + Gap, y}
-                                : Point{from.x, from.y < label.top ? label.top - Gap : label.bottom + Gap};
+        const Point to =
+            beside ? Point{from.x < label.left ? label.left - LineGap : label.right + LineGap, y}
+                   : Point{from.x, from.y < label.top ? label.top - LineGap : label.bottom + LineGap};
         builder.AddLine(part, from, to, stroke, false);
         return;
     }
     case LabelLineStyle::Bent: {
         const bool toLeft = label.Center().x < from.x;
-        const Point end{toLeft ? label.right + Gap : label.left - Gap, y};
+        const Point end{toLeft ? label.right + LineGap : label.left - LineGap, y};
         const double elbow = toLeft ? std::min(end.x + LevelEnd, from.x) : std::max(end.x - LevelEnd, from.x);
         builder.AddPoint(from);
         if (beside) {
             builder.AddPoint({elbow, y});
             builder.AddPoint(end);
         } else {
-            builder.AddPoint({from.x, from.y < label.top ? label.top - Gap : label.bottom + Gap});
+            builder.AddPoint({from.x, from.y < label.top ? label.top - LineGap : label.bottom + LineGap});
         }
         builder.AddPolyline(part, stroke);
         return;

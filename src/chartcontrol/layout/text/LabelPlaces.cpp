@@ -5,7 +5,7 @@ namespace QmChart6 {
 namespace {
 
 /// From mark to label, in points.
-constexpr double Gap = 2.5;
+constexpr double PlaceGap = 2.5;
 /// How many of its own heights a label may stand away from its mark.
 constexpr int FarthestAway = 3;
 
@@ -14,22 +14,22 @@ Box CenteredAt(double x, double y, const Size& size) {
 }
 
 Box Above(const Box& box, const Size& size) {
-    return CenteredAt(box.Center().x, box.top - Gap - size.height / 2, size);
+    return CenteredAt(box.Center().x, box.top - PlaceGap - size.height / 2, size);
 }
 Box Below(const Box& box, const Size& size) {
-    return CenteredAt(box.Center().x, box.bottom + Gap + size.height / 2, size);
+    return CenteredAt(box.Center().x, box.bottom + PlaceGap + size.height / 2, size);
 }
 Box AtTopWithin(const Box& box, const Size& size) {
-    return CenteredAt(box.Center().x, box.top + Gap + size.height / 2, size);
+    return CenteredAt(box.Center().x, box.top + PlaceGap + size.height / 2, size);
 }
 Box AtBottomWithin(const Box& box, const Size& size) {
-    return CenteredAt(box.Center().x, box.bottom - Gap - size.height / 2, size);
+    return CenteredAt(box.Center().x, box.bottom - PlaceGap - size.height / 2, size);
 }
 Box LeftOf(const Box& box, const Size& size) {
-    return CenteredAt(box.left - Gap - size.width / 2, box.Center().y, size);
+    return CenteredAt(box.left - PlaceGap - size.width / 2, box.Center().y, size);
 }
 Box RightOf(const Box& box, const Size& size) {
-    return CenteredAt(box.right + Gap + size.width / 2, box.Center().y, size);
+    return CenteredAt(box.right + PlaceGap + size.width / 2, box.Center().y, size);
 }
 
 /// A bar's end is where its value is, its base where it stands.

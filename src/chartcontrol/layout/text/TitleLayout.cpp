@@ -12,8 +12,8 @@ namespace QmChart6 {
 namespace {
 
 /// Titles get at most this part of the free height, or width when they stand at a side.
-constexpr double LargestShare = 1.0 / 3;
-constexpr int MostLines = 4;
+constexpr double LargestTitleShare = 1.0 / 3;
+constexpr int MostLinesOfTitle = 4;
 /// Room between the title and what it stands beside, as a part of its font's size.
 constexpr double GapShare = 0.7;
 
@@ -31,7 +31,7 @@ TextBlock Break(const LayoutContext& context, const Title& title, const Box& roo
     const double length = upright ? room.Height() : room.Width();
     const double depth = share * (upright ? room.Width() : room.Height());
     const double leading = context.measurer.Measure(QStringLiteral("x"), title.VtFont).Height();
-    const int lines = std::clamp(static_cast<int>(depth / std::max(1.0, leading)), 1, MostLines);
+    const int lines = std::clamp(static_cast<int>(depth / std::max(1.0, leading)), 1, MostLinesOfTitle);
     return BreakText(title.Text, title.VtFont, title.TextLayout.Orientation, {length, lines},
                      context.measurer);
 }
@@ -69,8 +69,8 @@ void KeepOff(Box& free, const Box& box, double gap) {
         double depth;
         double most;
     };
-    const double width = LargestShare * free.Width();
-    const double height = LargestShare * free.Height();
+    const double width = LargestTitleShare * free.Width();
+    const double height = LargestTitleShare * free.Height();
     const std::array needs{Need{Side::Top, box.top - free.top, box.bottom - free.top, height},
                            Need{Side::Bottom, free.bottom - box.bottom, free.bottom - box.top, height},
                            Need{Side::Left, box.left - free.left, box.right - free.left, width},
@@ -104,8 +104,8 @@ void LayOutTitle(const LayoutContext& context, const Title& title, PartCode code
     const Side side = SideOfTitle(title);
     Box room = free;
     const bool beside = side == Side::Left || side == Side::Right;
-    if (beside && !IsUpright(title)) room.right = room.left + LargestShare * free.Width();
-    const TextBlock block = Break(context, title, room, LargestShare);
+    if (beside && !IsUpright(title)) room.right = room.left + LargestTitleShare * free.Width();
+    const TextBlock block = Break(context, title, room, LargestTitleShare);
     if (block.IsEmpty()) return;
     const Size extent = block.Extent();
     const double depth = beside ? extent.width : extent.height;
