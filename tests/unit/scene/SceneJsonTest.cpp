@@ -93,7 +93,7 @@ TEST(SceneJson, RefusesWhatIsNoDumpWithThePlace) {
     EXPECT_RAISES(13, ReadScene(R"({"size": [1, 2], "clips": [], "warnings": []})"));
     QByteArray dump = DumpScene(SceneOfEveryKind());
     for (const auto& [good, bad] : {std::pair<QByteArray, QByteArray>{"\"clip\": 0", "\"clip\": 1"},
-                                    {"[5, 2, 0]", "[12, 2, 0]"},
+                                    {"[5, 2, 0]", "[13, 2, 0]"},
                                     {"\"angles\": [30, -45.5]", "\"angles\": [30]"},
                                     {"#0102ff", "#0102fg"},
                                     {"\"kind\": \"slice\"", "\"kind\": \"pie\""},
