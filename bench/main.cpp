@@ -63,7 +63,9 @@ void SmallWork(const std::function<Chart()>& make) {
 void BigWork(const char* variant, Chart& chart, const std::function<void()>& load,
              const std::function<void()>& widen) {
     const QtTextMeasurer measurer;
-    { Render(Bench::SmallChart(Bench::Small(3, 2), ChartType::Line2D), measurer); }
+    {
+        Render(Bench::SmallChart(Bench::Small(3, 2), ChartType::Line2D), measurer);
+    }
     const double before = Bench::ResidentMebibytes();
     Bench::Report(variant, "load_ms", Bench::Once(load));
     Bench::Report(variant, "first_ms", Bench::Once([&] { Render(chart, measurer); }));

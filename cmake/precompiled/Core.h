@@ -1,4 +1,5 @@
-// What most sources of the floors below the widgets include, compiled once. A source still includes what it uses.
+// What most sources of the floors below the widgets include, compiled once. A source still includes what it
+// uses.
 #pragma once
 
 #include <QByteArray>

@@ -24,25 +24,18 @@ LookField Component(const std::string& name, const std::function<std::uint8_t&(P
 
 std::vector<LookField> ColourFields(const char* prefix, const std::function<Colour&(Part)>& colour) {
     return {
-        Component(
-            Name(prefix, "Red"), [colour](Part part) -> auto& { return colour(part).Red; }),
-        Component(
-            Name(prefix, "Green"), [colour](Part part) -> auto& { return colour(part).Green; }),
-        Component(
-            Name(prefix, "Blue"), [colour](Part part) -> auto& { return colour(part).Blue; }),
+        Component(Name(prefix, "Red"), [colour](Part part) -> auto& { return colour(part).Red; }),
+        Component(Name(prefix, "Green"), [colour](Part part) -> auto& { return colour(part).Green; }),
+        Component(Name(prefix, "Blue"), [colour](Part part) -> auto& { return colour(part).Blue; }),
     };
 }
 
 std::vector<LookField> RectFields(const char* prefix, const std::function<CoordinateRect&(Part)>& rect) {
     return {
-        RealMember(
-            Name(prefix, "MinX").c_str(), [rect](Part part) -> auto& { return rect(part).Min.X; }),
-        RealMember(
-            Name(prefix, "MinY").c_str(), [rect](Part part) -> auto& { return rect(part).Min.Y; }),
-        RealMember(
-            Name(prefix, "MaxX").c_str(), [rect](Part part) -> auto& { return rect(part).Max.X; }),
-        RealMember(
-            Name(prefix, "MaxY").c_str(), [rect](Part part) -> auto& { return rect(part).Max.Y; }),
+        RealMember(Name(prefix, "MinX").c_str(), [rect](Part part) -> auto& { return rect(part).Min.X; }),
+        RealMember(Name(prefix, "MinY").c_str(), [rect](Part part) -> auto& { return rect(part).Min.Y; }),
+        RealMember(Name(prefix, "MaxX").c_str(), [rect](Part part) -> auto& { return rect(part).Max.X; }),
+        RealMember(Name(prefix, "MaxY").c_str(), [rect](Part part) -> auto& { return rect(part).Max.Y; }),
     };
 }
 
@@ -50,25 +43,21 @@ std::vector<LookField> LocationFields(const char* prefix, const std::function<Lo
     std::vector<LookField> fields{Enumeration(
         Name(prefix, "LocationType").c_str(),
         [location](Part part) -> auto& { return location(part).LocationType; }, ToLocationType)};
-    Append(fields, RectFields(
-                       prefix, [location](Part part) -> auto& { return location(part).Rect; }));
+    Append(fields, RectFields(prefix, [location](Part part) -> auto& { return location(part).Rect; }));
     return fields;
 }
 
 std::vector<LookField> FontFields(const char* prefix, const std::function<Font&(Part)>& font) {
     std::vector<LookField> fields{
-        TextMember(
-            Name(prefix, "FontName").c_str(), [font](Part part) -> auto& { return font(part).Name; }),
-        RealMember(
-            Name(prefix, "FontSize").c_str(), [font](Part part) -> auto& { return font(part).Size; }),
-        IntegerMember(
-            Name(prefix, "FontStyle").c_str(), [font](Part part) -> auto& { return font(part).Style; }),
-        IntegerMember(
-            Name(prefix, "FontEffect").c_str(), [font](Part part) -> auto& { return font(part).Effect; }),
+        TextMember(Name(prefix, "FontName").c_str(), [font](Part part) -> auto& { return font(part).Name; }),
+        RealMember(Name(prefix, "FontSize").c_str(), [font](Part part) -> auto& { return font(part).Size; }),
+        IntegerMember(Name(prefix, "FontStyle").c_str(),
+                      [font](Part part) -> auto& { return font(part).Style; }),
+        IntegerMember(Name(prefix, "FontEffect").c_str(),
+                      [font](Part part) -> auto& { return font(part).Effect; }),
     };
-    Append(fields,
-           ColourFields(
-               Name(prefix, "FontColor").c_str(), [font](Part part) -> auto& { return font(part).VtColor; }));
+    Append(fields, ColourFields(Name(prefix, "FontColor").c_str(),
+                                [font](Part part) -> auto& { return font(part).VtColor; }));
     return fields;
 }
 

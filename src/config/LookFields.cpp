@@ -51,13 +51,13 @@ std::vector<LookField> WindowFields() {
         At(Step::Size, Real(
                            "ChartWidth", [](Part part) { return part.look.width; },
                            [](Part part, double twips) { part.look.width = WindowTwips(twips); })),
-        At(Step::ControlBar, BooleanMember(
-                                 "ControlBar", [](Part part) -> auto& { return part.look.controlBar; })),
+        At(Step::ControlBar,
+           BooleanMember("ControlBar", [](Part part) -> auto& { return part.look.controlBar; })),
     };
 }
 
 /// An option whose state a chart does not keep: `set` gives it to the chart.
-LookField Option(const char* name, std::int16_t LookState::*state, void (*set)(Chart&, Truth)) {
+LookField Option(const char* name, std::int16_t LookState::* state, void (*set)(Chart&, Truth)) {
     return Integer(
         name, [state](Part part) { return part.look.*state; },
         [state, set](Part part, std::int16_t value) {
@@ -94,8 +94,7 @@ std::vector<LookField> PlotFields() {
                "PieLabelPos", [](Part part) { return static_cast<int>(PlotOf(part).SubPlotLabelPosition); },
                [](Part part, int position) { SetPieLabelPosition(ChartOf(part), position); })),
         At(Step::PlotLayout,
-           BooleanMember(
-               "PlotAutoLayout", [](Part part) -> auto& { return PlotOf(part).AutoLayout; })),
+           BooleanMember("PlotAutoLayout", [](Part part) -> auto& { return PlotOf(part).AutoLayout; })),
     };
 }
 
@@ -106,10 +105,8 @@ std::vector<LookField> ViewFields() {
         return PlotOf(part).View3d;
     };
     return {
-        RealMember(
-            "Rotation", [degrees](Part part) -> auto& { return degrees(part).Rotation; }),
-        RealMember(
-            "Elevation", [degrees](Part part) -> auto& { return degrees(part).Elevation; }),
+        RealMember("Rotation", [degrees](Part part) -> auto& { return degrees(part).Rotation; }),
+        RealMember("Elevation", [degrees](Part part) -> auto& { return degrees(part).Elevation; }),
     };
 }
 
@@ -129,18 +126,10 @@ std::vector<LookField> TitleFields() {
 }
 
 LookTable MakeChartLook() {
-    const auto ground = [](Part part) -> auto& {
-        return ChartOf(part).Backdrop.Fill.Brush.FillColor;
-    };
-    const auto plotPlace = [](Part part) -> auto& {
-        return PlotOf(part).LocationRect;
-    };
-    const auto title = [](Part part) -> auto& {
-        return ChartOf(part).Title;
-    };
-    const auto legend = [](Part part) -> auto& {
-        return ChartOf(part).Legend;
-    };
+    const auto ground = [](Part part) -> auto& { return ChartOf(part).Backdrop.Fill.Brush.FillColor; };
+    const auto plotPlace = [](Part part) -> auto& { return PlotOf(part).LocationRect; };
+    const auto title = [](Part part) -> auto& { return ChartOf(part).Title; };
+    const auto legend = [](Part part) -> auto& { return ChartOf(part).Legend; };
     LookTable look{
         .name = QStringLiteral("ChartConfigurations"), .partsName = {}, .numberField = {}, .fields = {}};
     std::vector<LookField>& fields = look.fields;
@@ -150,19 +139,16 @@ LookTable MakeChartLook() {
     Append(fields, PlotFields());
     Append(fields, At(Step::PlotPlace, RectFields("Plot", plotPlace)));
     Append(fields, At(Step::View, ViewFields()));
-    fields.push_back(AsTitle(TextMember(
-        "TitleText", [title](Part part) -> auto& { return title(part).Text; })));
-    Append(fields,
-           At(Step::Places, LocationFields(
-                                "Title", [title](Part part) -> auto& { return title(part).Location; })));
+    fields.push_back(
+        AsTitle(TextMember("TitleText", [title](Part part) -> auto& { return title(part).Text; })));
+    Append(fields, At(Step::Places,
+                      LocationFields("Title", [title](Part part) -> auto& { return title(part).Location; })));
     Append(fields, TitleFields());
-    Append(fields, FontFields(
-                       "Title", [title](Part part) -> auto& { return title(part).VtFont; }));
-    Append(fields,
-           At(Step::Places, LocationFields(
-                                "Legend", [legend](Part part) -> auto& { return legend(part).Location; })));
-    Append(fields, FontFields(
-                       "Legend", [legend](Part part) -> auto& { return legend(part).VtFont; }));
+    Append(fields, FontFields("Title", [title](Part part) -> auto& { return title(part).VtFont; }));
+    Append(fields, At(Step::Places, LocationFields("Legend", [legend](Part part) -> auto& {
+                          return legend(part).Location;
+                      })));
+    Append(fields, FontFields("Legend", [legend](Part part) -> auto& { return legend(part).VtFont; }));
     return look;
 }
 
@@ -191,16 +177,15 @@ LookTable MakeSeriesLook() {
     std::vector<LookField>& fields = look.fields;
     fields.push_back(Enumeration(
         "SeriesType", [](Part part) -> auto& { return SeriesOf(part).SeriesType; }, ToSeriesType));
-    fields.push_back(IntegerMember(
-        "SeriesStatLine", [](Part part) -> auto& { return SeriesOf(part).StatLine.Flag; }));
-    fields.push_back(Enumeration(
-        "SeriesStyle", [brush](Part part) -> auto& { return brush(part).Style; }, ToBrushStyle));
-    fields.push_back(LongMember(
-        "SeriesIndex", [brush](Part part) -> auto& { return brush(part).Index; }));
-    Append(fields, ColourFields(
-                       "SeriesColor", [brush](Part part) -> auto& { return brush(part).FillColor; }));
-    Append(fields, ColourFields(
-                       "SeriesStyleColor", [brush](Part part) -> auto& { return brush(part).PatternColor; }));
+    fields.push_back(
+        IntegerMember("SeriesStatLine", [](Part part) -> auto& { return SeriesOf(part).StatLine.Flag; }));
+    fields.push_back(
+        Enumeration("SeriesStyle", [brush](Part part) -> auto& { return brush(part).Style; }, ToBrushStyle));
+    fields.push_back(LongMember("SeriesIndex", [brush](Part part) -> auto& { return brush(part).Index; }));
+    Append(fields,
+           ColourFields("SeriesColor", [brush](Part part) -> auto& { return brush(part).FillColor; }));
+    Append(fields, ColourFields("SeriesStyleColor",
+                                [brush](Part part) -> auto& { return brush(part).PatternColor; }));
     fields.push_back(Enumeration(
         "SeriesLabelOrientation", [label](Part part) -> auto& { return label(part).TextLayout.Orientation; },
         ToOrientation));
@@ -210,10 +195,9 @@ LookTable MakeSeriesLook() {
     fields.push_back(Enumeration(
         "SeriesLabelLineStyle", [label](Part part) -> auto& { return label(part).LineStyle; },
         ToLabelLineStyle));
-    fields.push_back(IntegerMember(
-        "SeriesLabelComponents", [label](Part part) -> auto& { return label(part).Component; }));
-    Append(fields, FontFields(
-                       "SeriesLabel", [label](Part part) -> auto& { return label(part).VtFont; }));
+    fields.push_back(IntegerMember("SeriesLabelComponents",
+                                   [label](Part part) -> auto& { return label(part).Component; }));
+    Append(fields, FontFields("SeriesLabel", [label](Part part) -> auto& { return label(part).VtFont; }));
     return look;
 }
 
@@ -230,17 +214,16 @@ LookTable MakeAxesLook() {
     fields.push_back(Enumeration(
         "AxisGridStyle", [](Part part) -> auto& { return AxisOf(part).AxisGrid.MajorPen.Style; },
         ToPenStyle));
-    fields.push_back(AsTitle(TextMember(
-        "AxisTitleText", [title](Part part) -> auto& { return title(part).Text; })));
-    fields.push_back(BooleanMember(
-        "AxisTitleVisible", [title](Part part) -> auto& { return title(part).Visible; }));
+    fields.push_back(
+        AsTitle(TextMember("AxisTitleText", [title](Part part) -> auto& { return title(part).Text; })));
+    fields.push_back(
+        BooleanMember("AxisTitleVisible", [title](Part part) -> auto& { return title(part).Visible; }));
     fields.push_back(Enumeration(
         "AxisTitleOrientation", [title](Part part) -> auto& { return title(part).TextLayout.Orientation; },
         ToOrientation));
-    Append(fields, FontFields(
-                       "AxisTitle", [title](Part part) -> auto& { return title(part).VtFont; }));
-    Append(fields, FontFields(
-                       "AxisLabels", [](Part part) -> auto& { return AxisOf(part).Labels.Item(1).VtFont; }));
+    Append(fields, FontFields("AxisTitle", [title](Part part) -> auto& { return title(part).VtFont; }));
+    Append(fields,
+           FontFields("AxisLabels", [](Part part) -> auto& { return AxisOf(part).Labels.Item(1).VtFont; }));
     return look;
 }
 

@@ -26,7 +26,7 @@ GraphTypesRow Switch(QCheckBox* box, const std::function<bool(const Chart&)>& re
 }
 
 /// An option whose state a chart does not keep.
-GraphTypesRow Option(QCheckBox* box, std::int16_t LookState::*state, void (*operation)(Chart&, Truth)) {
+GraphTypesRow Option(QCheckBox* box, std::int16_t LookState::* state, void (*operation)(Chart&, Truth)) {
     return {box, [state](const LookState& look) { return look.*state != 0 ? 1 : 0; },
             [state, operation](LookState& look, int on) {
                 operation(look.chart, TruthOf(on));
@@ -78,7 +78,7 @@ const DataPointLabel& LabelOf(const Series& series) {
 
 /// Shows what all series' labels have; the value of number 0 where they differ, or where there is none.
 template<class Value>
-GraphTypesRow LabelChoice(QComboBox* list, Value DataPointLabel::*member, Value (*checked)(int)) {
+GraphTypesRow LabelChoice(QComboBox* list, Value DataPointLabel::* member, Value (*checked)(int)) {
     return Choice(
         list,
         [member](const Chart& chart) {

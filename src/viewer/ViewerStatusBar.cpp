@@ -16,10 +16,9 @@ constexpr int RuleMargin = 4;
 } // namespace
 
 ViewerStatusBar::ViewerStatusBar(QWidget* parent)
-    : QStatusBar(parent), panels_{new StatusPanel(LeastWidth, MostWidth, this),
-                                  new StatusPanel(LeastWidth, MostWidth, this),
-                                  new StatusPanel(0, MostWidth, this),
-                                  new StatusPanel(LeastWidth, 8 * MostWidth, this)} {
+    : QStatusBar(parent),
+      panels_{new StatusPanel(LeastWidth, MostWidth, this), new StatusPanel(LeastWidth, MostWidth, this),
+              new StatusPanel(0, MostWidth, this), new StatusPanel(LeastWidth, 8 * MostWidth, this)} {
     for (int number = 1; number <= 4; ++number) {
         StatusPanel& panel = Panel(number);
         panel.setObjectName(QStringLiteral("sbGraphPanel%1").arg(number));

@@ -64,8 +64,8 @@ FieldValue RandomValue(std::mt19937& random, const LookField& field) {
     case FieldKind::Text:
         return field.name.endsWith(QLatin1String("FontName"))
                    ? OneOf<QString>(random, {QStringLiteral("Arial"), QStringLiteral("Courier New")})
-                   : OneOf<QString>(
-                         random, {QString(), QStringLiteral("Text"), QStringLiteral("it's 100 % ü 😀\nnext")});
+                   : OneOf<QString>(random, {QString(), QStringLiteral("Text"),
+                                             QStringLiteral("it's 100 % ü 😀\nnext")});
     case FieldKind::Boolean:
         return Below(random, 2) == 1;
     case FieldKind::Integer:

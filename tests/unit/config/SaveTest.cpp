@@ -158,7 +158,7 @@ TEST_P(SaveTest, AnEmptyNameIsLeftToTheDatabaseWhichTakesIt) {
 }
 
 TEST_P(SaveTest, NamesAreStoredAndFoundAsTheyAre) {
-    const QStringList names{T("it's"),    T("\"quoted\""), T("a;b -- c"),   T("100%"),          T("_"),
+    const QStringList names{T("it's"),     T("\"quoted\""), T("a;b -- c"),   T("100%"),          T("_"),
                             T("😀 emoji"), T("  blanks  "), T("two\nlines"), QString(2000, u'n')};
     Fill(viewer, 1, 1);
     for (const QString& name : names) {

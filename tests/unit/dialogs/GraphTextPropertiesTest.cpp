@@ -31,9 +31,8 @@ protected:
     }
 
     TextTarget Title() {
-        return [this] {
-            return TextElement{&chart.Title.Text, &chart.Title.VtFont, &chart.Title.TextLayout};
-        };
+        return
+            [this] { return TextElement{&chart.Title.Text, &chart.Title.VtFont, &chart.Title.TextLayout}; };
     }
     TextTarget Legend() {
         return [this] { return TextElement{nullptr, &chart.Legend.VtFont, &chart.Legend.TextLayout}; };

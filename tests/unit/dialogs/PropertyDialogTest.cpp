@@ -36,11 +36,8 @@ protected:
     void EditTitle(QWidget* owner = nullptr) {
         GraphTextProperties dialog(owner);
         Title& title = viewer.Model().Title;
-        dialog.Execute(
-            [&] {
-                return TextElement{&title.Text, &title.VtFont, &title.TextLayout};
-            },
-            true, true, true);
+        dialog.Execute([&] { return TextElement{&title.Text, &title.VtFont, &title.TextLayout}; }, true, true,
+                       true);
         cancelled = dialog.Cancelled();
     }
     void EditSeries() {
@@ -241,11 +238,8 @@ TEST_F(PropertyDialogTest, WritesNothingMoreWhenTheOwnerGoesAwayOnceApplyHasWrit
     QObject::connect(&dialog, &PropertyDialog::Written, [&] { owner.reset(); });
     desktop.deals = {Apply, Ok};
     Title& title = viewer.Model().Title;
-    dialog.Execute(
-        [&] {
-            return TextElement{&title.Text, &title.VtFont, &title.TextLayout};
-        },
-        true, true, true);
+    dialog.Execute([&] { return TextElement{&title.Text, &title.VtFont, &title.TextLayout}; }, true, true,
+                   true);
     EXPECT_EQ(desktop.shown, 1);
     EXPECT_TRUE(dialog.Cancelled());
 }
