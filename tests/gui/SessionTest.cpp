@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/Layout.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
+#include "desktop/CurrentDesktop.h"
 #include "qmchart6/QMChartArray.h"
 #include "support/ChartDesk.h"
 #include "support/Golden.h"

@@ -6,6 +6,7 @@
 #include "config/ConfigurationSchema.h"
 #include "config/ConfigurationStore.h"
 #include "desktop/Application.h"
+#include "desktop/CurrentDesktop.h"
 #include "desktop/FontPicker.h"
 #include "desktop/QtDesktop.h"
 #include "dialogs/GraphConfigSave.h"
@@ -60,7 +61,7 @@ public:
 
     std::optional<FontChoice> PickFont(QWidget* owner, const FontChoice& start,
                                        const FontPickerTexts& texts) override {
-        FontPicker picker(start, texts, owner);
+        FontPicker picker(*this, start, texts, owner);
         RunModal(picker);
         return std::nullopt;
     }

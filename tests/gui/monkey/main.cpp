@@ -1,6 +1,7 @@
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
 #include "desktop/Application.h"
+#include "desktop/CurrentDesktop.h"
 #include "gui/monkey/Monkey.h"
 #include "gui/monkey/RandomDesktop.h"
 #include "support/TestStore.h"

@@ -1,6 +1,7 @@
 #include "StoreTest.h"
 
 #include "chart/ValueLabelFormat.h"
+#include "desktop/CurrentDesktop.h"
 
 using namespace QmChart6;
 

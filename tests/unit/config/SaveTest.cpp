@@ -1,6 +1,7 @@
 #include "StoreTest.h"
 
 #include "config/Look.h"
+#include "desktop/CurrentDesktop.h"
 
 using namespace QmChart6;
 
