@@ -63,6 +63,8 @@ inline constexpr LabelLocations PieLabels{PieOffered,
 /// A kind of chart. What a row does not say is as in most.
 struct ChartKind {
     ChartType type;
+    /// What such a chart is called, in English.
+    const char* name;
     /// What series are drawn as when the type is set; in a combination, the first half of them.
     SeriesType series;
     /// In a combination, what the second half is drawn as.
@@ -90,8 +92,8 @@ inline constexpr std::array LineSeries{S::Line3D, S::Line2D, S::XY2D};
 inline constexpr std::array AreaSeries{S::Area3D, S::Area2D};
 inline constexpr std::array StepSeries{S::Step3D, S::Step2D};
 
-constexpr ChartKind InSpace(ChartType type, SeriesType series, ChartType flat) {
-    return {.type = type, .series = series, .form = ChartForm::Space, .flat = flat};
+constexpr ChartKind InSpace(ChartType type, const char* name, SeriesType series, ChartType flat) {
+    return {.type = type, .name = name, .series = series, .form = ChartForm::Space, .flat = flat};
 }
 
 } // namespace KindRows
@@ -114,29 +116,35 @@ inline constexpr std::array MarkKinds{
 inline constexpr std::array ChartKinds = [] {
     using namespace KindRows;
     return std::array{
-        InSpace(T::Bar3D, S::Bar3D, T::Bar2D),
-        ChartKind{.type = T::Bar2D, .series = S::Bar2D},
-        InSpace(T::Line3D, S::Line3D, T::Line2D),
-        ChartKind{.type = T::Line2D, .series = S::Line2D, .offersLines = true},
-        InSpace(T::Area3D, S::Area3D, T::Area2D),
-        ChartKind{.type = T::Area2D, .series = S::Area2D},
-        InSpace(T::Step3D, S::Step3D, T::Step2D),
-        ChartKind{.type = T::Step2D, .series = S::Step2D},
+        InSpace(T::Bar3D, "3D bar chart", S::Bar3D, T::Bar2D),
+        ChartKind{.type = T::Bar2D, .name = "Bar chart", .series = S::Bar2D},
+        InSpace(T::Line3D, "3D line chart", S::Line3D, T::Line2D),
+        ChartKind{.type = T::Line2D, .name = "Line chart", .series = S::Line2D, .offersLines = true},
+        InSpace(T::Area3D, "3D area chart", S::Area3D, T::Area2D),
+        ChartKind{.type = T::Area2D, .name = "Area chart", .series = S::Area2D},
+        InSpace(T::Step3D, "3D step chart", S::Step3D, T::Step2D),
+        ChartKind{.type = T::Step2D, .name = "Step chart", .series = S::Step2D},
         ChartKind{.type = T::Combination3D,
+                  .name = "3D combination chart",
                   .series = S::Bar3D,
                   .laterSeries = S::Line3D,
                   .form = ChartForm::Space,
                   .flat = T::Combination2D,
                   .needsColumns = true},
-        ChartKind{
-            .type = T::Combination2D, .series = S::Bar2D, .laterSeries = S::Line2D, .needsColumns = true},
+        ChartKind{.type = T::Combination2D,
+                  .name = "Combination chart",
+                  .series = S::Bar2D,
+                  .laterSeries = S::Line2D,
+                  .needsColumns = true},
         ChartKind{.type = T::Pie2D,
+                  .name = "Pie chart",
                   .series = S::Pie2D,
                   .form = ChartForm::Pies,
                   .mark = Mark::Pie,
                   .stacks = false,
                   .labels = PieLabels},
         ChartKind{.type = T::XY2D,
+                  .name = "XY chart",
                   .series = S::XY2D,
                   .mark = Mark::XY,
                   .pairsColumns = true,

@@ -18,20 +18,12 @@ struct ChartVocabulary {
 
     QString chart = QStringLiteral("Chart");
     /// What the kinds of chart are called, in the order of their table.
-    std::array<QString, ChartKinds.size()> kinds{
-        QStringLiteral("3D bar chart"),
-        QStringLiteral("Bar chart"),
-        QStringLiteral("3D line chart"),
-        QStringLiteral("Line chart"),
-        QStringLiteral("3D area chart"),
-        QStringLiteral("Area chart"),
-        QStringLiteral("3D step chart"),
-        QStringLiteral("Step chart"),
-        QStringLiteral("3D combination chart"),
-        QStringLiteral("Combination chart"),
-        QStringLiteral("Pie chart"),
-        QStringLiteral("XY chart"),
-    };
+    std::array<QString, ChartKinds.size()> kinds = [] {
+        std::array<QString, ChartKinds.size()> names;
+        for (std::size_t row = 0; row < names.size(); ++row)
+            names[row] = QString::fromLatin1(ChartKinds[row].name);
+        return names;
+    }();
     Counted series{QStringLiteral("%1 series"), QStringLiteral("%1 series")};
     Counted categories{QStringLiteral("%1 category"), QStringLiteral("%1 categories")};
     Counted points{QStringLiteral("%1 point"), QStringLiteral("%1 points")};

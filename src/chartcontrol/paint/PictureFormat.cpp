@@ -10,6 +10,8 @@
 
 #include <QFileInfo>
 
+#include <array>
+
 namespace QmChart6 {
 
 namespace {
@@ -17,14 +19,46 @@ namespace {
 /// Vectors show large data as the screen does at its usual resolution: the same picture in every format.
 constexpr double VectorPixelsPerPoint = 1 / PointsPerPixel;
 
+/// What a picture is written from.
+struct Drawn {
+    const Scene& scene;
+    const TextMeasurer& measurer;
+    const QString& title;
+    int scale;
+};
+
+/// A format: the extension that stands for it, whether it is made of pixels, and its writer.
+struct FormatRow {
+    PictureFormat format;
+    const char* extension;
+    bool isBitmap;
+    QByteArray (*encode)(const Drawn& drawn);
+};
+
+constexpr std::array Formats{
+    FormatRow{PictureFormat::Bmp, "bmp", true,
+              [](const Drawn& drawn) { return EncodeBmp(ImageOfScene(drawn.scene, drawn.scale)); }},
+    FormatRow{PictureFormat::Png, "png", true,
+              [](const Drawn& drawn) { return EncodePng(ImageOfScene(drawn.scene, drawn.scale)); }},
+    FormatRow{PictureFormat::Svg, "svg", false,
+              [](const Drawn& drawn) { return EncodeSvg(drawn.scene, drawn.title); }},
+    FormatRow{PictureFormat::Pdf, "pdf", false,
+              [](const Drawn& drawn) { return EncodePdf(drawn.scene, drawn.title); }},
+    FormatRow{PictureFormat::Emf, "emf", false,
+              [](const Drawn& drawn) { return EncodeEmf(drawn.scene, drawn.measurer); }},
+};
+
+/// The row of a format: they stand in the order of their numbers.
+constexpr const FormatRow& RowOf(PictureFormat format) {
+    return Formats[static_cast<std::size_t>(format)];
+}
+
 } // namespace
 
 PictureFormat FormatOfFileName(const QString& fileName) {
     const QString extension = QFileInfo(fileName).suffix().toLower();
-    if (extension == QLatin1String("bmp")) return PictureFormat::Bmp;
-    if (extension == QLatin1String("png")) return PictureFormat::Png;
-    if (extension == QLatin1String("svg")) return PictureFormat::Svg;
-    if (extension == QLatin1String("pdf")) return PictureFormat::Pdf;
+    for (const FormatRow& row : Formats)
+        if (extension == QLatin1String(row.extension)) return row.format;
     return PictureFormat::Emf;
 }
 
@@ -43,26 +77,13 @@ QByteArray EncodePicture(const Picture& picture, PictureFormat format, int scale
                            QStringLiteral("a picture is at least 1 by 1, not %1 by %2")
                                .arg(picture.width)
                                .arg(picture.height));
-    const bool bitmap = format == PictureFormat::Bmp || format == PictureFormat::Png;
+    const FormatRow& row = RowOf(format);
     const QtTextMeasurer measurer;
-    const Scene scene = LayOut(picture.chart,
-                               {{picture.width * PointsPerPixel, picture.height * PointsPerPixel},
-                                bitmap ? scale / PointsPerPixel : VectorPixelsPerPoint},
-                               measurer)
-                            .scene;
-    switch (format) {
-    case PictureFormat::Bmp:
-        return EncodeBmp(ImageOfScene(scene, scale));
-    case PictureFormat::Png:
-        return EncodePng(ImageOfScene(scene, scale));
-    case PictureFormat::Svg:
-        return EncodeSvg(scene, picture.chart.Title.Text);
-    case PictureFormat::Pdf:
-        return EncodePdf(scene, picture.chart.Title.Text);
-    case PictureFormat::Emf:
-        return EncodeEmf(scene, measurer);
-    }
-    return {};
+    const LaidOutChart laidOut = LayOut(picture.chart,
+                                        {{picture.width * PointsPerPixel, picture.height * PointsPerPixel},
+                                         row.isBitmap ? scale / PointsPerPixel : VectorPixelsPerPoint},
+                                        measurer);
+    return row.encode({laidOut.scene, measurer, picture.chart.Title.Text, scale});
 }
 
 void SavePicture(const Picture& picture, const QString& fileName) {

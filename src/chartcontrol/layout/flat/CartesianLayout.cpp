@@ -8,7 +8,6 @@
 #include "chartcontrol/layout/flat/StatisticsLines.h"
 
 #include <algorithm>
-#include <array>
 
 namespace QmChart6 {
 
@@ -33,23 +32,6 @@ bool MayOverflow(const Chart& chart) {
         if (!chart.Plot.Axis(id).ValueScale.Auto) return true;
     return false;
 }
-
-/// How a mark is drawn: all its series at once, or each by itself, and how many points a sample of it takes.
-struct Drawing {
-    Mark mark;
-    double points = 1;
-    void (*all)(const PlotContext& context, const std::vector<int>& series) = nullptr;
-    void (*one)(const PlotContext& context, int series) = nullptr;
-};
-
-/// What is drawn at once comes first, in this order; then the others, in the order of the series.
-constexpr std::array Drawings{
-    Drawing{.mark = Mark::Area, .points = 2, .all = LayOutAreas},
-    Drawing{.mark = Mark::Bar, .points = 0, .all = LayOutBars},
-    Drawing{.mark = Mark::Line, .one = LayOutLine},
-    Drawing{.mark = Mark::Step, .points = 2, .one = LayOutStep},
-    Drawing{.mark = Mark::XY, .one = LayOutXY},
-};
 
 const Drawing* DrawingOf(Mark mark) {
     const auto found = std::find_if(Drawings.begin(), Drawings.end(),
