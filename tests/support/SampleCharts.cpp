@@ -387,10 +387,10 @@ const std::vector<Sample>& All() {
     return samples;
 }
 
-const Sample& Named(const std::string& name) {
+const Sample& Named(std::string_view name) {
     for (const Sample& sample : All())
         if (sample.name == name) return sample;
-    throw std::logic_error("there is no sample " + name);
+    throw std::logic_error("there is no sample " + std::string(name));
 }
 
 } // namespace QmChart6::Samples

@@ -6,6 +6,7 @@
 #include <limits>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace QmChart6::Samples {
@@ -28,7 +29,7 @@ inline void PrintTo(const Sample& sample, std::ostream* out) {
 const std::vector<Sample>& All();
 
 /// The sample of a name; a name that is not there is a test's own mistake and ends it.
-const Sample& Named(const std::string& name);
+const Sample& Named(std::string_view name);
 
 /// The sample's name as one of a parameterized test: letters, digits and underscores.
 struct TestName {

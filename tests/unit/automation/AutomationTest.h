@@ -21,7 +21,9 @@ protected:
     }
 
     static QmChart6::GraphForm* Viewer(QString id) { return QmChart6::FindViewer(id).get(); }
-    static const QmChart6::Chart& ChartOf(QString id) { return Viewer(id)->ChartImage().Model(); }
+    static const QmChart6::Chart& ChartOf(const char* id) {
+        return Viewer(QLatin1String(id))->ChartImage().Model();
+    }
 
     QmChart6::QMChartArray charts;
     ScriptedDesktop desktop;

@@ -68,7 +68,7 @@ TEST_F(GraphFlowsTest, MakingAGraphShowsItWithTitlesCaptionAndDefaultLook) {
     const GraphForm* viewer = Viewer(QStringLiteral("a"));
     EXPECT_TRUE(viewer->isVisible());
     EXPECT_EQ(viewer->windowTitle(), QStringLiteral("Viewer do Gráfico"));
-    const Chart& chart = ChartOf(QStringLiteral("a"));
+    const Chart& chart = ChartOf("a");
     EXPECT_EQ(chart.Title.Text, "Title");
     EXPECT_EQ(chart.Plot.Axis(AxisId::X).AxisTitle.Text, "Rows");
     EXPECT_EQ(chart.Plot.Axis(AxisId::Y).AxisTitle.Text, "Values");
@@ -85,8 +85,8 @@ TEST_F(GraphFlowsTest, ALegendStaysOnWhenAReusedViewerGetsOneSeries) {
     Make(QStringLiteral("a"));
     charts.QmMakeGraph(QStringLiteral("a"), 3, 1, Numbers(3, 1), rowLabels, columnLabels, title, rowTitle,
                        columnTitle, valueTitle);
-    EXPECT_EQ(ChartOf(QStringLiteral("a")).ColumnCount(), 1);
-    EXPECT_TRUE(ChartOf(QStringLiteral("a")).ShowLegend);
+    EXPECT_EQ(ChartOf("a").ColumnCount(), 1);
+    EXPECT_TRUE(ChartOf("a").ShowLegend);
 }
 
 TEST_F(GraphFlowsTest, MakingAGraphForAMinimizedViewerRestoresItToNormalSize) {
@@ -108,13 +108,13 @@ TEST_F(GraphFlowsTest, AStoredLookIsLoadedWithItsTitlesForTheExactValue2Only) {
     StoreLook(QStringLiteral("a"));
     for (const int useConfig : {1, 2, 3, 255}) {
         Make(QStringLiteral("a"), std::int16_t{0}, static_cast<std::uint8_t>(useConfig));
-        const Chart& chart = ChartOf(QStringLiteral("a"));
+        const Chart& chart = ChartOf("a");
         EXPECT_EQ(chart.Title.Text, useConfig == 2 ? "Stored" : "Title") << useConfig;
         EXPECT_EQ(chart.chartType(), ChartType::Line2D) << useConfig;
         charts.QmKillGraph(QStringLiteral("a"));
     }
     Make(QStringLiteral("a"));
-    EXPECT_EQ(ChartOf(QStringLiteral("a")).chartType(), ChartType::Bar2D);
+    EXPECT_EQ(ChartOf("a").chartType(), ChartType::Bar2D);
 }
 
 TEST_F(GraphFlowsTest, WithoutADatabaseAMessageTellsSoAndTheChartIsShown) {
@@ -132,14 +132,14 @@ TEST_F(GraphFlowsTest, TheValueLabelFormatFollowsTheData) {
     charts.QmMakeGraph(QStringLiteral("a"), 1, 1, Array<double>::Table(1, 1, {2.5}, 1, 1), rowLabels,
                        columnLabels, title, rowTitle, columnTitle, valueTitle);
     EXPECT_EQ(ValueLabelFormat(), "0.00");
-    EXPECT_EQ(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).Labels.Item(1).Format, "0.00");
+    EXPECT_EQ(ChartOf("a").Plot.Axis(AxisId::Y).Labels.Item(1).Format, "0.00");
 }
 
 TEST_F(GraphFlowsTest, AZeroBasedTableIsFilledFromItsFirstElementAndThenRaises9) {
     EXPECT_RAISES(9, (charts.QmMakeGraph(QStringLiteral("a"), 3, 2, Numbers(3, 2, 0), rowLabels, columnLabels,
                                          title, rowTitle, columnTitle, valueTitle),
                       0));
-    EXPECT_EQ(ChartOf(QStringLiteral("a")).DataGrid.Value(3, 2), 32);
+    EXPECT_EQ(ChartOf("a").DataGrid.Value(3, 2), 32);
     EXPECT_EQ(Viewer(QStringLiteral("a"))->windowTitle(), "Chart Viewer");
 }
 
@@ -148,7 +148,7 @@ TEST_F(GraphFlowsTest, AnErrorLeavesTheViewerOpenAndUsable) {
                                          rowTitle, columnTitle, valueTitle),
                       0));
     ASSERT_NE(Viewer(QStringLiteral("a")), nullptr);
-    EXPECT_EQ(ChartOf(QStringLiteral("a")).DataGrid.Value(3, 2), 32);
+    EXPECT_EQ(ChartOf("a").DataGrid.Value(3, 2), 32);
     EXPECT_TRUE(Viewer(QStringLiteral("a"))->ChartImage().Repaint());
     Make(QStringLiteral("a"));
     EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
@@ -204,8 +204,7 @@ TEST_F(GraphFlowsTest, AFailedSaveKeepsTheViewerWithItsCaptionAndLook) {
     ASSERT_NE(viewer, nullptr);
     EXPECT_FALSE(viewer->isVisible());
     EXPECT_EQ(viewer->windowTitle(), "SALES - Graph Viewer");
-    EXPECT_NE(ChartOf(QStringLiteral("sales")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style,
-              PenStyle::Dotted);
+    EXPECT_NE(ChartOf("sales").Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
     Make(QStringLiteral("sales"));
     EXPECT_TRUE(viewer->isVisible());
 }

@@ -38,14 +38,14 @@ TEST_F(QMChartArrayTest, MkGrGivesTheSameChartWithAnyConfigId) {
                   rowTitle);
     charts.QmMkGr(QStringLiteral("b"), QStringLiteral("Quarterly"), 3, 2, data, rowLabels, columnLabels,
                   title, valueTitle, rowTitle);
-    EXPECT_EQ(ChartOf(QStringLiteral("a")), ChartOf(QStringLiteral("b")));
+    EXPECT_EQ(ChartOf("a"), ChartOf("b"));
     EXPECT_EQ(Viewer(QStringLiteral("b"))->QmConfig(), "");
 }
 
 TEST_F(QMChartArrayTest, MkGrTakesTheValueTitleBeforeTheRowTitleAndHasNoColumnTitle) {
     charts.QmMkGr(QStringLiteral("a"), QString(), 3, 2, data, rowLabels, columnLabels, title, valueTitle,
                   rowTitle);
-    const Plot& plot = ChartOf(QStringLiteral("a")).Plot;
+    const Plot& plot = ChartOf("a").Plot;
     EXPECT_EQ(plot.Axis(AxisId::X).AxisTitle.Text, rowTitle);
     EXPECT_EQ(plot.Axis(AxisId::Y).AxisTitle.Text, valueTitle);
     EXPECT_EQ(plot.Axis(AxisId::Z).AxisTitle.Text, "");
@@ -58,7 +58,7 @@ TEST_F(QMChartArrayTest, MkGrGivesASpanishCaptionAndTheDefaultLook) {
     EXPECT_EQ(Viewer(QStringLiteral("a"))->windowTitle(), "Chart Viewer");
     EXPECT_EQ(Viewer(QStringLiteral("a"))->findChild<QAction*>(QStringLiteral("optControlBar"))->text(),
               LocalText(TextKey::ControlBar));
-    EXPECT_EQ(ChartOf(QStringLiteral("a")).Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
+    EXPECT_EQ(ChartOf("a").Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style, PenStyle::Dotted);
     EXPECT_TRUE(desktop.messages.isEmpty());
 }
 

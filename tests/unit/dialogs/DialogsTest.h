@@ -29,7 +29,7 @@ public:
     void RunModal(QDialog& dialog) override {
         ++shown;
         dialog.show();
-        QApplication::setActiveWindow(&dialog);
+        dialog.activateWindow();
         QApplication::processEvents();
         if (!deals.empty()) {
             const Deal deal = deals.front();

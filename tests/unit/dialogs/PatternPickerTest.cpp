@@ -15,7 +15,7 @@ protected:
     PatternPickerTest() {
         picker.SetColours({200, 0, 0}, {255, 255, 255});
         picker.show();
-        QApplication::setActiveWindow(&picker);
+        picker.activateWindow();
         picker.setFocus();
     }
 
