@@ -156,20 +156,21 @@ void GraphTypes::ChooseKind() {
     EnableForKind(kind);
     if (SampleHasOneColumn()) {
         // A pie's slices are the rows of its one column.
-        form_.CSeriesInRows->setChecked(kind == ChartType::Pie2D);
-        form_.CSeriesInRows->setEnabled(kind == ChartType::Pie2D);
+        const bool pie = KindOf(kind).form == ChartForm::Pies;
+        form_.CSeriesInRows->setChecked(pie);
+        form_.CSeriesInRows->setEnabled(pie);
     }
     if (sample_.chart.chartType() != kind) sample_.chart.SetChartType(kind);
     RefillLabels(kind);
     RefreshSample();
 }
 
-void GraphTypes::EnableForKind(ChartType kind) {
-    const bool pie = kind == ChartType::Pie2D;
-    const bool scatter = kind == ChartType::XY2D;
-    form_.CShowLines->setEnabled(scatter || kind == ChartType::Line2D);
+void GraphTypes::EnableForKind(ChartType type) {
+    const ChartKind& kind = KindOf(type);
+    const bool pie = kind.form == ChartForm::Pies;
+    form_.CShowLines->setEnabled(kind.offersLines);
     form_.CShowMarkers->setEnabled(!pie);
-    form_.CStackSeries->setEnabled(!scatter && !pie);
+    form_.CStackSeries->setEnabled(kind.stacks);
     form_.cbPiePos->setEnabled(pie);
     form_.lblPieLabel->setEnabled(pie);
 }

@@ -44,7 +44,7 @@ private:
     void FillKinds(int index);
     void ChooseDimension();
     void ChooseKind();
-    void EnableForKind(ChartType kind);
+    void EnableForKind(ChartType type);
     void RefillLabels(ChartType kind);
     /// Does to the sample what choosing a value does to a look.
     void Follow(const GraphTypesRow& row);

@@ -73,7 +73,7 @@ void ControlBarCommands::ChooseType() {
     FitDataLabelLocations(chart);
     if (chart.ColumnCount() == 1) {
         // One column as a pie is one pie of its rows; nobody has to find that out by hand.
-        bar_.Press(BarButton::Flip, chart.chartType() == ChartType::Pie2D);
+        bar_.Press(BarButton::Flip, KindOf(chart.chartType()).form == ChartForm::Pies);
         bar_.Button(BarButton::Flip)->setEnabled(false);
         SwitchSeriesInRows();
     }
