@@ -17,6 +17,12 @@ namespace QmChart6 {
 
 namespace {
 
+/// Where a folder's looks are, ready to be asked: databases need an application.
+QString StoreOf(const QString& folder) {
+    EnsureAnyApplication();
+    return ConfigurationFileName(folder);
+}
+
 void RequireLook(const QString& location, const QString& name) {
     if (!LookExists(location, name))
         throw RuntimeError(ErrorNumber::ResourceNotFound,
@@ -72,36 +78,36 @@ Look ReadStored(const QString& location, const QString& name) {
 } // namespace
 
 void CreateLookStore(const QString& folder) {
-    CreateDatabase(ConfigurationFileName(folder), ConfigurationSchema());
+    CreateDatabase(StoreOf(folder), ConfigurationSchema());
 }
 
 QStringList LookNames(const QString& folder) {
     QStringList names;
-    ListLooks(ConfigurationFileName(folder), names);
+    ListLooks(StoreOf(folder), names);
     return names;
 }
 
 void DeleteStoredLook(const QString& folder, const QString& name) {
-    const QString location = ConfigurationFileName(folder);
+    const QString location = StoreOf(folder);
     RequireLook(location, name);
     DeleteLook(location, name);
 }
 
 QList<GraphBinding> GraphBindings(const QString& folder) {
     QList<GraphBinding> bindings;
-    for (const LookBinding& binding : LookBindings(ConfigurationFileName(folder)))
+    for (const LookBinding& binding : LookBindings(StoreOf(folder)))
         bindings.append({binding.graphId, binding.name});
     return bindings;
 }
 
 void BindGraph(const QString& folder, const QString& graphId, const QString& name) {
-    const QString location = ConfigurationFileName(folder);
+    const QString location = StoreOf(folder);
     RequireLook(location, name);
     BindLook(location, graphId.trimmed().toUpper(), name);
 }
 
 QByteArray ExportLook(const QString& folder, const QString& name) {
-    const QString location = ConfigurationFileName(folder);
+    const QString location = StoreOf(folder);
     RequireLook(location, name);
     return WriteLookJson({name, ReadStored(location, name)});
 }
@@ -115,7 +121,7 @@ QString ImportLook(const QString& folder, const QByteArray& look, const QString&
                            QStringLiteral("the look has no name; give it one, or a field \"%1\"")
                                .arg(QLatin1String(LookNameField)));
     const Look complete = Complete(named.look);
-    Database database(ConfigurationFileName(folder), ConfigurationSchema());
+    Database database(StoreOf(folder), ConfigurationSchema());
     StoredLook stored(database, kept);
     Database::Writing writing(database, QLatin1String(BindingsTable));
     CopyLook(complete, stored);
@@ -124,7 +130,7 @@ QString ImportLook(const QString& folder, const QByteArray& look, const QString&
 }
 
 CopiedStore CopyLookStore(const QString& from, const QString& to) {
-    const CopiedLooks copied = CopyLooks(ConfigurationFileName(from), ConfigurationFileName(to));
+    const CopiedLooks copied = CopyLooks(StoreOf(from), StoreOf(to));
     return {copied.looks, copied.bindings};
 }
 

@@ -53,8 +53,12 @@ void MakeApplication() {
 
 } // namespace
 
-void EnsureApplication() {
+void EnsureAnyApplication() {
     if (QCoreApplication::instance() == nullptr) MakeApplication();
+}
+
+void EnsureApplication() {
+    EnsureAnyApplication();
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
         throw RuntimeError(ErrorNumber::InvalidProcedureCall,
                            QStringLiteral("the host's application object must be a QApplication"));

@@ -7,6 +7,10 @@ namespace QmChart6 {
 /// has an application object without widgets.
 void EnsureApplication();
 
+/// The same where the host has no application object at all; any kind that it has will do. For what shows
+/// nothing, but works with parts of Qt that need one.
+void EnsureAnyApplication();
+
 /// Whether windows can be seen. Makes the application where there is none.
 bool RunsOnADisplay();
 
