@@ -11,8 +11,9 @@ import time
 import unittest
 
 QMCHART = os.environ["QMCHART"]
+# Seconds: until something that hangs is ended, and until a key that did nothing is pressed again.
 LIMIT = 60
-PRESS_AGAIN = 5  # seconds until something that hangs is ended
+PRESS_AGAIN = 5
 TABLE = "Year,North,South\n2001,1.5,2\n2002,-3,4\n2003,NA,5\n"
 
 
