@@ -36,7 +36,7 @@ enum class SeriesType {
 };
 
 enum class AxisId { X = 0, Y = 1, SecondaryY = 2, Z = 3 };
-enum class ScaleType { Linear = 0, Percent = 2 };
+enum class ScaleType { Linear = 0, Logarithmic = 1, Percent = 2 };
 enum class PercentBasis {
     MaximumOfChart = 0,
     MaximumOfRow = 1,

@@ -30,6 +30,9 @@ struct Plot {
     /// Room between the clusters of two categories, in percent of a bar's width.
     double BarGap = 0;
     double XGap = 80;
+    /// The names of lines stand at their ends, where all of them fit, in place of a legend that nobody asked
+    /// for.
+    bool DirectNames = false;
     QmChart6::SeriesCollection SeriesCollection;
 
     /// The axis of an id from 0 to 3; another id raises error 5, another index than 1 error 9.
