@@ -1,7 +1,9 @@
 #include "chartcontrol/layout/Layout.h"
 
+#include "chartcontrol/layout/data/DarkGround.h"
 #include "chartcontrol/layout/data/LayoutContext.h"
 #include "chartcontrol/layout/flat/CartesianLayout.h"
+#include "chartcontrol/layout/flat/DirectNames.h"
 #include "chartcontrol/layout/pie/PieLayout.h"
 #include "chartcontrol/layout/space/SpaceLayout.h"
 #include "chartcontrol/layout/text/BackdropLayout.h"
@@ -45,9 +47,14 @@ PointPlaces LayOutPlot(const LayoutContext& context, const Box& box) {
                              : PointPlaces(FlatPlaces(std::move(plot)));
 }
 
-} // namespace
+/// A legend that is asked for; or one in place of names that do not fit at the ends of their lines.
+bool NeedsLegend(const LayoutContext& context, const Box& free) {
+    if (context.chart.ShowLegend) return true;
+    const bool named = context.chart.Plot.DirectNames && context.chart.Plot.SeriesCollection.Count() > 1;
+    return named && !(DirectNamesWidth(context, free) > 0);
+}
 
-LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+LaidOutChart LayOutDressed(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
     LaidOutChart laidOut;
     laidOut.scene.size = request.size;
     if (!(request.size.width >= 1 && request.size.height >= 1)) return laidOut;
@@ -59,7 +66,7 @@ LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const Text
     Box free = whole.Grown(-(FrameDepth(chart.Backdrop.Frame) + margin));
     LayOutTitle(context, chart.Title, PartCode::Title, free);
     LayOutTitle(context, chart.Footnote, PartCode::Footnote, free);
-    LayOutLegend(context, free);
+    if (NeedsLegend(context, free)) LayOutLegend(context, free);
     const Box box = PlotBox(chart, free, whole);
     if (box.Width() < 1 || box.Height() < 1) {
         builder.Warn(QStringLiteral("the chart is too small for its plot"));
@@ -67,6 +74,13 @@ LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const Text
     }
     laidOut.places = LayOutPlot(context, box);
     return laidOut;
+}
+
+} // namespace
+
+LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+    const std::optional<Chart> dressed = DressedForDark(chart);
+    return LayOutDressed(dressed ? *dressed : chart, request, measurer);
 }
 
 } // namespace QmChart6

@@ -113,11 +113,11 @@ Box BoundsOf(const TextLine& text) {
 }
 
 SceneFill SolidFill(Colour colour) {
-    return {BrushStyle::Solid, 0, colour, {}};
+    return {BrushStyle::Solid, 0, colour, {}, 1};
 }
 
 SceneFill FillOf(const Brush& brush) {
-    return {brush.Style, brush.Index, brush.FillColor, brush.PatternColor};
+    return {brush.Style, brush.Index, brush.FillColor, brush.PatternColor, 1};
 }
 
 Stroke StrokeOf(const Pen& pen) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 
 namespace QmChart6 {
 
@@ -21,6 +22,7 @@ public:
     /// Points go in one by one between Begin and the shape that takes them.
     void AddPoint(Point point) { scene_.points.push_back(point); }
     [[nodiscard]] std::size_t PendingPoints() const { return scene_.points.size() - taken_; }
+    [[nodiscard]] std::span<const Point> Pending() const { return std::span(scene_.points).subspan(taken_); }
     void DropPendingPoints() { scene_.points.resize(taken_); }
 
     // Take all pending points. Without any, nothing is added.

@@ -1,5 +1,8 @@
 #include "chartcontrol/layout/axes/AxesPlan.h"
 
+#include "chartcontrol/layout/axes/HeadRoom.h"
+#include "chartcontrol/layout/axes/SlotGrid.h"
+
 #include <algorithm>
 
 namespace QmChart6 {
@@ -19,8 +22,11 @@ constexpr int MostPasses = 8;
 
 class AxesPlanner {
 public:
-    AxesPlanner(const LayoutContext& context, const PlotDemand& demand, const Box& box, Furniture furniture)
-        : context_(context), demand_(demand), box_(box), furniture_(furniture) {
+    AxesPlanner(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                const Box& box, Furniture furniture)
+        : context_(context), demand_(demand), box_(box), furniture_(furniture),
+          primaryRoom_(HeadRoomOf(context, plotted, false)),
+          secondaryRoom_(HeadRoomOf(context, plotted, true)) {
         plan_.showX = Shown(AxisId::X);
         plan_.showY = Shown(AxisId::Y);
         plan_.showSecondary = Shown(AxisId::SecondaryY);
@@ -103,16 +109,20 @@ private:
         plan_.area.slot = box.Width() / (demand_.onEnds ? count - 1 : count);
         plan_.area.firstX = demand_.onEnds ? box.left : box.left + plan_.area.slot / 2;
         plan_.area.pixelsPerPoint = context_.request.pixelsPerPoint;
+        if (demand_.hasBars) SnapSlots(plan_.area, count);
     }
 
     void PlanUpright() {
         const double length = plan_.area.box.Height();
+        const ValueRange primary = WithHeadRoom(demand_.primary, primaryRoom_, demand_.keepZero, length);
         plan_.primary =
-            PlanValueAxis(context_, AxisOf(AxisId::Y), {demand_.primary, demand_.keepZero, length, false});
+            PlanValueAxis(context_, AxisOf(AxisId::Y), {primary, demand_.keepZero, length, false});
         // Without series of its own the second axis mirrors the first.
-        plan_.secondary = PlanValueAxis(
-            context_, AxisOf(AxisId::SecondaryY),
-            {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
+        const ValueRange secondary =
+            demand_.usesSecondary ? WithHeadRoom(demand_.secondary, secondaryRoom_, demand_.keepZero, length)
+                                  : primary;
+        plan_.secondary =
+            PlanValueAxis(context_, AxisOf(AxisId::SecondaryY), {secondary, demand_.keepZero, length, false});
     }
 
     void PlanAcross() {
@@ -162,6 +172,8 @@ private:
     const PlotDemand& demand_;
     Box box_;
     Furniture furniture_;
+    HeadRoom primaryRoom_;
+    HeadRoom secondaryRoom_;
     bool named_ = false; // whether any category has a label
     Box margins_;
     AxesPlan plan_;
@@ -177,9 +189,9 @@ double AxesPlan::TitleGap(const Axis& axis) {
     return TitleGapShare * axis.AxisTitle.VtFont.Size;
 }
 
-AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const Box& box,
-                  Furniture furniture) {
-    return AxesPlanner(context, demand, box, furniture).Run();
+AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                  const Box& box, Furniture furniture) {
+    return AxesPlanner(context, demand, plotted, box, furniture).Run();
 }
 
 } // namespace QmChart6

@@ -18,6 +18,8 @@ struct PlotDemand {
     bool onEnds = false;
     bool keepZero = false;
     bool usesSecondary = false;
+    /// Bars share the slots of the categories.
+    bool hasBars = false;
     ValueRange across;
     ValueRange primary;
     ValueRange secondary;
@@ -51,7 +53,7 @@ struct AxesPlan {
     static double TitleGap(const Axis& axis);
 };
 
-AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const Box& box,
-                  Furniture furniture);
+AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                  const Box& box, Furniture furniture);
 
 } // namespace QmChart6

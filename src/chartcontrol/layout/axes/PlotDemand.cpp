@@ -31,11 +31,14 @@ void IncludePairs(PlotDemand& demand, const Chart& chart, int number) {
     upright.Include(y);
 }
 
-/// Whether the first and the last category stand on the ends of the axis: where all series are areas.
+/// Whether the first and the last category stand on the ends of the axis: where all series are areas, or
+/// lines that bear their names at their ends.
 bool StandsOnEnds(const Chart& chart) {
     const int count = chart.Plot.SeriesCollection.Count();
-    for (int number = 1; number <= count; ++number)
-        if (!KindOf(MarkOfSeries(chart, number)).reachesEnds) return false;
+    for (int number = 1; number <= count; ++number) {
+        const Mark mark = MarkOfSeries(chart, number);
+        if (!KindOf(mark).reachesEnds && !(chart.Plot.DirectNames && mark == Mark::Line)) return false;
+    }
     return count > 0 && chart.CategoryCount() > 1;
 }
 
@@ -50,6 +53,7 @@ PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted) {
         demand.series.push_back(number);
         demand.keepZero = demand.keepZero || KindOf(plotted.MarkOf(number)).standsOnZero;
         demand.usesSecondary = demand.usesSecondary || plotted.IsSecondary(number);
+        demand.hasBars = demand.hasBars || plotted.MarkOf(number) == Mark::Bar;
         if (demand.pairsColumns)
             IncludePairs(demand, chart, number);
         else

@@ -51,13 +51,21 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
         AddBasePoints(context, number, bases, runs, run);
 }
 
-void AddFill(const PlotContext& context, int number, const Values& bases) {
+/// Areas that may cover each other let the others shine through.
+SceneFill FillOfArea(const Brush& brush, bool alone) {
+    constexpr double translucent = 0.5;
+    SceneFill fill = FillOf(brush);
+    if (!alone && brush.Style == BrushStyle::Solid) fill.opacity = translucent;
+    return fill;
+}
+
+void AddFill(const PlotContext& context, int number, const Values& bases, bool alone = true) {
     const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
     const Runs& runs = *collected;
     const DataPoint& look = context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         AddRun(context, number, runs, run, bases);
-        context.builder.AddPolygon({PartCode::Series, number}, FillOf(look.Brush));
+        context.builder.AddPolygon({PartCode::Series, number}, FillOfArea(look.Brush, alone));
     }
 }
 
@@ -67,8 +75,9 @@ void AddEdges(const PlotContext& context, const std::vector<int>& series) {
         const Runs& runs = *collected;
         for (std::size_t run = 0; run < runs.Count(); ++run) {
             AddEdgePoints(context, number, runs, run);
-            context.builder.AddPolyline({PartCode::Series, number},
-                                        LineStrokeOf(context.chart.Plot.SeriesCollection(number)));
+            context.builder.AddPolyline(
+                {PartCode::Series, number},
+                LineStrokeOf(context.chart, context.chart.Plot.SeriesCollection(number)));
         }
     }
 }
@@ -77,7 +86,7 @@ void AddEdges(const PlotContext& context, const std::vector<int>& series) {
 
 void LayOutAreas(const PlotContext& context, const std::vector<int>& series) {
     if (!context.plotted.IsStacked()) {
-        for (const int number : series) AddFill(context, number, {});
+        for (const int number : series) AddFill(context, number, {}, series.size() == 1);
         AddEdges(context, series);
         return;
     }

@@ -15,7 +15,7 @@ void LayOutRuns(const PlotContext& context, int number, const Runs& runs) {
         for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
             context.builder.AddPoint(
                 {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
-        context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
+        context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(context.chart, series));
     }
 }
 

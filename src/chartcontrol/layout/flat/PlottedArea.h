@@ -4,6 +4,13 @@
 
 namespace QmChart6 {
 
+/// Where a bar stands and where it ends, and whether it would be too small to be seen and is drawn larger.
+struct BarEnds {
+    double base = 0;
+    double end = 0;
+    bool isHairline = false;
+};
+
 /// A plot with axes, finished: its geometry, the values as drawn, and how bars share a slot. All marks are
 /// placed by it, and it tells afterwards where they are.
 struct PlottedArea {
@@ -20,10 +27,12 @@ struct PlottedArea {
         const Values bases = plotted.Base(series);
         return bases.first == nullptr ? BaseY(series) : Y(series, bases[category]);
     }
-    /// Categories are thinner than a device pixel.
-    [[nodiscard]] bool IsDense() const { return area.slot * area.pixelsPerPoint < 1; }
-    /// The bar of a category (from 0) that has a value.
+    /// Bars are thinner than a device pixel.
+    [[nodiscard]] bool HasDenseBars() const { return bars.barWidth * area.pixelsPerPoint < 1; }
+    /// The bar of a category (from 0) that has a value: at least a hairline on its own side of the axis, if
+    /// the value is not zero.
     [[nodiscard]] Box BarOf(int series, int category) const;
+    [[nodiscard]] BarEnds EndsOf(int series, int category) const;
 };
 
 } // namespace QmChart6

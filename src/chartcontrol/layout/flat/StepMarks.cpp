@@ -16,7 +16,7 @@ void LayOutStep(const PlotContext& context, int number) {
             context.builder.AddPoint({x - context.area.slot / 2, y});
             context.builder.AddPoint({x + context.area.slot / 2, y});
         }
-        Stroke stroke = LineStrokeOf(series);
+        Stroke stroke = LineStrokeOf(context.chart, series);
         if (stroke.style == PenStyle::None) stroke.style = PenStyle::Solid;
         context.builder.AddPolyline({PartCode::Series, number}, stroke);
     }

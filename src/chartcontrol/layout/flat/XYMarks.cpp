@@ -48,7 +48,7 @@ private:
 /// The line through the points, interrupted by missing ones. Runs of consecutive points closer than half a
 /// device pixel are one point of the line; a run of a single one is no line. Gives those.
 std::vector<Point> AddLine(const PlotContext& context, int number, const XYPairs& pairs) {
-    const Stroke stroke = LineStrokeOf(context.chart.Plot.SeriesCollection(number));
+    const Stroke stroke = LineStrokeOf(context.chart, context.chart.Plot.SeriesCollection(number));
     const LinearMap& map = context.plot.MapOf(number);
     const double near = 0.5 / context.area.pixelsPerPoint;
     std::vector<Point> alone;
@@ -72,6 +72,30 @@ std::vector<Point> AddLine(const PlotContext& context, int number, const XYPairs
     return alone;
 }
 
+/// How many points lie so close to an earlier one that their markers may overlap.
+int OverlappingPoints(const PlotContext& context, double size) {
+    constexpr double reach = 1.5;
+    PlotArea coarse = context.area;
+    coarse.pixelsPerPoint = 1 / (reach * std::max(1.0, size));
+    PixelSet cells(coarse);
+    int overlapping = 0;
+    for (const Point& point : context.builder.Pending()) overlapping += cells.Take(point) ? 0 : 1;
+    return overlapping;
+}
+
+bool HasInside(MarkerStyle style) {
+    return style != MarkerStyle::Plus && style != MarkerStyle::Cross && style != MarkerStyle::Star;
+}
+
+/// Points that hide each other are drawn hollow; in large crowds that would hide no less.
+bool AreHollow(const PlotContext& context, MarkerStyle style, double size) {
+    constexpr std::size_t crowd = 5000;
+    constexpr double most = 0.15;
+    const std::size_t count = context.builder.PendingPoints();
+    return HasInside(style) && count > 1 && count <= crowd &&
+           OverlappingPoints(context, size) > most * static_cast<double>(count);
+}
+
 void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
     const LinearMap& map = context.plot.MapOf(number);
@@ -88,8 +112,17 @@ void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
         if (pixels.Take(point)) context.builder.AddPoint(point);
     }
     const DataPoint& look = series.DataPoints.Item(DataPoints::All);
-    context.builder.AddMarkers({PartCode::Series, number}, MarkerStyleOf(series, number), look.Marker.Size,
-                               SolidFill(look.Brush.FillColor));
+    const MarkerStyle style = MarkerStyleOf(series, number);
+    const Colour colour = ShownColour(context.chart, look.Brush);
+    const double size = look.Marker.Size;
+    if (!AreHollow(context, style, size)) {
+        context.builder.AddMarkers({PartCode::Series, number}, style, size, SolidFill(colour));
+        return;
+    }
+    constexpr double rimShare = 0.2;
+    const double rim = std::max(1.0, rimShare * size);
+    context.builder.AddMarkers({PartCode::Series, number}, style, size - rim, {},
+                               {PenStyle::Solid, rim, colour});
 }
 
 } // namespace
