@@ -158,7 +158,10 @@ private:
                       PlacesFor(label.LocationType, candidate.anchor, block.Extent(),
                                 label.LineStyle != LabelLineStyle::None));
         if (!found) return false;
-        attempt.ground.Take(found->place.box);
+        const Box& box = found->place.box;
+        attempt.ground.Take(box);
+        if (found->place.stand == LabelStand::Away)
+            attempt.ground.Draw(LineStart(candidate.anchor, box), box.Center());
         attempt.placed.push_back({&candidate, std::move(block), *found});
         return true;
     }
@@ -168,18 +171,13 @@ private:
         const Part part{PartCode::PointLabel, candidate.series, candidate.category + 1};
         const Box& box = label.found.place.box;
         if (label.found.place.stand == LabelStand::Away)
-            AddLabelLine(context_.builder, part, LabelOf(candidate).LineStyle, From(candidate.anchor, box),
-                         box, label.block.font.VtColor);
+            AddLabelLine(context_.builder, part, LabelOf(candidate).LineStyle,
+                         LineStart(candidate.anchor, box), box, label.block.font.VtColor);
         DrawLabel(context_.builder, part, label.block, label.found);
     }
 
     [[nodiscard]] const DataPointLabel& LabelOf(const Candidate& candidate) const {
         return SeriesOf(candidate.series).DataPoints.Item(candidate.category + 1).DataPointLabel;
-    }
-
-    static Point From(const LabelAnchor& anchor, const Box& label) {
-        const double x = anchor.box.Center().x;
-        return {x, label.Center().y < anchor.box.Center().y ? anchor.box.top : anchor.box.bottom};
     }
 
     const PlotContext& context_;

@@ -107,7 +107,7 @@ private:
         const Point at = plan_.Page(anchor);
         const Box box{at.x - size.width / 2, at.y - LabelGap - size.height, at.x + size.width / 2,
                       at.y - LabelGap};
-        if (!ground_.Under(box).free) {
+        if (!ground_.Under(box.Grown(PlateRim)).free) {
             ++omitted_;
             return;
         }

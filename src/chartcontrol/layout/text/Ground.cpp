@@ -19,6 +19,16 @@ constexpr double FaintContrast = 1.7;
 
 } // namespace
 
+/// Places along a line, close to each other.
+template<class Visit>
+void Ground::ForPlaces(Point from, Point to, Visit visit) {
+    constexpr double step = 0.7;
+    const Point way{to.x - from.x, to.y - from.y};
+    const int steps = static_cast<int>(std::hypot(way.x, way.y) / step) + 1;
+    for (int at = 0; at <= steps; ++at)
+        visit(Point{from.x + way.x * at / steps, from.y + way.y * at / steps});
+}
+
 /// Reads one shape after the other into the cells.
 class Ground::Reader {
 public:
@@ -140,17 +150,11 @@ private:
     void Chain(std::span<const Point> points) {
         const Stroke& stroke = shape_->stroke;
         if (stroke.style == PenStyle::None || !IsSeen(stroke.colour)) return;
-        constexpr double step = 0.7;
         const double half = stroke.width / 2;
-        for (std::size_t i = 1; i < points.size(); ++i) {
-            const Point from = points[i - 1];
-            const Point way{points[i].x - from.x, points[i].y - from.y};
-            const int steps = static_cast<int>(std::hypot(way.x, way.y) / step) + 1;
-            for (int at = 0; at <= steps; ++at) {
-                const Point place{from.x + way.x * at / steps, from.y + way.y * at / steps};
+        for (std::size_t i = 1; i < points.size(); ++i)
+            ForPlaces(points[i - 1], points[i], [&](Point place) {
                 Mark({place.x - half, place.y - half, place.x + half, place.y + half}, Line);
-            }
-        }
+            });
     }
 
     Ground& ground_;
@@ -223,6 +227,23 @@ void Ground::Take(const Box& box) {
     const Cells cells = CellsOf(box);
     for (int row = cells.top; row <= cells.bottom; ++row)
         for (int column = cells.left; column <= cells.right; ++column) At(column, row) |= Text;
+}
+
+bool Ground::IsFreeWay(Point from, Point to) const {
+    bool free = room_.Contains(from) && room_.Contains(to);
+    if (!free) return false;
+    ForPlaces(from, to, [&](Point place) {
+        const Cells cells = CellsOf({place.x, place.y, place.x, place.y});
+        free = free && (At(cells.left, cells.top) & Text) == 0;
+    });
+    return free;
+}
+
+void Ground::Draw(Point from, Point to) {
+    ForPlaces(from, to, [this](Point place) {
+        const Cells cells = CellsOf({place.x, place.y, place.x, place.y});
+        if (cells.left <= cells.right && cells.top <= cells.bottom) At(cells.left, cells.top) |= Line;
+    });
 }
 
 std::optional<Part> Ground::PartAt(Point place) const {

@@ -36,6 +36,10 @@ public:
     [[nodiscard]] Footing Under(const Box& box) const;
     /// From now on text stands there.
     void Take(const Box& box);
+    /// Whether a line from one place to another meets no text, and does not leave the room.
+    [[nodiscard]] bool IsFreeWay(Point from, Point to) const;
+    /// From now on a line runs there.
+    void Draw(Point from, Point to);
     /// What the shape on top at a place shows; nothing on the plain ground or outside.
     [[nodiscard]] std::optional<Part> PartAt(Point place) const;
     /// What a footing's shape shows.
@@ -63,6 +67,8 @@ private:
     };
     class Reader;
 
+    template<class Visit>
+    static void ForPlaces(Point from, Point to, Visit visit);
     [[nodiscard]] Cells CellsOf(const Box& box) const;
     [[nodiscard]] Cell& At(int column, int row) {
         return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +

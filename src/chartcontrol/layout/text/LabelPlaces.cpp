@@ -14,10 +14,8 @@ constexpr double PlaceGap = 2.5;
 constexpr int FarthestAway = 3;
 /// A label on its bar stays so far from the bar's rim.
 constexpr double Air = 1.5;
-/// How far a plate reaches beyond its text.
-constexpr double PlateRim = 1;
 /// What part of a label's place lines may cover for a plate to be laid over them.
-constexpr double MostLines = 0.5;
+constexpr double MostLines = 0.25;
 /// What part of a plate must lie on one surface: one over a bar's rim would hide where the bar ends.
 constexpr double LeastOfPlate = 0.6;
 
@@ -126,24 +124,34 @@ bool IsClear(const LabelAnchor& anchor, const LabelPlace& place, const Ground::F
     return !anchor.isBar || footing.shape == Ground::Plain;
 }
 
+/// Whether the line to a label that stands away crosses no other label.
+bool IsReached(const Ground& ground, const LabelAnchor& anchor, const LabelPlace& place) {
+    if (place.stand != LabelStand::Away) return true;
+    const Point from = LineStart(anchor, place.box);
+    return ground.IsFreeWay(from, {from.x, from.y > place.box.bottom ? place.box.bottom : place.box.top});
+}
+
 std::optional<FoundPlace> FindClear(const Ground& ground, const LabelAnchor& anchor,
                                     const std::vector<LabelPlace>& places) {
     for (const LabelPlace& place : places) {
         const Ground::Footing footing = ground.Under(place.box);
-        if (footing.free && IsClear(anchor, place, footing))
+        if (footing.free && IsClear(anchor, place, footing) && IsReached(ground, anchor, place))
             return FoundPlace{place, footing.even ? footing.colour : ground.PlainColour(), !footing.even};
     }
     return std::nullopt;
 }
 
-std::optional<FoundPlace> FindForPlate(const Ground& ground, const std::vector<LabelPlace>& places) {
+std::optional<FoundPlace> FindForPlate(const Ground& ground, const LabelAnchor& anchor,
+                                       const std::vector<LabelPlace>& places) {
     const FoundPlace* best = nullptr;
     std::vector<FoundPlace> found;
     found.reserve(places.size());
     double fewest = MostLines;
     for (const LabelPlace& place : places) {
         const Ground::Footing footing = ground.Under(place.box.Grown(PlateRim));
-        if (!footing.free || footing.share < LeastOfPlate || footing.lines >= fewest) continue;
+        if (!footing.free || footing.share < LeastOfPlate || footing.lines >= fewest ||
+            !IsReached(ground, anchor, place))
+            continue;
         fewest = footing.lines;
         found.push_back({place, footing.colour, true});
         best = &found.back();
@@ -152,6 +160,11 @@ std::optional<FoundPlace> FindForPlate(const Ground& ground, const std::vector<L
 }
 
 } // namespace
+
+Point LineStart(const LabelAnchor& anchor, const Box& label) {
+    return {anchor.box.Center().x,
+            label.Center().y < anchor.box.Center().y ? anchor.box.top : anchor.box.bottom};
+}
 
 std::vector<LabelPlace> PlacesFor(LabelLocation location, const LabelAnchor& anchor, const Size& size,
                                   bool withLine) {
@@ -173,7 +186,7 @@ std::vector<LabelPlace> PlacesFor(LabelLocation location, const LabelAnchor& anc
 std::optional<FoundPlace> FindPlace(const Ground& ground, const LabelAnchor& anchor,
                                     const std::vector<LabelPlace>& places) {
     if (auto found = FindClear(ground, anchor, places)) return found;
-    return anchor.isBar ? std::nullopt : FindForPlate(ground, places);
+    return anchor.isBar ? std::nullopt : FindForPlate(ground, anchor, places);
 }
 
 void DrawLabel(SceneBuilder& builder, Part part, TextBlock block, const FoundPlace& found,

@@ -25,10 +25,16 @@ struct LabelPlace {
     LabelStand stand = LabelStand::Beside;
 };
 
+/// Where the line to a label that stands away begins at its mark: at the end that is nearer.
+Point LineStart(const LabelAnchor& anchor, const Box& label);
+
 /// Where a label of that size may stand: the location that was asked for, then others that come next to it.
 /// Places away from the mark are only given where a line may lead there.
 std::vector<LabelPlace> PlacesFor(LabelLocation location, const LabelAnchor& anchor, const Size& size,
                                   bool withLine);
+
+/// How far a plate reaches beyond its text, in points.
+inline constexpr double PlateRim = 1;
 
 /// A place that was found, and whether the label needs a plate there to be read.
 struct FoundPlace {

@@ -138,7 +138,8 @@ private:
 
     /// As many entries as fit with names that are whole, or long enough to be known.
     [[nodiscard]] std::size_t MostEntries() const {
-        const double name = std::min(WidestName(), ShortestNameShare * Font().Size);
+        const double rest = context_.measurer.Measure(QStringLiteral("\u2026 +9999"), Font()).width;
+        const double name = std::max(rest, std::min(WidestName(), ShortestNameShare * Font().Size));
         const double pitch = grid_.symbolWidth + name + grid_.columnGap;
         const int columns = std::max(1, static_cast<int>((room_.width + grid_.columnGap) / pitch));
         return static_cast<std::size_t>(columns *
