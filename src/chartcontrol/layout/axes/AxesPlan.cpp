@@ -138,8 +138,8 @@ private:
         double left = 0;
         double right = 0;
         if (demand_.pairsColumns && plan_.showX) {
-            left = plan_.across.labels.front().width / 2;
-            right = plan_.across.labels.back().width / 2;
+            left = plan_.across.ticks.front().width / 2;
+            right = plan_.across.ticks.back().width / 2;
         }
         for (const CategoryLabelPlan::Label& label : plan_.categories.labels) {
             const double x = plan_.area.CategoryX(label.category);

@@ -18,16 +18,21 @@ struct PlotDemand {
     bool onEnds = false;
     bool keepZero = false;
     bool usesSecondary = false;
-    ValueRange across;
-    ValueRange primary;
-    ValueRange secondary;
+    AxisDemand across;
+    AxisDemand primary;
+    AxisDemand secondary;
     /// The series that are drawn.
     std::vector<int> series;
+    /// How many values are not above zero, on a logarithmic axis.
+    int withoutPlace = 0;
 
-    [[nodiscard]] bool HasValues() const { return !primary.IsEmpty() || !secondary.IsEmpty(); }
+    [[nodiscard]] bool HasValues() const { return !primary.range.IsEmpty() || !secondary.range.IsEmpty(); }
 };
 
 PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted);
+
+/// Tells in the scene's warnings what of the values cannot be shown.
+void WarnOf(const LayoutContext& context, const PlotDemand& demand);
 
 /// How much of the axes' furniture is drawn; a small chart does without some.
 enum class Furniture { All, NoTitles, None };

@@ -32,8 +32,8 @@ void LayOutSingleBars(const PlotContext& context, int number) {
 /// Where categories are thinner than a device pixel: one bar for each pixel column, from its least to its
 /// greatest.
 void LayOutDenseBars(const PlotContext& context, int number) {
-    const LinearMap& map = context.plot.MapOf(number);
-    const double base = PlotArea::BaseOf(map);
+    const AxisMap& map = context.plot.MapOf(number);
+    const double base = map.Base();
     const SceneFill fill =
         BarFill(context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All).Brush, true);
     const std::shared_ptr<const Runs> runs = CollectRuns(context.plotted.Top(number), context.area);

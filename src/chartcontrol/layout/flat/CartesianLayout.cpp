@@ -77,7 +77,7 @@ PlottedArea LayOutCartesian(const LayoutContext& context, const Box& box) {
     PlottedArea finished;
     finished.plotted = PlottedValues(context.chart);
     const PlotDemand demand = DemandOf(context.chart, finished.plotted);
-    if (!demand.HasValues()) context.builder.Warn(QStringLiteral("there is no value to show"));
+    WarnOf(context, demand);
     const AxesPlan plan = PlanThatFits(context, demand, box);
     finished.area = plan.area;
     finished.bars = ClusterOf(context.chart.Plot, finished.plotted, finished.area);

@@ -1,4 +1,5 @@
 #include "chartcontrol/layout/pie/PieLayout.h"
+#include "chartcontrol/layout/data/Sums.h"
 #include "chartcontrol/layout/pie/PieLabels.h"
 #include "chartcontrol/layout/text/LabelText.h"
 #include "chartcontrol/layout/text/Occupancy.h"
@@ -68,11 +69,11 @@ private:
             const bool isInside = location == LabelLocation::Inside || location == LabelLocation::Center;
             if (ShowsLabel(look.DataPointLabel) && isInside == inside)
                 labels.push_back({{PartCode::PointLabel, number, category + 1},
-                                  texts_.WithShare(look.DataPointLabel, number, value, value / sum),
-                                  before + value / sum / 2,
-                                  value / sum,
+                                  texts_.WithShare(look.DataPointLabel, number, value, value * SumUnit / sum),
+                                  before + value * SumUnit / sum / 2,
+                                  value * SumUnit / sum,
                                   &look});
-            before += value / sum;
+            before += value * SumUnit / sum;
         }
         return labels;
     }
@@ -150,7 +151,7 @@ private:
         double sum = 0;
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
             const double value = chart_.SeriesValues(series)[category];
-            if (value > 0) sum += value;
+            if (value > 0) sum += value * SumUnit;
         }
         return sum;
     }
@@ -172,7 +173,7 @@ private:
             const double value = chart_.SeriesValues(number)[category];
             if (!(value > 0)) continue;
             const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
-            const double share = value / sum;
+            const double share = value * SumUnit / sum;
             const double end = before + share;
             const Slice slice{round, TurnStart - 360 * end, 360 * share};
             context_.builder.AddSlice({PartCode::Series, number, category + 1}, slice, FillOf(look.Brush),
@@ -195,7 +196,7 @@ private:
             context_.builder.AddPoint(
                 {center.x + radius * std::sin(angle), center.y - radius * std::cos(angle)});
             context_.builder.AddPoint(center);
-            before += value / sum;
+            before += value * SumUnit / sum;
             ++slices;
         }
         const double width = radius > 20 ? 1.0 : 0.5;

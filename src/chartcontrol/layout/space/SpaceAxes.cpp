@@ -47,13 +47,13 @@ private:
     [[nodiscard]] SpacePoint LeftmostCorner() const { return Outermost(true); }
     [[nodiscard]] SpacePoint RightmostCorner() const { return Outermost(false); }
 
-    void Values(AxisId id, const ValueAxisPlan& axis, const LinearMap& map, SpacePoint corner, bool left) {
+    void Values(AxisId id, const ValueAxisPlan& axis, const AxisMap& map, SpacePoint corner, bool left) {
         if (!Shown(id)) return;
-        for (int i = 0; i < axis.ticks.count; ++i) {
-            const ValueAxisPlan::Label& label = axis.labels[static_cast<std::size_t>(i)];
-            Point at = plan_.Page({corner.x, map.At(axis.ticks.At(i)), corner.z});
+        int index = 0;
+        for (const ValueAxisPlan::Tick& tick : axis.ticks) {
+            Point at = plan_.Page({corner.x, map.At(tick.value), corner.z});
             at.x += left ? -Gap(id) : Gap(id);
-            Label(id, i + 1, label.text, at, left ? TextAnchor::End : TextAnchor::Start);
+            Label(id, ++index, tick.text, at, left ? TextAnchor::End : TextAnchor::Start);
         }
     }
 

@@ -30,8 +30,8 @@ struct SpacePlan {
 
     ValueAxisPlan primary;
     ValueAxisPlan secondary;
-    LinearMap primaryMap; // values to y in space
-    LinearMap secondaryMap;
+    AxisMap primaryMap; // values to y in space
+    AxisMap secondaryMap;
     TextBlock xTitle;
     TextBlock yTitle;
     TextBlock zTitle;
@@ -55,7 +55,7 @@ struct SpacePlan {
     /// one.
     [[nodiscard]] double CategorySlope() const;
 
-    [[nodiscard]] const LinearMap& MapOf(const Series& series) const {
+    [[nodiscard]] const AxisMap& MapOf(const Series& series) const {
         return series.SecondaryAxis ? secondaryMap : primaryMap;
     }
 };

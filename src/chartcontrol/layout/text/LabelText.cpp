@@ -1,6 +1,7 @@
 #include "chartcontrol/layout/text/LabelText.h"
 
 #include "base/NumberFormat.h"
+#include "chartcontrol/layout/data/Sums.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,11 +53,12 @@ double LabelTexts::ShareOf(int category, double value) {
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
             const Values values = chart_.SeriesValues(series);
             for (int i = 0; i < values.count; ++i)
-                if (!std::isnan(values[i])) sums_[static_cast<std::size_t>(i)] += std::abs(values[i]);
+                if (!std::isnan(values[i]))
+                    sums_[static_cast<std::size_t>(i)] += std::abs(values[i]) * SumUnit;
         }
     }
     const double sum = sums_[static_cast<std::size_t>(category)];
-    return sum > 0 ? value / sum : 0;
+    return sum > 0 ? value * SumUnit / sum : 0;
 }
 
 Font ReadableFont(const Font& font, Colour background) {
