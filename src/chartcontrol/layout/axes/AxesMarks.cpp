@@ -107,6 +107,15 @@ void Titles(const LayoutContext& context, const AxesPlan& plan, const Box& box) 
     PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryTitle,
               {area.right, area.top, box.right, area.bottom}, HorizontalAlignment::Right,
               VerticalAlignment::Center);
+    // Units stand above the labels, and reach over the plot where they are wider.
+    const double left = area.left - AxesPlan::LabelGap(context.chart.Plot.Axis(AxisId::Y));
+    PlaceText(context.builder, part(AxisId::Y), plan.yUnit,
+              {std::max(box.left, left - plan.primary.LabelWidth()), box.top, area.right, area.top},
+              HorizontalAlignment::Left, VerticalAlignment::Top);
+    if (plan.yUnit.Length() + plan.secondaryUnit.Length() < area.Width())
+        PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryUnit,
+                  {area.left, box.top, box.right, area.top}, HorizontalAlignment::Right,
+                  VerticalAlignment::Top);
 }
 
 } // namespace

@@ -47,6 +47,9 @@ struct AxesPlan {
     TextBlock xTitle;
     TextBlock yTitle;
     TextBlock secondaryTitle;
+    /// What the labels of an upright axis are told in, above them, where no title tells it.
+    TextBlock yUnit;
+    TextBlock secondaryUnit;
     bool showX = false;
     bool showY = false;
     bool showSecondary = false;
@@ -55,6 +58,9 @@ struct AxesPlan {
     static double LabelGap(const Axis& axis);
     static double TitleGap(const Axis& axis);
 };
+
+/// A title with the unit of its axis' labels: "Sales (million)".
+QString TitleWithUnit(const QString& title, const QString& unit);
 
 AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const Box& box,
                   Furniture furniture);

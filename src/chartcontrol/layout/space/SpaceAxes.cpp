@@ -152,6 +152,11 @@ private:
         PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::Y), 1}, plan_.yTitle,
                   {box_.left, left.y, box_.right, left.y}, HorizontalAlignment::Left,
                   VerticalAlignment::Center);
+        const Box above{box_.left, box_.top, box_.right, box_.top};
+        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::Y), 1}, plan_.yUnit, above,
+                  HorizontalAlignment::Left, VerticalAlignment::Top);
+        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::SecondaryY), 1},
+                  plan_.secondaryUnit, above, HorizontalAlignment::Right, VerticalAlignment::Top);
         if (!(plan_.zLabelWidth > 0)) return;
         const double middle = plan_.Page({plan_.RowEdgeX(), 0, plan_.size.z / 2}).x +
                               (RowsAtRight() ? plan_.zLabelWidth / 2 : -plan_.zLabelWidth / 2);

@@ -35,6 +35,9 @@ struct SpacePlan {
     TextBlock xTitle;
     TextBlock yTitle;
     TextBlock zTitle;
+    /// What the labels of the value axes are told in, where no title tells it.
+    TextBlock yUnit;
+    TextBlock secondaryUnit;
     double zLabelWidth = 0;
     /// The widest label of a category beside a sloping edge.
     double xLabelWidth = 0;

