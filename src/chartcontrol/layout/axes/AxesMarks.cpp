@@ -27,9 +27,9 @@ void GridAt(const LayoutContext& context, AxisId id, const Box& box, double plac
         context.builder.AddLine(AxisPart(id), {box.left, place}, {box.right, place}, stroke);
 }
 
-void UprightGrid(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const LinearMap& map,
+void UprightGrid(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const AxisMap& map,
                  const Box& box) {
-    for (int i = 0; i < plan.ticks.count; ++i) GridAt(context, id, box, map.At(plan.ticks.At(i)));
+    for (const ValueAxisPlan::Tick& tick : plan.ticks) GridAt(context, id, box, map.At(tick.value));
 }
 
 void CategoryGrid(const LayoutContext& context, const AxesPlan& plan) {
@@ -47,21 +47,21 @@ void AxisLine(const LayoutContext& context, AxisId id, Point from, Point to) {
     if (pen.Style != PenStyle::None) context.builder.AddLine(AxisPart(id), from, to, StrokeOf(pen));
 }
 
-void UprightLabels(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const LinearMap& map,
+void UprightLabels(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const AxisMap& map,
                    const Box& box) {
     const Axis& axis = context.chart.Plot.Axis(id);
     const bool atLeft = id == AxisId::Y;
     const double x = atLeft ? box.left - AxesPlan::LabelGap(axis) : box.right + AxesPlan::LabelGap(axis);
-    for (int i = 0; i < plan.ticks.count; ++i) {
-        const ValueAxisPlan::Label& label = plan.labels[static_cast<std::size_t>(i)];
-        const double y = map.At(plan.ticks.At(i)) + (plan.line.ascent - plan.line.descent) / 2;
-        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), i + 1},
-                                {label.text,
+    int index = 0;
+    for (const ValueAxisPlan::Tick& tick : plan.ticks) {
+        const double y = map.At(tick.value) + (plan.line.ascent - plan.line.descent) / 2;
+        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), ++index},
+                                {tick.text,
                                  axis.Labels.Item(1).VtFont,
                                  {x, y},
                                  atLeft ? TextAnchor::End : TextAnchor::Start,
                                  0,
-                                 label.width,
+                                 tick.width,
                                  plan.line.ascent,
                                  plan.line.descent});
     }
@@ -70,15 +70,15 @@ void UprightLabels(const LayoutContext& context, AxisId id, const ValueAxisPlan&
 void AcrossLabels(const LayoutContext& context, const AxesPlan& plan) {
     const Axis& axis = context.chart.Plot.Axis(AxisId::X);
     const double y = plan.area.box.bottom + AxesPlan::LabelGap(axis) + plan.across.line.ascent;
-    for (int i = 0; i < plan.across.ticks.count; ++i) {
-        const ValueAxisPlan::Label& label = plan.across.labels[static_cast<std::size_t>(i)];
-        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(AxisId::X), i + 1},
-                                {label.text,
+    int index = 0;
+    for (const ValueAxisPlan::Tick& tick : plan.across.ticks) {
+        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(AxisId::X), ++index},
+                                {tick.text,
                                  axis.Labels.Item(1).VtFont,
-                                 {plan.area.across.At(plan.across.ticks.At(i)), y},
+                                 {plan.area.across.At(tick.value), y},
                                  TextAnchor::Middle,
                                  0,
-                                 label.width,
+                                 tick.width,
                                  plan.across.line.ascent,
                                  plan.across.line.descent});
     }
@@ -107,6 +107,15 @@ void Titles(const LayoutContext& context, const AxesPlan& plan, const Box& box) 
     PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryTitle,
               {area.right, area.top, box.right, area.bottom}, HorizontalAlignment::Right,
               VerticalAlignment::Center);
+    // Units stand above the labels, and reach over the plot where they are wider.
+    const double left = area.left - AxesPlan::LabelGap(context.chart.Plot.Axis(AxisId::Y));
+    PlaceText(context.builder, part(AxisId::Y), plan.yUnit,
+              {std::max(box.left, left - plan.primary.LabelWidth()), box.top, area.right, area.top},
+              HorizontalAlignment::Left, VerticalAlignment::Top);
+    if (plan.yUnit.Length() + plan.secondaryUnit.Length() < area.Width())
+        PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryUnit,
+                  {area.left, box.top, box.right, area.top}, HorizontalAlignment::Right,
+                  VerticalAlignment::Top);
 }
 
 } // namespace
@@ -116,8 +125,8 @@ void LayOutGrid(const LayoutContext& context, const PlotDemand& demand, const Ax
     const Box& box = plan.area.box;
     if (HasGrid(plot.Axis(AxisId::X))) {
         if (demand.pairsColumns)
-            for (int i = 0; i < plan.across.ticks.count; ++i)
-                GridAt(context, AxisId::X, box, plan.area.across.At(plan.across.ticks.At(i)));
+            for (const ValueAxisPlan::Tick& tick : plan.across.ticks)
+                GridAt(context, AxisId::X, box, plan.area.across.At(tick.value));
         else
             CategoryGrid(context, plan);
     }
@@ -140,7 +149,7 @@ void LayOutAxes(const LayoutContext& context, const PlotDemand& demand, const Ax
         UprightLabels(context, AxisId::SecondaryY, plan.secondary, plan.area.secondary, area);
     }
     if (plan.showX) {
-        const double y = demand.keepZero ? PlotArea::BaseOf(plan.area.primary) : area.bottom;
+        const double y = demand.keepZero ? plan.area.primary.Base() : area.bottom;
         AxisLine(context, AxisId::X, {area.left, y}, {area.right, y});
         if (demand.pairsColumns)
             AcrossLabels(context, plan);

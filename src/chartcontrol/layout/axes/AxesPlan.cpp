@@ -4,6 +4,7 @@
 #include "chartcontrol/layout/axes/SlotGrid.h"
 
 #include <algorithm>
+#include <array>
 
 namespace QmChart6 {
 
@@ -36,20 +37,17 @@ public:
 
     AxesPlan Run() {
         BreakTitles();
-        const double titlesLeft = TitleRoom(AxisId::Y, plan_.yTitle.Extent().width);
-        const double titlesRight = TitleRoom(AxisId::SecondaryY, plan_.secondaryTitle.Extent().width);
-        const double titlesBelow = TitleRoom(AxisId::X, plan_.xTitle.Extent().height);
-        margins_ = {titlesLeft, HalfLabel(), titlesRight, titlesBelow + HalfLabel()};
+        margins_ = {TitlesLeft(), Above(), TitlesRight(), TitlesBelow() + HalfLabel()};
         for (int pass = 0; pass < MostPasses; ++pass) {
             const Box before = margins_;
             FitBox();
             PlanUpright();
-            Grow(margins_.left, titlesLeft + LabelRoom(AxisId::Y, plan_.primary.LabelWidth()));
-            Grow(margins_.right, titlesRight + LabelRoom(AxisId::SecondaryY, plan_.secondary.LabelWidth()));
+            BreakTitles();
+            GrowSides();
             FitBox();
             PlanAcross();
-            Grow(margins_.bottom, titlesBelow + std::max(HalfLabel(), LabelRoom(AxisId::X, AcrossDepth())));
-            LeaveRoomForOverhang(titlesLeft, titlesRight);
+            BreakTitles();
+            GrowEnds();
             if (margins_ == before) break;
         }
         FitBox();
@@ -65,22 +63,57 @@ private:
         return furniture_ != Furniture::None && !AxisOf(id).AxisScale.Hide;
     }
 
-    [[nodiscard]] TextBlock Title(AxisId id) const {
+    [[nodiscard]] bool HasTitle(AxisId id) const {
         const AxisTitle& title = AxisOf(id).AxisTitle;
-        if (furniture_ != Furniture::All || AxisOf(id).AxisScale.Hide || !title.Visible) return {};
+        return furniture_ == Furniture::All && !AxisOf(id).AxisScale.Hide && title.Visible &&
+               !title.Text.isEmpty();
+    }
+    [[nodiscard]] TextBlock Title(AxisId id, const QString& unit) const {
+        if (!HasTitle(id)) return {};
+        const AxisTitle& title = AxisOf(id).AxisTitle;
         const bool across = id == AxisId::X;
         const bool upright = title.TextLayout.Orientation != Orientation::Horizontal;
         // A title that runs along its axis may be as long as the box; one across it only takes a third.
         const double along = across ? box_.Width() : box_.Height();
         const double aside = (across ? box_.Height() : box_.Width()) / 3;
         const double length = across == upright ? aside : along;
-        return BreakText(title.Text, title.VtFont, title.TextLayout.Orientation, {length, MostTitleLines},
-                         context_.measurer);
+        return BreakText(TitleWithUnit(title.Text, unit), title.VtFont, title.TextLayout.Orientation,
+                         {length, MostTitleLines}, context_.measurer);
     }
+    /// The unit by itself, in the font of the labels.
+    [[nodiscard]] TextBlock Unit(AxisId id, const QString& unit) const {
+        if (unit.isEmpty() || HasTitle(id) || !Shown(id)) return {};
+        return ElidedLine(unit, AxisOf(id).Labels.Item(1).VtFont, box_.Width() / 2, context_.measurer);
+    }
+    /// Breaks the titles, anew where the units that they tell have changed.
     void BreakTitles() {
-        plan_.xTitle = Title(AxisId::X);
-        plan_.yTitle = Title(AxisId::Y);
-        plan_.secondaryTitle = Title(AxisId::SecondaryY);
+        const Units units{plan_.across.unit, plan_.primary.unit, plan_.secondary.unit};
+        if (titlesAreBroken_ && units == units_) return;
+        units_ = units;
+        titlesAreBroken_ = true;
+        plan_.xTitle = HasTitle(AxisId::X) ? Title(AxisId::X, units[0]) : Unit(AxisId::X, units[0]);
+        plan_.yTitle = Title(AxisId::Y, units[1]);
+        plan_.yUnit = Unit(AxisId::Y, units[1]);
+        plan_.secondaryTitle = Title(AxisId::SecondaryY, units[2]);
+        plan_.secondaryUnit = Unit(AxisId::SecondaryY, units[2]);
+    }
+    [[nodiscard]] double TitlesLeft() const { return TitleRoom(AxisId::Y, plan_.yTitle.Extent().width); }
+    [[nodiscard]] double TitlesRight() const {
+        return TitleRoom(AxisId::SecondaryY, plan_.secondaryTitle.Extent().width);
+    }
+    [[nodiscard]] double TitlesBelow() const { return TitleRoom(AxisId::X, plan_.xTitle.Extent().height); }
+    [[nodiscard]] double Above() const {
+        return HalfLabel() + std::max(plan_.yUnit.Depth(), plan_.secondaryUnit.Depth());
+    }
+
+    void GrowSides() {
+        Grow(margins_.top, Above());
+        Grow(margins_.left, TitlesLeft() + LabelRoom(AxisId::Y, plan_.primary.LabelWidth()));
+        Grow(margins_.right, TitlesRight() + LabelRoom(AxisId::SecondaryY, plan_.secondary.LabelWidth()));
+    }
+    void GrowEnds() {
+        Grow(margins_.bottom, TitlesBelow() + std::max(HalfLabel(), LabelRoom(AxisId::X, AcrossDepth())));
+        LeaveRoomForOverhang();
     }
 
     static void Grow(double& margin, double needed) { margin = std::max(margin, needed); }
@@ -114,11 +147,11 @@ private:
 
     void PlanUpright() {
         const double length = plan_.area.box.Height();
-        const ValueRange primary = WithHeadRoom(demand_.primary, primaryRoom_, demand_.keepZero, length);
+        const AxisDemand primary = WithHeadRoom(demand_.primary, primaryRoom_, demand_.keepZero, length);
         plan_.primary =
             PlanValueAxis(context_, AxisOf(AxisId::Y), {primary, demand_.keepZero, length, false});
         // Without series of its own the second axis mirrors the first.
-        const ValueRange secondary =
+        const AxisDemand secondary =
             demand_.usesSecondary ? WithHeadRoom(demand_.secondary, secondaryRoom_, demand_.keepZero, length)
                                   : primary;
         plan_.secondary =
@@ -144,12 +177,12 @@ private:
     }
 
     /// Labels at the ends of the horizontal axis may reach beyond the plot, but not beyond the box.
-    void LeaveRoomForOverhang(double titlesLeft, double titlesRight) {
+    void LeaveRoomForOverhang() {
         double left = 0;
         double right = 0;
         if (demand_.pairsColumns && plan_.showX) {
-            left = plan_.across.labels.front().width / 2;
-            right = plan_.across.labels.back().width / 2;
+            left = plan_.across.ticks.front().width / 2;
+            right = plan_.across.ticks.back().width / 2;
         }
         for (const CategoryLabelPlan::Label& label : plan_.categories.labels) {
             const double x = plan_.area.CategoryX(label.category);
@@ -157,8 +190,8 @@ private:
             right = std::max(right, plan_.categories.ReachRight(label) - (plan_.area.box.right - x));
         }
         const double most = WidestOverhangShare * box_.Width();
-        Grow(margins_.left, titlesLeft + std::min(left, most));
-        Grow(margins_.right, titlesRight + std::min(right, most));
+        Grow(margins_.left, TitlesLeft() + std::min(left, most));
+        Grow(margins_.right, TitlesRight() + std::min(right, most));
     }
 
     void FitMaps() {
@@ -175,6 +208,9 @@ private:
     HeadRoom primaryRoom_;
     HeadRoom secondaryRoom_;
     bool named_ = false; // whether any category has a label
+    using Units = std::array<QString, 3>;
+    Units units_; // of the labels across, upright, and on the secondary axis, as the titles tell them
+    bool titlesAreBroken_ = false;
     Box margins_;
     AxesPlan plan_;
 };
@@ -187,6 +223,10 @@ double AxesPlan::LabelGap(const Axis& axis) {
 
 double AxesPlan::TitleGap(const Axis& axis) {
     return TitleGapShare * axis.AxisTitle.VtFont.Size;
+}
+
+QString TitleWithUnit(const QString& title, const QString& unit) {
+    return unit.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, unit);
 }
 
 AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,

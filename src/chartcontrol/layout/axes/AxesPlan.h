@@ -20,16 +20,21 @@ struct PlotDemand {
     bool usesSecondary = false;
     /// Bars share the slots of the categories.
     bool hasBars = false;
-    ValueRange across;
-    ValueRange primary;
-    ValueRange secondary;
+    AxisDemand across;
+    AxisDemand primary;
+    AxisDemand secondary;
     /// The series that are drawn.
     std::vector<int> series;
+    /// How many values are not above zero, on a logarithmic axis.
+    int withoutPlace = 0;
 
-    [[nodiscard]] bool HasValues() const { return !primary.IsEmpty() || !secondary.IsEmpty(); }
+    [[nodiscard]] bool HasValues() const { return !primary.range.IsEmpty() || !secondary.range.IsEmpty(); }
 };
 
 PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted);
+
+/// Tells in the scene's warnings what of the values cannot be shown.
+void WarnOf(const LayoutContext& context, const PlotDemand& demand);
 
 /// How much of the axes' furniture is drawn; a small chart does without some.
 enum class Furniture { All, NoTitles, None };
@@ -44,6 +49,9 @@ struct AxesPlan {
     TextBlock xTitle;
     TextBlock yTitle;
     TextBlock secondaryTitle;
+    /// What the labels of an upright axis are told in, above them, where no title tells it.
+    TextBlock yUnit;
+    TextBlock secondaryUnit;
     bool showX = false;
     bool showY = false;
     bool showSecondary = false;
@@ -52,6 +60,9 @@ struct AxesPlan {
     static double LabelGap(const Axis& axis);
     static double TitleGap(const Axis& axis);
 };
+
+/// A title with the unit of its axis' labels: "Sales (million)".
+QString TitleWithUnit(const QString& title, const QString& unit);
 
 AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
                   const Box& box, Furniture furniture);

@@ -19,6 +19,27 @@ bool StandsBeyond(LabelLocation location) {
     return location == LabelLocation::AbovePoint || location == LabelLocation::Outside;
 }
 
+double ShareOf(double room, double length) {
+    return std::min(room / length, MostShare);
+}
+
+ValueRange GrownBySteps(ValueRange range, const HeadRoom& room, bool keepZero, double length) {
+    if (keepZero) range.Include(0);
+    // Quarters, so that the largest values have a span that is finite.
+    const double quarter = range.high / 4 - range.low / 4;
+    const double above = range.high > 0 ? ShareOf(room.above, length) : 0;
+    // Data without anything below zero get no axis that reaches there.
+    const double below = range.low < 0 ? ShareOf(room.below, length) : 0;
+    const double factor = 4 / (1 - above - below);
+    return {range.low - quarter * below * factor, range.high + quarter * above * factor};
+}
+
+ValueRange GrownByPowers(const ValueRange& range, const HeadRoom& room, double length) {
+    const double decades = std::log10(range.high) - std::log10(range.low);
+    const double above = ShareOf(room.above, length);
+    return {range.low, range.high * std::pow(10.0, decades * above / (1 - above))};
+}
+
 } // namespace
 
 HeadRoom HeadRoomOf(const LayoutContext& context, const PlottedValues& plotted, bool secondary) {
@@ -36,19 +57,12 @@ HeadRoom HeadRoomOf(const LayoutContext& context, const PlottedValues& plotted, 
     return room;
 }
 
-ValueRange WithHeadRoom(const ValueRange& range, const HeadRoom& room, bool keepZero, double length) {
-    if (range.IsEmpty() || !(length > 0) || (room.above <= 0 && room.below <= 0)) return range;
-    ValueRange grown = range;
-    if (keepZero) grown.Include(0);
-    // Quarters, so that the largest values have a span that is finite.
-    const double quarter = grown.high / 4 - grown.low / 4;
-    const double above = grown.high > 0 ? std::min(room.above / length, MostShare) : 0;
-    // Data without anything below zero get no axis that reaches there.
-    const double below = grown.low < 0 ? std::min(room.below / length, MostShare) : 0;
-    const double factor = 4 / std::max(0.2, 1 - above - below);
-    const double high = grown.high + quarter * above * factor;
-    const double low = grown.low - quarter * below * factor;
-    return std::isfinite(high) && std::isfinite(low) ? ValueRange{low, high} : range;
+AxisDemand WithHeadRoom(const AxisDemand& demand, const HeadRoom& room, bool keepZero, double length) {
+    if (demand.range.IsEmpty() || !(length > 0) || (room.above <= 0 && room.below <= 0)) return demand;
+    AxisDemand grown = demand;
+    grown.range = demand.logarithmic ? GrownByPowers(demand.range, room, length)
+                                     : GrownBySteps(demand.range, room, keepZero, length);
+    return std::isfinite(grown.range.high) && std::isfinite(grown.range.low) ? grown : demand;
 }
 
 } // namespace QmChart6

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "chartcontrol/layout/data/LayoutContext.h"
+#include "chartcontrol/layout/axes/ValueAxis.h"
 #include "chartcontrol/layout/data/PlottedValues.h"
-#include "chartcontrol/scale/ValueRange.h"
 
 namespace QmChart6 {
 
@@ -15,8 +14,8 @@ struct HeadRoom {
 /// The room for labels of the series that stand on the axis.
 HeadRoom HeadRoomOf(const LayoutContext& context, const PlottedValues& plotted, bool secondary);
 
-/// The range, grown so that on an axis of that length (points) the extremes have their labels within the
-/// plot.
-ValueRange WithHeadRoom(const ValueRange& range, const HeadRoom& room, bool keepZero, double length);
+/// The demand, its range grown so that on an axis of that length (points) the extremes have their labels
+/// within the plot.
+AxisDemand WithHeadRoom(const AxisDemand& demand, const HeadRoom& room, bool keepZero, double length);
 
 } // namespace QmChart6

@@ -12,7 +12,7 @@ namespace {
 constexpr double LoneShare = 0.1;
 
 void AddEdgePoints(const PlotContext& context, int number, const Runs& runs, std::size_t run) {
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
         context.builder.AddPoint(
             {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
@@ -21,10 +21,10 @@ void AddEdgePoints(const PlotContext& context, int number, const Runs& runs, std
 /// The way back along what a series is piled on.
 void AddBasePoints(const PlotContext& context, int number, const Values& bases, const Runs& runs,
                    std::size_t run) {
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     for (std::size_t i = runs.starts[run + 1]; i-- > runs.starts[run];) {
         const int category = runs.samples[i].category;
-        context.builder.AddPoint({context.area.CategoryX(category), map.At(bases[category])});
+        context.builder.AddPoint({context.area.CategoryX(category), map.StandAt(bases[category])});
     }
 }
 
@@ -36,8 +36,9 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
     if (&first == &last) {
         const double lone = LoneShare * context.area.slot / 2;
         const double y = context.plot.Y(number, first.value);
-        const double base = bases.first == nullptr ? context.plot.BaseY(number)
-                                                   : context.plot.Y(number, bases[first.category]);
+        const double base = bases.first == nullptr
+                                ? context.plot.BaseY(number)
+                                : context.plot.MapOf(number).StandAt(bases[first.category]);
         for (const Point& point : {Point{start - lone, base}, Point{start - lone, y}, Point{start + lone, y},
                                    Point{start + lone, base}})
             context.builder.AddPoint(point);

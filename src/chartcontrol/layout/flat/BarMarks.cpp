@@ -65,8 +65,8 @@ private:
         const QmChart6::Series& series = context_.chart.Plot.SeriesCollection(number);
         const Values tops = context_.plotted.Top(number);
         for (int category = 0; category < tops.count; ++category) {
-            if (std::isnan(tops[category])) continue;
-            if (context_.plot.EndsOf(number, category).isHairline != hairlines) continue;
+            const BarEnds ends = context_.plot.EndsOf(number, category);
+            if (std::isnan(ends.end) || ends.isHairline != hairlines) continue;
             const DataPoint& look = series.DataPoints.Item(category + 1);
             context_.builder.AddRectangle({PartCode::Series, number, category + 1},
                                           context_.plot.BarOf(number, category),
@@ -81,8 +81,8 @@ private:
     }
 
     [[nodiscard]] Stretches StretchesOf(int number) const {
-        const LinearMap& map = context_.plot.MapOf(number);
-        const double base = PlotArea::BaseOf(map);
+        const AxisMap& map = context_.plot.MapOf(number);
+        const double base = map.Base();
         const std::shared_ptr<const Runs> runs = CollectRuns(context_.plotted.Top(number), context_.area);
         Stretches stretches;
         for (const Sample& sample : runs->samples) {
@@ -91,6 +91,7 @@ private:
             if (stretches.empty() || stretches.back().index != index)
                 stretches.push_back({index, base, base});
             const double y = map.At(sample.value);
+            if (std::isnan(y)) continue;
             stretches.back().top = std::min(stretches.back().top, y);
             stretches.back().bottom = std::max(stretches.back().bottom, y);
         }

@@ -79,7 +79,7 @@ PlottedArea LayOutCartesian(const LayoutContext& context, const Box& box) {
     PlottedArea finished;
     finished.plotted = PlottedValues(context.chart);
     const PlotDemand demand = DemandOf(context.chart, finished.plotted);
-    if (!demand.HasValues()) context.builder.Warn(QStringLiteral("there is no value to show"));
+    WarnOf(context, demand);
     const double names = DirectNamesWidth(context, box);
     const Box room{box.left, box.top, box.right - names, box.bottom};
     const AxesPlan plan = PlanThatFits(context, demand, finished.plotted, room);

@@ -112,6 +112,8 @@ private:
     }
 
     void Add(int number, int category, double value, const LabelAnchor& anchor) {
+        // Without a place on a logarithmic axis there is nothing to stand at.
+        if (std::isnan(anchor.box.left) || std::isnan(anchor.box.top)) return;
         if (ShowsLabel(SeriesOf(number).DataPoints.Item(category + 1).DataPointLabel))
             candidates_.push_back({number, category, value, anchor, 1});
     }

@@ -105,7 +105,9 @@ void LayOutDirectNames(const PlotContext& context, const Box& box) {
     std::vector<EndName> names;
     for (int number = 1; number <= context.plotted.SeriesCount(); ++number) {
         const int last = LastOf(context.plotted.Top(number));
-        if (last >= 0) names.push_back({number, BlockOf(context, number), EndOf(context, number, last)});
+        const double end = last < 0 ? 0 : EndOf(context, number, last);
+        // What is not above zero has no place on a logarithmic axis.
+        if (last >= 0 && !std::isnan(end)) names.push_back({number, BlockOf(context, number), end});
     }
     std::stable_sort(names.begin(), names.end(),
                      [](const EndName& one, const EndName& other) { return one.y < other.y; });

@@ -47,7 +47,7 @@ private:
 
 void LayOutMarkers(const PlotContext& context, int number, const Runs& runs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     const DataPoint& all = series.DataPoints.Item(DataPoints::All);
     const auto place = [&](const Sample& sample) {
         context.builder.AddPoint({context.area.CategoryX(sample.category), map.At(sample.value)});
@@ -84,7 +84,7 @@ void AddDots(const PlotContext& context, int number) {
 }
 
 void LayOutLoneSamples(const PlotContext& context, int number, const Runs& runs) {
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         if (runs.starts[run + 1] - runs.starts[run] != 1) continue;
         const Sample& sample = runs.samples[runs.starts[run]];

@@ -19,7 +19,7 @@ BarEnds PlottedArea::EndsOf(int series, int category) const {
     const double start = bases.first == nullptr ? 0 : bases[category];
     // On the axis, its line takes a pixel.
     const double least = (onAxis ? 2 : 1) / area.pixelsPerPoint;
-    if (value == start || std::abs(ends.end - ends.base) >= least) return ends;
+    if (value == start || std::isnan(ends.end) || std::abs(ends.end - ends.base) >= least) return ends;
     ends.isHairline = true;
     ends.end = value > start ? ends.base - least : ends.base + least;
     return ends;

@@ -45,16 +45,33 @@ private:
     std::vector<std::uint64_t> taken_;
 };
 
+/// Not-a-number where a value is missing, or has no place on its axis.
+Point PlaceOf(const PlotContext& context, const AxisMap& map, const XYPairs& pairs, int index) {
+    return {context.area.across.At(pairs.X(index)), map.At(pairs.Y(index))};
+}
+
+/// Adds the points whose pixel is free. A place that is not a number is in no pixel.
+template<class Across, class Upright>
+void TakePixels(const PlotContext& context, const XYPairs& pairs, const Across& across, const Upright& up) {
+    PixelSet pixels(context.area);
+    const int count = pairs.Count();
+    for (int i = 0; i < count; ++i) {
+        const Point point{across.At(pairs.X(i)), up.At(pairs.Y(i))};
+        if (pixels.Take(point)) context.builder.AddPoint(point);
+    }
+}
+
 /// The line through the points, interrupted by missing ones. Runs of consecutive points closer than half a
 /// device pixel are one point of the line; a run of a single one is no line. Gives those.
 std::vector<Point> AddLine(const PlotContext& context, int number, const XYPairs& pairs) {
     const Stroke stroke = LineStrokeOf(context.chart, context.chart.Plot.SeriesCollection(number));
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     const double near = 0.5 / context.area.pixelsPerPoint;
     std::vector<Point> alone;
     Point before{};
     for (int i = 0; i <= pairs.Count(); ++i) {
-        if (i == pairs.Count() || !pairs.Has(i)) {
+        const Point point = i == pairs.Count() ? Point{} : PlaceOf(context, map, pairs, i);
+        if (i == pairs.Count() || std::isnan(point.x) || std::isnan(point.y)) {
             if (context.builder.PendingPoints() == 1) {
                 alone.push_back(before);
                 context.builder.DropPendingPoints();
@@ -62,7 +79,6 @@ std::vector<Point> AddLine(const PlotContext& context, int number, const XYPairs
             context.builder.AddPolyline({PartCode::Series, number}, stroke);
             continue;
         }
-        const Point point{context.area.across.At(pairs.X(i)), map.At(pairs.Y(i))};
         const bool same = context.builder.PendingPoints() > 0 && std::abs(point.x - before.x) < near &&
                           std::abs(point.y - before.y) < near;
         if (same) continue;
@@ -98,19 +114,13 @@ bool AreHollow(const PlotContext& context, MarkerStyle style, double size) {
 
 void AddMarkers(const PlotContext& context, int number, const XYPairs& pairs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = context.plot.MapOf(number);
-    PixelSet pixels(context.area);
-    // The maps' factors are worked out once: there may be a great many points.
-    const LinearMap& across = context.area.across;
-    const double factorX = across.Factor();
-    const double factorY = map.Factor();
-    const int count = pairs.Count();
-    for (int i = 0; i < count; ++i) {
-        // A missing value makes a place that is not a number, which is in no pixel.
-        const Point point{across.from + (pairs.X(i) - across.low) * factorX,
-                          map.from + (pairs.Y(i) - map.low) * factorY};
-        if (pixels.Take(point)) context.builder.AddPoint(point);
-    }
+    const AxisMap& map = context.plot.MapOf(number);
+    const AxisMap& across = context.area.across;
+    // There may be a great many points: lines are mapped without asking each time.
+    if (across.IsLine() && map.IsLine())
+        TakePixels(context, pairs, across.AsLine(), map.AsLine());
+    else
+        TakePixels(context, pairs, across, map);
     const DataPoint& look = series.DataPoints.Item(DataPoints::All);
     const MarkerStyle style = MarkerStyleOf(series, number);
     const Colour colour = ShownColour(context.chart, look.Brush);

@@ -1,5 +1,6 @@
 #include "chartcontrol/layout/pie/PieLayout.h"
 #include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/data/Sums.h"
 #include "chartcontrol/layout/pie/PieLabels.h"
 #include "chartcontrol/layout/text/LabelText.h"
 #include "chartcontrol/layout/text/TextBlock.h"
@@ -168,20 +169,17 @@ private:
         }
     }
 
-    /// Made smaller, so that the largest values add up to a finite one for as many series as there may be.
-    [[nodiscard]] static double Scaled(double value) { return value * 0x1p-16; }
-
     [[nodiscard]] double ScaledSumOf(int category) const {
         double sum = 0;
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
             const double value = chart_.SeriesValues(series)[category];
-            if (value > 0) sum += Scaled(value);
+            if (value > 0) sum += value * SumUnit;
         }
         return sum;
     }
 
     [[nodiscard]] double ShareOf(int series, int category, double scaledSum) const {
-        return Scaled(chart_.SeriesValues(series)[category]) / scaledSum;
+        return chart_.SeriesValues(series)[category] * SumUnit / scaledSum;
     }
 
     void Count(double value) {

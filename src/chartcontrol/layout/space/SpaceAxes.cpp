@@ -47,13 +47,13 @@ private:
     [[nodiscard]] SpacePoint LeftmostCorner() const { return Outermost(true); }
     [[nodiscard]] SpacePoint RightmostCorner() const { return Outermost(false); }
 
-    void Values(AxisId id, const ValueAxisPlan& axis, const LinearMap& map, SpacePoint corner, bool left) {
+    void Values(AxisId id, const ValueAxisPlan& axis, const AxisMap& map, SpacePoint corner, bool left) {
         if (!Shown(id)) return;
-        for (int i = 0; i < axis.ticks.count; ++i) {
-            const ValueAxisPlan::Label& label = axis.labels[static_cast<std::size_t>(i)];
-            Point at = plan_.Page({corner.x, map.At(axis.ticks.At(i)), corner.z});
+        int index = 0;
+        for (const ValueAxisPlan::Tick& tick : axis.ticks) {
+            Point at = plan_.Page({corner.x, map.At(tick.value), corner.z});
             at.x += left ? -Gap(id) : Gap(id);
-            Label(id, i + 1, label.text, at, left ? TextAnchor::End : TextAnchor::Start);
+            Label(id, ++index, tick.text, at, left ? TextAnchor::End : TextAnchor::Start);
         }
     }
 
@@ -152,6 +152,11 @@ private:
         PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::Y), 1}, plan_.yTitle,
                   {box_.left, left.y, box_.right, left.y}, HorizontalAlignment::Left,
                   VerticalAlignment::Center);
+        const Box above{box_.left, box_.top, box_.right, box_.top};
+        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::Y), 1}, plan_.yUnit, above,
+                  HorizontalAlignment::Left, VerticalAlignment::Top);
+        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::SecondaryY), 1},
+                  plan_.secondaryUnit, above, HorizontalAlignment::Right, VerticalAlignment::Top);
         if (!(plan_.zLabelWidth > 0)) return;
         const double middle = plan_.Page({plan_.RowEdgeX(), 0, plan_.size.z / 2}).x +
                               (RowsAtRight() ? plan_.zLabelWidth / 2 : -plan_.zLabelWidth / 2);

@@ -86,10 +86,10 @@ private:
     [[nodiscard]] SpacePoint Anchor(int number, int row, std::size_t column) const {
         const Series& series = context_.chart.Plot.SeriesCollection(number);
         const int category = plan_.categories[column];
-        const LinearMap& map = plan_.MapOf(series);
+        const AxisMap& map = plan_.MapOf(series);
         const double top = map.At(plotted_.Top(number)[category]);
         const Values bases = plotted_.Base(number);
-        const double base = bases.first == nullptr ? PlotArea::BaseOf(map) : map.At(bases[category]);
+        const double base = bases.first == nullptr ? map.Base() : map.StandAt(bases[category]);
         const LabelLocation location = series.DataPoints.Item(category + 1).DataPointLabel.LocationType;
         const double y = location == LabelLocation::Base     ? base
                          : location == LabelLocation::Center ? (top + base) / 2
@@ -131,7 +131,7 @@ private:
 SpacePlaces LayOutSpace(const LayoutContext& context, const Box& box) {
     const PlottedValues plotted(context.chart);
     const PlotDemand demand = DemandOf(context.chart, plotted);
-    if (!demand.HasValues()) context.builder.Warn(QStringLiteral("there is no value to show"));
+    WarnOf(context, demand);
     const SpacePlan plan = PlanThatFits(context, demand, plotted, box);
     LayOutWalls(context, demand, plan);
     SpacePlaces places = LayOutSpaceMarks(context, plan, plotted);

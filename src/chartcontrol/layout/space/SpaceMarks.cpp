@@ -93,7 +93,7 @@ private:
     }
 
     [[nodiscard]] Track TrackOf(int number) const {
-        const LinearMap& map = plan_.MapOf(context_.chart.Plot.SeriesCollection(number));
+        const AxisMap& map = plan_.MapOf(context_.chart.Plot.SeriesCollection(number));
         const Values tops = plotted_.Top(number);
         const Values bases = plotted_.Base(number);
         Track track{number, plotted_.MarkOf(number), {}, {}, {}, {}};
@@ -101,7 +101,7 @@ private:
             const int category = Farthest(tops, column);
             track.category.push_back(category);
             track.top.push_back(map.At(tops[category]));
-            track.base.push_back(bases.first == nullptr ? PlotArea::BaseOf(map) : map.At(bases[category]));
+            track.base.push_back(bases.first == nullptr ? map.Base() : map.StandAt(bases[category]));
         }
         track.middle.resize(plan_.columns.size());
         return track;

@@ -99,16 +99,27 @@ private:
             {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
     }
 
-    [[nodiscard]] TextBlock Title(AxisId id, double length) const {
+    [[nodiscard]] bool HasTitle(AxisId id) const {
         const AxisTitle& title = AxisOf(id).AxisTitle;
-        if (plan_.furniture != Furniture::All || AxisOf(id).AxisScale.Hide || !title.Visible) return {};
-        return BreakText(title.Text, title.VtFont, title.TextLayout.Orientation, {length, 1},
-                         context_.measurer);
+        return plan_.furniture == Furniture::All && !AxisOf(id).AxisScale.Hide && title.Visible &&
+               !title.Text.isEmpty();
+    }
+    [[nodiscard]] TextBlock Title(AxisId id, double length, const QString& unit = {}) const {
+        if (!HasTitle(id)) return {};
+        const AxisTitle& title = AxisOf(id).AxisTitle;
+        return BreakText(TitleWithUnit(title.Text, unit), title.VtFont, title.TextLayout.Orientation,
+                         {length, 1}, context_.measurer);
+    }
+    [[nodiscard]] TextBlock Unit(AxisId id, const QString& unit) const {
+        if (unit.isEmpty() || HasTitle(id) || !Shown(id)) return {};
+        return ElidedLine(unit, AxisOf(id).Labels.Item(1).VtFont, box_.Width() / 2, context_.measurer);
     }
 
     [[nodiscard]] Box RoomForSpace() {
         plan_.xTitle = Title(AxisId::X, 0.6 * box_.Width());
-        plan_.yTitle = Title(AxisId::Y, box_.Height());
+        plan_.yTitle = Title(AxisId::Y, box_.Height(), plan_.primary.unit);
+        plan_.yUnit = Unit(AxisId::Y, plan_.primary.unit);
+        plan_.secondaryUnit = Unit(AxisId::SecondaryY, plan_.secondary.unit);
         plan_.zTitle = Title(AxisId::Z, 0.25 * box_.Width());
         Box room = box_;
         const auto gap = [&](AxisId id) { return AxesPlan::LabelGap(AxisOf(id)); };
@@ -125,7 +136,8 @@ private:
         if (Shown(AxisId::X)) LeaveRoomForCategories(room, gap(AxisId::X));
         room.bottom -= std::max(title(plan_.xTitle, plan_.xTitle.Extent().height),
                                 title(plan_.zTitle, plan_.zTitle.Extent().height));
-        room.top += 0.6 * AxisOf(AxisId::Y).Labels.Item(1).VtFont.Size;
+        room.top += 0.6 * AxisOf(AxisId::Y).Labels.Item(1).VtFont.Size +
+                    std::max(plan_.yUnit.Depth(), plan_.secondaryUnit.Depth());
         room.right = std::max(room.right, room.left + 1);
         room.bottom = std::max(room.bottom, room.top + 1);
         return room;

@@ -1,6 +1,7 @@
 #include "chartcontrol/layout/text/LabelText.h"
 
 #include "base/NumberFormat.h"
+#include "chartcontrol/layout/data/Sums.h"
 #include "chartcontrol/layout/text/DataFormat.h"
 
 #include <cmath>
@@ -53,11 +54,12 @@ double LabelTexts::ShareOf(int category, double value) {
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
             const Values values = chart_.SeriesValues(series);
             for (int i = 0; i < values.count; ++i)
-                if (!std::isnan(values[i])) sums_[static_cast<std::size_t>(i)] += std::abs(values[i]);
+                if (!std::isnan(values[i]))
+                    sums_[static_cast<std::size_t>(i)] += std::abs(values[i]) * SumUnit;
         }
     }
     const double sum = sums_[static_cast<std::size_t>(category)];
-    return sum > 0 ? value / sum : 0;
+    return sum > 0 ? value * SumUnit / sum : 0;
 }
 
 TextBlock BreakLabel(const QStringList& pieces, const Font& font, Orientation orientation, double length,
