@@ -32,14 +32,22 @@ void UprightGrid(const LayoutContext& context, AxisId id, const ValueAxisPlan& p
     for (const ValueAxisPlan::Tick& tick : plan.ticks) GridAt(context, id, box, map.At(tick.value));
 }
 
+/// Between all categories; where they are too close for that, before those that have a label.
 void CategoryGrid(const LayoutContext& context, const AxesPlan& plan) {
     const PlotArea& area = plan.area;
-    const int stride = area.slot >= ClosestGrid ? 1 : std::max(1, plan.categories.stride);
-    if (stride * area.slot < ClosestGrid) return;
     const double edge = area.firstX > area.box.left ? area.box.left : area.firstX;
-    const double pitch = stride * area.slot;
-    const int lines = static_cast<int>((area.box.right + 1e-6 - edge) / pitch);
-    for (int line = 0; line <= lines; ++line) GridAt(context, AxisId::X, area.box, edge + line * pitch);
+    if (area.slot >= ClosestGrid) {
+        const int lines = static_cast<int>((area.box.right + 1e-6 - edge) / area.slot);
+        for (int line = 0; line <= lines; ++line)
+            GridAt(context, AxisId::X, area.box, edge + line * area.slot);
+        return;
+    }
+    double before = -ClosestGrid;
+    for (const CategoryLabelPlan::Label& label : plan.categories.labels) {
+        const double place = edge + label.category * area.slot;
+        if (place - before >= ClosestGrid) GridAt(context, AxisId::X, area.box, place);
+        before = place;
+    }
 }
 
 void AxisLine(const LayoutContext& context, AxisId id, Point from, Point to) {
@@ -87,7 +95,7 @@ void AcrossLabels(const LayoutContext& context, const AxesPlan& plan) {
 void CategoryAxis(const LayoutContext& context, const AxesPlan& plan) {
     const Box& box = plan.area.box;
     const Axis& axis = context.chart.Plot.Axis(AxisId::X);
-    if (plan.categories.stride > 1)
+    if (plan.categories.thinned)
         for (const CategoryLabelPlan::Label& label : plan.categories.labels) {
             const double x = plan.area.CategoryX(label.category);
             AxisLine(context, AxisId::X, {x, box.bottom}, {x, box.bottom + TickLength});

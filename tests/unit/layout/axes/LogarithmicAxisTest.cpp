@@ -39,6 +39,15 @@ TEST(LogarithmicAxis, WritesPowersWhereDigitsWouldRunLong) {
     EXPECT_TRUE(labels.contains(QStringLiteral("1")));
 }
 
+TEST(LogarithmicAxis, LabelsSmallTicksWhateverItsFormatCanShow) {
+    Chart chart = LogarithmicChart(ChartType::Line2D, {0.02, 3, 2000});
+    chart.Plot.Axis(AxisId::Y).Labels.Item(1).Format = QStringLiteral("0");
+    EXPECT_TRUE(LabelsOf(LaidOut(chart), AxisId::Y).contains(QStringLiteral("0.01")));
+    chart = LogarithmicChart(ChartType::Line2D, {2, 3, 2000});
+    chart.Plot.Axis(AxisId::Y).Labels.Item(1).Format = QStringLiteral("0.0");
+    EXPECT_TRUE(LabelsOf(LaidOut(chart), AxisId::Y).contains(QStringLiteral("100.0")));
+}
+
 TEST(LogarithmicAxis, StandsEqualFactorsEquallyFarApart) {
     const Chart chart = LogarithmicChart(ChartType::Line2D, {1, 10, 100, 1000});
     const PointPlaces places = LaidOutWhole(chart).places;
