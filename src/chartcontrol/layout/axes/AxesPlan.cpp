@@ -17,6 +17,8 @@ constexpr double TitleGapShare = 0.55;
 constexpr double DeepestLabelShare = 0.33;
 constexpr double WidestOverhangShare = 0.25;
 constexpr int MostTitleLines = 2;
+/// A margin that is so much wider than needed is no rounding. Points.
+constexpr double LeastWaste = 2;
 /// Each pass fits the labels to the box that the pass before left. Margins only grow, so that it comes to
 /// rest.
 constexpr int MostPasses = 8;
@@ -26,7 +28,7 @@ public:
     AxesPlanner(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
                 const Box& box, Furniture furniture)
         : context_(context), demand_(demand), box_(box), furniture_(furniture),
-          primaryRoom_(HeadRoomOf(context, plotted, false)),
+          categories_(CategoriesOf(context.chart)), primaryRoom_(HeadRoomOf(context, plotted, false)),
           secondaryRoom_(HeadRoomOf(context, plotted, true)) {
         plan_.showX = Shown(AxisId::X);
         plan_.showY = Shown(AxisId::Y);
@@ -37,22 +39,23 @@ public:
 
     AxesPlan Run() {
         BreakTitles();
-        margins_ = {TitlesLeft(), Above(), TitlesRight(), TitlesBelow() + HalfLabel()};
-        for (int pass = 0; pass < MostPasses; ++pass) {
-            const Box before = margins_;
-            FitBox();
-            PlanUpright();
-            BreakTitles();
-            GrowSides();
-            FitBox();
-            PlanAcross();
-            BreakTitles();
-            GrowEnds();
-            if (margins_ == before) break;
+        FitMargins();
+        // Labels that were hoped to reach beyond the plot may in the end stand so that they do not.
+        const bool areTurned = plan_.categories.way == CategoryLabelPlan::Way::Turned;
+        if (!areTurned && margins_.left > NeededLeft() + LeastWaste) {
+            hopesForOverhang_ = false;
+            FitMargins();
         }
         FitBox();
         PlanUpright();
-        PlanAcross();
+        PlanAcross({});
+        // Those that found less room to the sides than was hoped for may reach deeper.
+        const double below = margins_.bottom;
+        GrowEnds();
+        if (margins_.bottom > below) {
+            FitBox();
+            PlanUpright();
+        }
         FitMaps();
         return plan_;
     }
@@ -106,14 +109,35 @@ private:
         return HalfLabel() + std::max(plan_.yUnit.Depth(), plan_.secondaryUnit.Depth());
     }
 
+    void FitMargins() {
+        plan_.gapBelow = std::max(AxesPlan::LabelGap(AxisOf(AxisId::X)), HalfLabel());
+        margins_ = {TitlesLeft(), Above(), TitlesRight(), TitlesBelow() + HalfLabel()};
+        for (int pass = 0; pass < MostPasses; ++pass) {
+            const Box before = margins_;
+            FitBox();
+            PlanUpright();
+            BreakTitles();
+            GrowSides();
+            FitBox();
+            PlanAcross(LeftOverhang());
+            BreakTitles();
+            GrowEnds();
+            if (margins_ == before) break;
+        }
+    }
     void GrowSides() {
         Grow(margins_.top, Above());
         Grow(margins_.left, TitlesLeft() + LabelRoom(AxisId::Y, plan_.primary.LabelWidth()));
         Grow(margins_.right, TitlesRight() + LabelRoom(AxisId::SecondaryY, plan_.secondary.LabelWidth()));
     }
     void GrowEnds() {
-        Grow(margins_.bottom, TitlesBelow() + std::max(HalfLabel(), LabelRoom(AxisId::X, AcrossDepth())));
+        Grow(margins_.bottom, TitlesBelow() + std::max(HalfLabel(), RoomBelow()));
         LeaveRoomForOverhang();
+    }
+
+    [[nodiscard]] double RoomBelow() const {
+        const double depth = AcrossDepth();
+        return plan_.showX && depth > 0 ? depth + plan_.gapBelow : 0;
     }
 
     static void Grow(double& margin, double needed) { margin = std::max(margin, needed); }
@@ -158,40 +182,58 @@ private:
             PlanValueAxis(context_, AxisOf(AxisId::SecondaryY), {secondary, demand_.keepZero, length, false});
     }
 
-    void PlanAcross() {
+    /// Margins may still grow by so much for the sake of labels that reach beyond the plot.
+    struct Overhang {
+        double left = 0;
+        double right = 0;
+    };
+    [[nodiscard]] double MostOverhang() const { return WidestOverhangShare * box_.Width(); }
+    [[nodiscard]] Overhang LeftOverhang() const {
+        if (!hopesForOverhang_) return {};
+        return {std::max(0.0, TitlesLeft() + MostOverhang() - margins_.left),
+                std::max(0.0, TitlesRight() + MostOverhang() - margins_.right)};
+    }
+
+    void PlanAcross(Overhang overhang) {
         if (demand_.pairsColumns) {
             plan_.across = PlanValueAxis(context_, AxisOf(AxisId::X),
                                          {demand_.across, false, plan_.area.box.Width(), true});
             return;
         }
         if (!plan_.showX || !named_) return;
-        const Chart& chart = context_.chart;
-        plan_.categories = PlanCategoryLabels(
-            {chart.CategoryCount(), [&chart](int category) { return chart.CategoryName(category + 1); },
-             plan_.area.slot, DeepestLabelShare * box_.Height()},
-            AxisOf(AxisId::X).Labels.Item(1).VtFont, context_.measurer);
+        const PlotArea& area = plan_.area;
+        plan_.categories =
+            PlanCategoryLabels({categories_, area.slot, DeepestLabelShare * box_.Height(),
+                                area.firstX - box_.left + overhang.left,
+                                box_.right - area.CategoryX(categories_.Count() - 1) + overhang.right},
+                               AxisOf(AxisId::X).Labels.Item(1).VtFont, context_.measurer);
     }
 
     [[nodiscard]] double AcrossDepth() const {
         return demand_.pairsColumns ? plan_.across.line.Height() : plan_.categories.Depth();
     }
 
-    /// Labels at the ends of the horizontal axis may reach beyond the plot, but not beyond the box.
-    void LeaveRoomForOverhang() {
-        double left = 0;
-        double right = 0;
-        if (demand_.pairsColumns && plan_.showX) {
-            left = plan_.across.ticks.front().width / 2;
-            right = plan_.across.ticks.back().width / 2;
-        }
+    /// How far labels of the horizontal axis reach beyond the plot.
+    [[nodiscard]] Overhang OverhangOf() const {
+        Overhang overhang;
+        if (demand_.pairsColumns && plan_.showX)
+            overhang = {plan_.across.ticks.front().width / 2, plan_.across.ticks.back().width / 2};
         for (const CategoryLabelPlan::Label& label : plan_.categories.labels) {
             const double x = plan_.area.CategoryX(label.category);
-            left = std::max(left, plan_.categories.ReachLeft(label) - (x - plan_.area.box.left));
-            right = std::max(right, plan_.categories.ReachRight(label) - (plan_.area.box.right - x));
+            overhang.left =
+                std::max(overhang.left, plan_.categories.ReachLeft(label) - (x - plan_.area.box.left));
+            overhang.right =
+                std::max(overhang.right, plan_.categories.ReachRight(label) - (plan_.area.box.right - x));
         }
-        const double most = WidestOverhangShare * box_.Width();
-        Grow(margins_.left, TitlesLeft() + std::min(left, most));
-        Grow(margins_.right, TitlesRight() + std::min(right, most));
+        return {std::min(overhang.left, MostOverhang()), std::min(overhang.right, MostOverhang())};
+    }
+    void LeaveRoomForOverhang() {
+        const Overhang overhang = OverhangOf();
+        Grow(margins_.left, TitlesLeft() + overhang.left);
+        Grow(margins_.right, TitlesRight() + overhang.right);
+    }
+    [[nodiscard]] double NeededLeft() const {
+        return TitlesLeft() + std::max(LabelRoom(AxisId::Y, plan_.primary.LabelWidth()), OverhangOf().left);
     }
 
     void FitMaps() {
@@ -205,12 +247,14 @@ private:
     const PlotDemand& demand_;
     Box box_;
     Furniture furniture_;
+    CategorySequence categories_;
     HeadRoom primaryRoom_;
     HeadRoom secondaryRoom_;
     bool named_ = false; // whether any category has a label
     using Units = std::array<QString, 3>;
     Units units_; // of the labels across, upright, and on the secondary axis, as the titles tell them
     bool titlesAreBroken_ = false;
+    bool hopesForOverhang_ = true;
     Box margins_;
     AxesPlan plan_;
 };

@@ -52,6 +52,9 @@ struct AxesPlan {
     /// What the labels of an upright axis are told in, above them, where no title tells it.
     TextBlock yUnit;
     TextBlock secondaryUnit;
+    /// From the plot's lower edge to the labels: more than from other edges where those of an upright axis
+    /// reach down there.
+    double gapBelow = 0;
     bool showX = false;
     bool showY = false;
     bool showSecondary = false;

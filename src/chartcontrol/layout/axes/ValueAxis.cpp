@@ -83,7 +83,10 @@ Division LogarithmicDivision(const Axis& axis, const ValueAxisWish& wish, int co
 }
 
 TickTexts TextsOf(const std::vector<double>& ticks, const QString& format, bool logarithmic) {
-    if (format.isEmpty()) return logarithmic ? TextsOfLogarithmicTicks(ticks) : TextsOfEvenTicks(ticks);
+    // A format that would show small ticks as zero tells nothing of them.
+    const bool tooCoarse = logarithmic && ticks.front() < UnitOf(format);
+    if (format.isEmpty() || tooCoarse)
+        return logarithmic ? TextsOfLogarithmicTicks(ticks) : TextsOfEvenTicks(ticks);
     TickTexts texts;
     for (const double tick : ticks) texts.labels += FormatNumber(tick, format);
     return texts;

@@ -39,8 +39,9 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
         const double base = bases.first == nullptr
                                 ? context.plot.BaseY(number)
                                 : context.plot.MapOf(number).StandAt(bases[first.category]);
-        for (const Point& point : {Point{start - lone, base}, Point{start - lone, y}, Point{start + lone, y},
-                                   Point{start + lone, base}})
+        const double left = std::max(start - lone, context.area.box.left);
+        const double right = std::min(start + lone, context.area.box.right);
+        for (const Point& point : {Point{left, base}, Point{left, y}, Point{right, y}, Point{right, base}})
             context.builder.AddPoint(point);
         return;
     }

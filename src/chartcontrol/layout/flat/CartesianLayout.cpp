@@ -90,7 +90,7 @@ PlottedArea LayOutCartesian(const LayoutContext& context, const Box& box) {
     const PlotContext plot{context, finished};
     LayOutMarks(plot, demand);
     LayOutAxes(context, demand, plan, room);
-    if (names > 0) LayOutDirectNames(plot, box);
+    if (names > 0) LayOutDirectNames(plot);
     LayOutDataLabels(plot, room);
     return finished;
 }

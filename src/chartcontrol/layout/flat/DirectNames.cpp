@@ -21,8 +21,8 @@ constexpr double LeaderWidth = 0.6;
 constexpr double FarWithoutLine = 0.4;
 constexpr std::size_t MostNames = 14;
 /// The names take at most this part of the box.
-constexpr double WidestShare = 0.32;
-constexpr double HighestShare = 0.8;
+constexpr double WidestNamesShare = 0.32;
+constexpr double HighestNamesShare = 0.8;
 
 struct EndName {
     int series = 0;
@@ -97,11 +97,12 @@ double DirectNamesWidth(const LayoutContext& context, const Box& box) {
         width = std::max(width, block.Length());
         height += block.Depth();
     }
-    const bool fits = width <= WidestShare * box.Width() && height <= HighestShare * box.Height();
+    const bool fits = width <= WidestNamesShare * box.Width() && height <= HighestNamesShare * box.Height();
     return fits ? width + GapBefore : 0;
 }
 
-void LayOutDirectNames(const PlotContext& context, const Box& box) {
+void LayOutDirectNames(const PlotContext& context) {
+    const Box& box = context.area.box; // below it stand the names of categories
     std::vector<EndName> names;
     for (int number = 1; number <= context.plotted.SeriesCount(); ++number) {
         const int last = LastOf(context.plotted.Top(number));

@@ -10,6 +10,6 @@ double DirectNamesWidth(const LayoutContext& context, const Box& box);
 
 /// The names to the right of the plot, each at the height of its series' last point, moved apart where they
 /// would meet.
-void LayOutDirectNames(const PlotContext& context, const Box& box);
+void LayOutDirectNames(const PlotContext& context);
 
 } // namespace QmChart6

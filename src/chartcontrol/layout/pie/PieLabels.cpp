@@ -150,10 +150,15 @@ private:
         }
         const Ground::Footing footing = ground_.Under(box);
         if (!footing.free || !footing.even) return false;
-        ground_.Take(box);
         const Point direction = DirectionOf(placed.label->turn);
         const Point rim{circle_.center.x + direction.x * (circle_.radius + 1),
                         circle_.center.y + direction.y * (circle_.radius + 1)};
+        if (style != LabelLineStyle::None) {
+            const Point end{right ? box.left - 1 : box.right + 1, box.Center().y};
+            if (!ground_.IsFreeWay(rim, end)) return false;
+            ground_.Draw(rim, end);
+        }
+        ground_.Take(box);
         AddLabelLine(context_.builder, placed.label->part, style, rim, box, block.font.VtColor);
         DrawLabel(context_.builder, placed.label->part, block, {{box}, footing.colour, false},
                   right ? HorizontalAlignment::Left : HorizontalAlignment::Right);

@@ -2,6 +2,7 @@
 #include "chartcontrol/layout/data/SeriesLook.h"
 #include "chartcontrol/layout/data/Sums.h"
 #include "chartcontrol/layout/pie/PieLabels.h"
+#include "chartcontrol/layout/text/LabelPlaces.h"
 #include "chartcontrol/layout/text/LabelText.h"
 #include "chartcontrol/layout/text/TextBlock.h"
 
@@ -238,6 +239,16 @@ private:
             context_.builder.DropPendingPoints();
     }
 
+    /// What a name on the slices is read on.
+    void Plate(const TextBlock& block, Point center) {
+        if (block.IsEmpty()) return;
+        const Size half{block.Length() / 2 + PlateRim, block.Depth() / 2 + PlateRim};
+        context_.builder.AddRectangle(
+            {PartCode::Plot},
+            {center.x - half.width, center.y - half.height, center.x + half.width, center.y + half.height},
+            SolidFill(chart_.Backdrop.Fill.Brush.FillColor), {}, false);
+    }
+
     void Name(int category, Point center) {
         if (NamePosition() == SubPlotLabelPosition::None) return;
         const TextBlock block = BreakText(chart_.CategoryName(category + 1), nameFont_,
@@ -247,7 +258,10 @@ private:
         Box place{center.x, center.y - radius - depth, center.x, center.y - radius - NameGap};
         if (NamePosition() == SubPlotLabelPosition::Below)
             place = {center.x, center.y + radius + NameGap, center.x, center.y + radius + depth};
-        if (NamePosition() == SubPlotLabelPosition::Center) place = {center.x, center.y, center.x, center.y};
+        if (NamePosition() == SubPlotLabelPosition::Center) {
+            place = {center.x, center.y, center.x, center.y};
+            Plate(block, center);
+        }
         PlaceText(context_.builder, {PartCode::AxisLabel, static_cast<int>(AxisId::X), category + 1}, block,
                   place, HorizontalAlignment::Center, VerticalAlignment::Center);
     }

@@ -96,15 +96,13 @@ private:
         const int count = chart.CategoryCount();
         const double pitch = std::abs(CategoryPlace(count).x - CategoryPlace(0).x) / count;
         const double top = std::max(CategoryPlace(0).y, CategoryPlace(count).y) + Gap(AxisId::X);
-        CategoryLabelPlan labels = PlanCategoryLabels(
-            {count, [&](int category) { return chart.CategoryName(category + 1); }, std::max(pitch, 1e-3),
-             std::max(12.0, box_.bottom - top - plan_.xTitle.Extent().height)},
-            AxisOf(AxisId::X).Labels.Item(1).VtFont, context_.measurer);
         const auto x = [&](int category) { return CategoryPlace(category + 0.5).x; };
-        std::erase_if(labels.labels, [&](const CategoryLabelPlan::Label& label) {
-            const double at = x(label.category);
-            return at - labels.ReachLeft(label) < box_.left || at + labels.ReachRight(label) > box_.right;
-        });
+        CategorySequence categories = CategoriesOf(chart);
+        const CategoryLabelPlan labels =
+            PlanCategoryLabels({categories, std::max(pitch, 1e-3),
+                                std::max(12.0, box_.bottom - top - plan_.xTitle.Extent().height),
+                                x(0) - box_.left, box_.right - x(count - 1)},
+                               AxisOf(AxisId::X).Labels.Item(1).VtFont, context_.measurer);
         PlaceCategoryLabels(context_.builder, labels, x, top);
         taken_.Mark({box_.left, top, std::max(CategoryPlace(0).x, CategoryPlace(count).x) + Gap(AxisId::X),
                      std::min(box_.bottom, top + labels.Depth())});

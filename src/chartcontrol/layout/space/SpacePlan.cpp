@@ -190,11 +190,9 @@ private:
     /// How far the labels of the categories reach down when they stand so far apart.
     [[nodiscard]] double LabelDepth(double pitch) const {
         const Font& font = AxisOf(AxisId::X).Labels.Item(1).VtFont;
-        const Chart& chart = context_.chart;
-        const CategoryLabelPlan labels = PlanCategoryLabels(
-            {chart.CategoryCount(), [&](int category) { return chart.CategoryName(category + 1); }, pitch,
-             LabelDepthShare * box_.Height()},
-            font, context_.measurer);
+        CategorySequence categories = CategoriesOf(context_.chart);
+        const CategoryLabelPlan labels =
+            PlanCategoryLabels({categories, pitch, LabelDepthShare * box_.Height()}, font, context_.measurer);
         return labels.Depth();
     }
 

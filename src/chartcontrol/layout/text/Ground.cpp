@@ -17,12 +17,32 @@ constexpr double Touch = 0.05;
 /// Lines that stand out less than this from the ground, as grid lines do, disturb no text.
 constexpr double FaintContrast = 1.7;
 
+/// Cuts one end of a line to where a coordinate is at least `least`, times `sign`; false where none of it is.
+bool CutSide(Point& from, Point& to, double Point::* along, double sign, double least) {
+    const auto beyond = [&](const Point& point) { return sign * (point.*along) < sign * least; };
+    if (beyond(from) && beyond(to)) return false;
+    for (Point* end : {&from, &to}) {
+        if (!beyond(*end)) continue;
+        const double part = (least - from.*along) / (to.*along - from.*along);
+        *end = {from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part};
+    }
+    return true;
+}
+
+/// Cuts a line to what of it lies within a box; false where nothing does.
+bool CutTo(const Box& box, Point& from, Point& to) {
+    return CutSide(from, to, &Point::x, 1, box.left) && CutSide(from, to, &Point::x, -1, box.right) &&
+           CutSide(from, to, &Point::y, 1, box.top) && CutSide(from, to, &Point::y, -1, box.bottom);
+}
+
 } // namespace
 
-/// Places along a line, close to each other.
+/// Places along a line, close to each other, as far as it runs near the room.
 template<class Visit>
-void Ground::ForPlaces(Point from, Point to, Visit visit) {
+void Ground::ForPlaces(Point from, Point to, Visit visit) const {
     constexpr double step = 0.7;
+    constexpr double near = 20;
+    if (!CutTo(room_.Grown(near), from, to)) return;
     const Point way{to.x - from.x, to.y - from.y};
     const int steps = static_cast<int>(std::hypot(way.x, way.y) / step) + 1;
     for (int at = 0; at <= steps; ++at)
@@ -101,10 +121,12 @@ private:
         const double opacity = shape_->fill.opacity;
         const auto key = std::pair(number_, opacity < 1 ? below : 0);
         const auto [found, isNew] = known_.try_emplace(key, static_cast<Cell>(ground_.surfaces_.size()));
-        if (isNew)
-            ground_.surfaces_.push_back({number_,
-                                         Mixed(ground_.surfaces_[below].colour, shape_->fill.colour, opacity),
-                                         shape_->fill.style != BrushStyle::Solid});
+        if (isNew) {
+            const Surface under = ground_.surfaces_[below];
+            const bool patterned = shape_->fill.style != BrushStyle::Solid;
+            ground_.surfaces_.push_back({number_, Mixed(under.colour, shape_->fill.colour, opacity),
+                                         patterned || (opacity < 1 && under.patterned)});
+        }
         return found->second;
     }
 
@@ -140,8 +162,8 @@ private:
     void Cross(Point from, Point to) {
         if (from.y > to.y) std::swap(from, to);
         const double top = ground_.room_.top + 0.5;
-        const int first = std::max(0, static_cast<int>(std::ceil(from.y - top)));
-        const int last = std::min(ground_.rows_ - 1, static_cast<int>(std::ceil(to.y - top)) - 1);
+        const int first = static_cast<int>(std::clamp(std::ceil(from.y - top), 0.0, 1.0 * ground_.rows_));
+        const int last = static_cast<int>(std::clamp(std::ceil(to.y - top), 0.0, 1.0 * ground_.rows_)) - 1;
         for (int row = first; row <= last; ++row)
             crossings_[static_cast<std::size_t>(row)].push_back(
                 from.x + (top + row - from.y) * (to.x - from.x) / (to.y - from.y));
@@ -152,7 +174,7 @@ private:
         if (stroke.style == PenStyle::None || !IsSeen(stroke.colour)) return;
         const double half = stroke.width / 2;
         for (std::size_t i = 1; i < points.size(); ++i)
-            ForPlaces(points[i - 1], points[i], [&](Point place) {
+            ground_.ForPlaces(points[i - 1], points[i], [&](Point place) {
                 Mark({place.x - half, place.y - half, place.x + half, place.y + half}, Line);
             });
     }
@@ -178,11 +200,14 @@ Ground::Ground(const Scene& scene, const Box& room, Colour plain)
 }
 
 Ground::Cells Ground::CellsOf(const Box& box) const {
-    const auto first = [](double place) { return std::max(0, static_cast<int>(std::floor(place + Touch))); };
-    const auto last = [](double place, int count) {
-        return std::min(count - 1, static_cast<int>(std::ceil(place - Touch)) - 1);
+    // One beyond the end stands for all that is outside.
+    const auto first = [](double place, int count) {
+        return static_cast<int>(std::clamp(std::floor(place + Touch), 0.0, 1.0 * count));
     };
-    Cells cells{first(box.left - room_.left), first(box.top - room_.top),
+    const auto last = [](double place, int count) {
+        return static_cast<int>(std::clamp(std::ceil(place - Touch), 0.0, 1.0 * count)) - 1;
+    };
+    Cells cells{first(box.left - room_.left, columns_), first(box.top - room_.top, rows_),
                 last(box.right - room_.left, columns_), last(box.bottom - room_.top, rows_)};
     // What is thinner than a cell lies in one.
     if (box.right >= room_.left && cells.left < columns_) cells.right = std::max(cells.right, cells.left);

@@ -68,7 +68,7 @@ private:
     class Reader;
 
     template<class Visit>
-    static void ForPlaces(Point from, Point to, Visit visit);
+    void ForPlaces(Point from, Point to, Visit visit) const;
     [[nodiscard]] Cells CellsOf(const Box& box) const;
     [[nodiscard]] Cell& At(int column, int row) {
         return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +

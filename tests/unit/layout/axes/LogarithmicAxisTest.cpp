@@ -39,6 +39,15 @@ TEST(LogarithmicAxis, WritesPowersWhereDigitsWouldRunLong) {
     EXPECT_TRUE(labels.contains(QStringLiteral("1")));
 }
 
+TEST(LogarithmicAxis, LabelsSmallTicksWhateverItsFormatCanShow) {
+    Chart chart = LogarithmicChart(ChartType::Line2D, {0.02, 3, 2000});
+    chart.Plot.Axis(AxisId::Y).Labels.Item(1).Format = QStringLiteral("0");
+    EXPECT_TRUE(LabelsOf(LaidOut(chart), AxisId::Y).contains(QStringLiteral("0.01")));
+    chart = LogarithmicChart(ChartType::Line2D, {2, 3, 2000});
+    chart.Plot.Axis(AxisId::Y).Labels.Item(1).Format = QStringLiteral("0.0");
+    EXPECT_TRUE(LabelsOf(LaidOut(chart), AxisId::Y).contains(QStringLiteral("100.0")));
+}
+
 TEST(LogarithmicAxis, StandsEqualFactorsEquallyFarApart) {
     const Chart chart = LogarithmicChart(ChartType::Line2D, {1, 10, 100, 1000});
     const PointPlaces places = LaidOutWhole(chart).places;
@@ -92,7 +101,7 @@ TEST(LogarithmicAxis, BarsAndAreasStandOnItsLowerEnd) {
 }
 
 TEST(LogarithmicAxis, PilesReachToTheirSums) {
-    Chart chart = ChartOf(1, 2, [](int, int column) { return column == 1 ? 20.0 : 980.0; });
+    Chart chart = ChartOf(1, 2, [](int, int column) { return column == 1 ? 30.0 : 970.0; });
     chart.Plot.Axis(AxisId::Y).AxisScale.Type = ScaleType::Logarithmic;
     chart.Stacking = true;
     const Scene scene = LaidOut(chart);
@@ -102,7 +111,7 @@ TEST(LogarithmicAxis, PilesReachToTheirSums) {
     EXPECT_NEAR(std::get<Rectangle>(bars[0].geometry).box.bottom, plot.bottom, 1e-9);
     EXPECT_NEAR(std::get<Rectangle>(bars[1].geometry).box.bottom,
                 std::get<Rectangle>(bars[0].geometry).box.top, 1e-9);
-    // From 20 to 1,000, where the axis ends.
+    // From 30 to 1,000, where the axis ends.
     EXPECT_NEAR(std::get<Rectangle>(bars[1].geometry).box.top, plot.top, 1e-9);
 }
 
