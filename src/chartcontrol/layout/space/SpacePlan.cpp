@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace QmChart6 {
 
@@ -45,7 +46,7 @@ public:
             if (needed <= labelDepth_ + 0.01) break;
             labelDepth_ = needed;
         }
-        PlanValues(plan_.size.y * plan_.scale);
+        PlanValues(std::min(UprightLength(true), UprightLength(false)));
         plan_.primaryMap = plan_.primary.Map(0, plan_.size.y);
         plan_.secondaryMap = plan_.secondary.Map(0, plan_.size.y);
         return plan_;
@@ -206,6 +207,12 @@ private:
         return flat;
     }
 
+    /// How long an edge of the values is on the page.
+    [[nodiscard]] double UprightLength(bool left) const {
+        const SpacePoint low = plan_.UprightEdge(left);
+        return std::abs(plan_.Page(low).y - plan_.Page({low.x, plan_.size.y, low.z}).y);
+    }
+
     /// Halves the interval of heights until the flat picture has the room's proportions.
     void FitHeight(const Box& room) {
         double low = LowestHeight;
@@ -251,6 +258,19 @@ double SpacePlan::RowEdgeX() const {
     const double right = Page({size.x, 0, size.z / 2}).y;
     if (std::abs(left - right) > 1e-9) return right > left ? size.x : 0;
     return View().IsBeyondX(size.x / 2) ? size.x : 0;
+}
+
+SpacePoint SpacePlan::UprightEdge(bool left) const {
+    SpacePoint best;
+    double reach = -std::numeric_limits<double>::infinity();
+    for (const double x : {0.0, size.x})
+        for (const double z : {0.0, size.z}) {
+            const double at = Page({x, size.y / 2, z}).x * (left ? -1 : 1);
+            if (!(at > reach)) continue;
+            best = {x, 0, z};
+            reach = at;
+        }
+    return best;
 }
 
 double SpacePlan::CategorySlope() const {
