@@ -10,6 +10,7 @@
 #include "chartcontrol/model/ChartKinds.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace QmChart6 {
@@ -45,28 +46,48 @@ PointPlaces LayOutPlot(const LayoutContext& context, const Box& box) {
                              : PointPlaces(FlatPlaces(std::move(plot)));
 }
 
-} // namespace
+/// What of title, footnote and legend is drawn; a small picture does without some, so that it shows the plot.
+enum class Surroundings { All, NoLegend, None };
 
-LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+/// Less room than this is too little for a plot that has other things round it. Points.
+constexpr Size LeastPlot{24, 16};
+
+/// Nothing where what stands round the plot would leave too little of it.
+std::optional<LaidOutChart> LayOutWith(const Chart& chart, const LayoutRequest& request,
+                                       const TextMeasurer& measurer, Surroundings around) {
     LaidOutChart laidOut;
     laidOut.scene.size = request.size;
-    if (!(request.size.width >= 1 && request.size.height >= 1)) return laidOut;
     SceneBuilder builder(laidOut.scene);
     const LayoutContext context{chart, request, measurer, builder};
     const Box whole{0, 0, request.size.width, request.size.height};
     LayOutBackdrop(builder, {PartCode::Chart}, chart.Backdrop, whole);
     const double margin = std::min(Margin, MarginShare * std::min(request.size.width, request.size.height));
     Box free = whole.Grown(-(FrameDepth(chart.Backdrop.Frame) + margin));
-    LayOutTitle(context, chart.Title, PartCode::Title, free);
-    LayOutTitle(context, chart.Footnote, PartCode::Footnote, free);
-    LayOutLegend(context, free);
+    if (around != Surroundings::None) {
+        LayOutTitle(context, chart.Title, PartCode::Title, free);
+        LayOutTitle(context, chart.Footnote, PartCode::Footnote, free);
+    }
+    if (around == Surroundings::All) LayOutLegend(context, free);
     const Box box = PlotBox(chart, free, whole);
+    const bool isSmall = box.Width() < LeastPlot.width || box.Height() < LeastPlot.height;
+    if (isSmall && around != Surroundings::None) return std::nullopt;
+    if (around != Surroundings::All)
+        builder.Warn(QStringLiteral("the chart is too small for what stands round its plot"));
     if (box.Width() < 1 || box.Height() < 1) {
         builder.Warn(QStringLiteral("the chart is too small for its plot"));
         return laidOut;
     }
     laidOut.places = LayOutPlot(context, box);
     return laidOut;
+}
+
+} // namespace
+
+LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+    if (!(request.size.width >= 1 && request.size.height >= 1)) return {{request.size, {}, {}, {}, {}}, {}};
+    for (const Surroundings around : {Surroundings::All, Surroundings::NoLegend})
+        if (auto laidOut = LayOutWith(chart, request, measurer, around)) return std::move(*laidOut);
+    return LayOutWith(chart, request, measurer, Surroundings::None).value();
 }
 
 } // namespace QmChart6
