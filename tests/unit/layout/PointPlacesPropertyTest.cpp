@@ -113,10 +113,11 @@ private:
         return middles;
     }
     /// Tapes run from point to point, their middle through the depth; an area's front along its tops, and
-    /// back along its bases.
+    /// back along its bases, but of piled ones not from point to point where values change sign.
     [[nodiscard]] std::vector<Point> OfFace(Mark mark, Part part, PointRun run) const {
         std::vector<Point> corners = Points(run);
         if (mark == Mark::Area && part.index2 == 0) {
+            if (chart_.Stacking) return {};
             corners.resize(corners.size() / 2);
             return corners;
         }

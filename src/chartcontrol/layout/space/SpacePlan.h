@@ -54,6 +54,9 @@ struct SpacePlan {
     /// page.
     [[nodiscard]] double CategoryEdgeZ() const;
     [[nodiscard]] double RowEdgeX() const;
+    /// The corner of the floor whose upright edge is outermost on the page, at the left or at the right:
+    /// there the values are labelled.
+    [[nodiscard]] SpacePoint UprightEdge(bool left) const;
     /// How far the categories' edge falls to the right on the page, as a part of its width; 0 for a level
     /// one.
     [[nodiscard]] double CategorySlope() const;
