@@ -39,6 +39,7 @@ TitledTable ReadTitledTable(const CommandLine& line) {
 /// What makes charts as the command line wants them.
 QMChartArray Charts(const CommandLine& line, const TitledTable& titled) {
     QMChartArray charts;
+    SetFormatsFollowData(true);
     if (line.configFolder) charts.SetQmChartConfigPath(*line.configFolder);
     if (line.size) SetChartSize(line.size->width(), line.size->height());
     UseNamedLook(line, titled.id);

@@ -23,6 +23,7 @@ struct ProcessState {
     std::int16_t languageCode = 0;
     QString qtTextsLocale; ///< "" for English
     QString valueLabelFormat = QStringLiteral("0");
+    bool formatsFollowData = false;                               ///< as the host asked
     std::map<QString, std::shared_ptr<const Look>> lookOverrides; ///< by graph id
     std::optional<QSize> sizeOfNewCharts;            ///< logical pixels; nothing leaves it to looks
     QString hostPrinter;                             ///< set by the host; "" for none
