@@ -234,6 +234,7 @@ Options:
 
 Commands of config:
   init FOLDER             make the empty store in a folder, or in a database that is there
+  upgrade FOLDER          make a place in an older store for what looks say in "Beyond"
   list                    the looks' names
   show NAME               a look as JSON
   delete NAME             delete a look and what is bound to it

@@ -81,6 +81,10 @@ void CreateLookStore(const QString& folder) {
     CreateDatabase(StoreOf(folder), ConfigurationSchema());
 }
 
+bool UpgradeLookStore(const QString& folder) {
+    return AddTable(StoreOf(folder), ConfigurationSchema(), QLatin1String(ExtrasTable));
+}
+
 QStringList LookNames(const QString& folder) {
     QStringList names;
     ListLooks(StoreOf(folder), names);
@@ -112,7 +116,7 @@ QByteArray ExportLook(const QString& folder, const QString& name) {
     return WriteLookJson({name, ReadStored(location, name)});
 }
 
-QString ImportLook(const QString& folder, const QByteArray& look, const QString& name) {
+QString ImportLook(const QString& folder, const QByteArray& look, const QString& name, int* valuesNotKept) {
     RequireFirstThread();
     const NamedLook named = ReadLookJson(look);
     QString kept = name.isEmpty() ? named.name : name;
@@ -126,12 +130,13 @@ QString ImportLook(const QString& folder, const QByteArray& look, const QString&
     Database::Writing writing(database, QLatin1String(BindingsTable));
     CopyLook(complete, stored);
     writing.Finish();
+    if (valuesNotKept != nullptr) *valuesNotKept = stored.ValuesNotKept();
     return kept;
 }
 
 CopiedStore CopyLookStore(const QString& from, const QString& to) {
     const CopiedLooks copied = CopyLooks(StoreOf(from), StoreOf(to));
-    return {copied.looks, copied.bindings};
+    return {copied.looks, copied.bindings, copied.valuesNotKept};
 }
 
 void UseLook(const QString& graphId, const QByteArray& look) {
