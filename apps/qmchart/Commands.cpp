@@ -1,5 +1,7 @@
 #include "qmchart/Commands.h"
 
+#include "qmchart/BuiltInLooks.h"
+#include "qmchart/ChosenLook.h"
 #include "qmchart/ConfigCommands.h"
 #include "qmchart/InputText.h"
 #include "qmchart/TableReader.h"
@@ -19,7 +21,7 @@ struct TitledTable {
     Table table;
     QString id;
     QString title;
-    QString rowTitle;
+    ChosenLook look;
 };
 
 TitledTable ReadTitledTable(const CommandLine& line) {
@@ -32,7 +34,7 @@ TitledTable ReadTitledTable(const CommandLine& line) {
                                                      .hasRowLabels = line.hasRowLabels});
     titled.id = line.id.value_or(named ? baseName : QStringLiteral("stdin"));
     titled.title = line.title.value_or(named ? PresentableTitle(baseName) : QString());
-    titled.rowTitle = line.rowTitle.value_or(titled.table.rowTitle);
+    titled.look = ChooseLook(line, titled.id, titled.table);
     return titled;
 }
 
@@ -42,7 +44,7 @@ QMChartArray Charts(const CommandLine& line, const TitledTable& titled) {
     SetFormatsFollowData(true);
     if (line.configFolder) charts.SetQmChartConfigPath(*line.configFolder);
     if (line.size) SetChartSize(line.size->width(), line.size->height());
-    UseNamedLook(line, titled.id);
+    if (titled.look.look) UseLook(titled.id, *titled.look.look);
     return charts;
 }
 
@@ -55,8 +57,8 @@ QString Show(const CommandLine& line) {
     const Table& table = titled.table;
     Charts(line, titled)
         .QmMakeGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
-                     titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.language,
-                     line.useConfig);
+                     titled.title, titled.look.rowTitle, line.columnTitle, titled.look.valueTitle,
+                     line.language, titled.look.useConfig);
     RunUntilViewersAreClosed();
     return {};
 }
@@ -67,8 +69,8 @@ QString Save(const CommandLine& line) {
     QString picture = line.picture;
     Charts(line, titled)
         .QmSaveGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
-                     titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.useConfig,
-                     picture);
+                     titled.title, titled.look.rowTitle, line.columnTitle, titled.look.valueTitle,
+                     titled.look.useConfig, picture);
     return picture + u'\n';
 }
 
@@ -85,7 +87,8 @@ QString Print(const CommandLine& line) {
     SetPrinter(printer);
     Charts(line, titled)
         .QmPrintGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
-                      titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.useConfig);
+                      titled.title, titled.look.rowTitle, line.columnTitle, titled.look.valueTitle,
+                      titled.look.useConfig);
     return QStringLiteral("printed on %1\n").arg(printer);
 }
 
@@ -94,6 +97,13 @@ QString Printers() {
     const QString byDefault = DefaultPrinterName();
     for (const QString& name : PrinterNames())
         text += name + (name == byDefault ? QStringLiteral(" (default)\n") : QStringLiteral("\n"));
+    return text;
+}
+
+QString Looks() {
+    QString text;
+    for (const QString& name : BuiltInLookNames())
+        text += QStringLiteral("%1 %2\n").arg(name.leftJustified(12), PurposeOfBuiltInLook(name));
     return text;
 }
 
@@ -120,6 +130,8 @@ QString RunCommand(const CommandLine& line) {
         return Print(line);
     case Command::Printers:
         return Printers();
+    case Command::Looks:
+        return Looks();
     case Command::Config:
         return RunConfigCommand(line);
     }

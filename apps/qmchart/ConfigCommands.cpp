@@ -144,12 +144,6 @@ QString RunConfigCommand(const CommandLine& line) {
     return command.run(rest);
 }
 
-void UseNamedLook(const CommandLine& line, const QString& graphId) {
-    if (!line.look) return;
-    const bool file = line.look->endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
-    UseLook(graphId, file ? ReadInput(*line.look) : ExportLook(Store(line), *line.look));
-}
-
 QString OnOneLine(const QString& name) {
     QString text;
     for (const QChar letter : name) {

@@ -178,6 +178,37 @@ class OnBothEngines:
             self.assertIn("7.25", (self.folder / name).read_text(encoding="utf-8"))
 
 
+    def test_without_a_look_a_chart_is_calm_unless_the_store_binds_another(self):
+        def picture(*options):
+            self.does("save", self.table, "a.svg", *options)
+            return (self.folder / "a.svg").read_text(encoding="utf-8")
+        calm = picture()
+        self.assertIn("#4670a8", calm)
+        self.assertEqual(calm, picture("--look", "calm"))
+        self.assertEqual(calm, picture("--config", self.store.folder))
+        plain = picture("--look", "plain")
+        self.assertNotIn("#4670a8", plain)
+        self.assertEqual(plain, picture("--use-config", "no"))
+        self.keep(self.store, "Mine", BackColorRed=1, BackColorGreen=2, BackColorBlue=3)
+        self.config(self.store, "bind", "sales", "Mine")
+        bound = picture("--config", self.store.folder)
+        self.assertIn("#010203", bound)
+        self.assertNotIn("Title of Mine", bound)
+
+    def test_looks_of_the_program(self):
+        listed = [line.split(" ", 1) for line in self.does("looks").splitlines()]
+        self.assertEqual(len(listed), 10)
+        pictures = set()
+        for name, purpose in listed:
+            self.assertTrue(purpose.strip())
+            self.does("save", self.table, "a.svg", "--look", name)
+            pictures.add((self.folder / "a.svg").read_bytes())
+        self.assertGreaterEqual(len(pictures), 9)  # of small numbers a logarithmic axis may show no more than another
+        self.keep(self.store, "dark", BackColorRed=1, BackColorGreen=2, BackColorBlue=3)
+        self.does("save", self.table, "a.svg", "--look", "dark", "--config", self.store.folder)
+        self.assertIn("#010203", (self.folder / "a.svg").read_text(encoding="utf-8"))
+
+
 class OnAFile(OnBothEngines, Commands):
     engine = stores.SqliteStore
 

@@ -88,6 +88,19 @@ TEST(CommandLine, ASizeIsTwoNumbersOfPixels) {
     EXPECT_FALSE(Parse({"save", "a.csv", "a.png"}).size);
 }
 
+TEST(CommandLine, KindsOfChartHaveTheirNumbers) {
+    EXPECT_FALSE(Parse({"show", "t"}).chartType);
+    const QList<std::pair<QString, int>> kinds{
+        {"bar3d", 0},  {"bar", 1},         {"line3d", 2},        {"line", 3}, {"area", 5},
+        {"step3d", 6}, {"combination", 9}, {"combination3d", 8}, {"pie", 14}, {"xy", 16}};
+    for (const auto& [word, number] : kinds)
+        EXPECT_EQ(Parse({"show", "t", "--type", word}).chartType, number);
+}
+
+TEST(CommandLine, LooksTakesNothing) {
+    EXPECT_EQ(Parse({"looks"}).command, Command::Looks);
+}
+
 TEST(CommandLine, ConfigKeepsItsOperands) {
     const CommandLine line = Parse({"config", "import", "look.json", "--as", "Board", "--config", "looks"});
     EXPECT_EQ(line.command, Command::Config);
@@ -147,7 +160,10 @@ INSTANTIATE_TEST_SUITE_P(
         QStringList{"show", "t", "--size", "800"}, QStringList{"show", "t", "--size", "0x5"},
         QStringList{"show", "t", "--size", "8x5x3"}, QStringList{"show", "t", "--size", "axb"},
         QStringList{"show", "t", "--look", "a", "--use-config", "no"}, QStringList{"show", "t", "--as", "a"},
-        QStringList{"config", "list", "--look", "a"}, QStringList{"config", "list", "--size", "8x5"}));
+        QStringList{"looks", "a"}, QStringList{"looks", "--type", "bar"},
+        QStringList{"show", "t", "--type", "xy3d"}, QStringList{"show", "t", "--type", "Bar"},
+        QStringList{"show", "t", "--type", ""}, QStringList{"config", "list", "--look", "a"},
+        QStringList{"config", "list", "--size", "8x5"}));
 
 TEST(PresentableTitle, IsWordsThatBeginLikeASentence) {
     EXPECT_EQ(PresentableTitle("barley-by-site"), "Barley by site");
