@@ -14,7 +14,7 @@ namespace {
 
 void AddOptions(QCommandLineParser& parser) {
     for (const char* name : {"id", "title", "row-title", "column-title", "value-title", "language", "config",
-                             "use-config", "separator", "look", "type", "size", "as", "printer"})
+                             "use-config", "separator", "look", "type", "size", "dpi", "as", "printer"})
         parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
     for (const char* name : {"no-header", "no-row-labels", "version"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
@@ -117,6 +117,18 @@ std::optional<QSize> SizeOf(const QCommandLineParser& parser) {
     return size;
 }
 
+std::optional<int> DpiOf(const QCommandLineParser& parser) {
+    const std::optional<QString> given = Given(parser, "dpi");
+    if (!given) return std::nullopt;
+    bool isNumber = false;
+    const int dpi = given->toInt(&isNumber);
+    if (!isNumber || dpi < 1)
+        throw UsageError(
+            QStringLiteral("--dpi takes a whole number of pixels to an inch, such as 300, not \"%1\"")
+                .arg(*given));
+    return dpi;
+}
+
 /// A command's word, and how many operands it takes behind it.
 struct Word {
     const char* text;
@@ -179,8 +191,9 @@ std::optional<QString> PrinterOf(const QCommandLineParser& parser, Command comma
 void RefuseStrayOptions(const CommandLine& line) {
     const bool makesChart =
         line.command == Command::Show || line.command == Command::Save || line.command == Command::Print;
-    if (!makesChart && (line.look || line.size || line.chartType))
-        throw UsageError(QStringLiteral("--look, --type and --size go with show, save and print only"));
+    if (!makesChart && (line.look || line.size || line.dpi || line.chartType))
+        throw UsageError(
+            QStringLiteral("--look, --type, --size and --dpi go with show, save and print only"));
     if (line.importName && line.operands.value(0) != QLatin1String("import"))
         throw UsageError(QStringLiteral("--as goes with config import only"));
 }
@@ -223,6 +236,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.look = Given(parser, "look");
     line.chartType = ChartTypeOf(parser);
     line.size = SizeOf(parser);
+    line.dpi = DpiOf(parser);
     line.importName = Given(parser, "as");
     RefuseStrayOptions(line);
     line.separator = SeparatorOf(parser);
@@ -259,6 +273,7 @@ Options:
                           or plain for the component's own (default: the one that --config binds, or calm)
   --type TYPE             bar, line, area, step, combination (each with 3d behind it too), pie or xy
   --size WIDTHxHEIGHT     the chart's size in pixels (default: as the look's window has it)
+  --dpi NUMBER            the pixels to an inch, which letters and lines are drawn for (default: 96)
   --separator CHARACTER   what separates the cells, or the word tab (default: found out)
   --printer NAME          print: the printer (default: the system's)
   --no-header             the first line is numbers already

@@ -30,6 +30,7 @@ struct CommandLine {
     std::optional<QString> look;  ///< a file, a stored look's name, one that comes with the program, or plain
     std::optional<int> chartType; ///< as looks number them
     std::optional<QSize> size;    ///< of the chart, in pixels
+    std::optional<int> dpi;       ///< pixels to an inch
     QStringList operands;         ///< Config only: its command, and what that takes
     std::optional<QString> importName; ///< what an imported look is called
     std::optional<char> separator;

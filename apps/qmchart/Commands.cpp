@@ -11,6 +11,7 @@
 #include "qmchart6/QMChartArray.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace QmChart6 {
 
@@ -43,7 +44,9 @@ QMChartArray Charts(const CommandLine& line, const TitledTable& titled) {
     QMChartArray charts;
     SetFormatsFollowData(true);
     if (line.configFolder) charts.SetQmChartConfigPath(*line.configFolder);
-    if (line.size) SetChartSize(line.size->width(), line.size->height());
+    constexpr int UsualDpi = 96;
+    const QSize size = line.size.value_or(QSize(0, 0));
+    SetChartSize(size.width(), size.height(), line.dpi.value_or(UsualDpi));
     if (titled.look.look) UseLook(titled.id, *titled.look.look);
     return charts;
 }
@@ -110,8 +113,13 @@ QString Looks() {
 } // namespace
 
 QString PresentableTitle(const QString& baseName) {
-    QString title = baseName;
-    title = title.replace(u'_', u' ').replace(u'-', u' ').simplified();
+    // A short word of letters and digits, such as co2, is a formula or a name; 1990s and sales2024 are none.
+    static const QRegularExpression formula(QStringLiteral("^(?=.*[0-9])[a-z][a-z0-9]{1,3}$"));
+    QString spaced = baseName;
+    QStringList words = spaced.replace(u'_', u' ').replace(u'-', u' ').simplified().split(u' ');
+    for (QString& word : words)
+        if (formula.match(word).hasMatch()) word = word.toUpper();
+    QString title = words.join(u' ');
     if (!title.isEmpty()) title[0] = title[0].toUpper();
     return title;
 }

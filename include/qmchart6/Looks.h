@@ -61,8 +61,10 @@ QMCHART6_EXPORT CopiedStore CopyLookStore(const QString& from, const QString& to
 /// QmChNoTitles, whatever is stored for it. Raises as ImportLook.
 QMCHART6_EXPORT void UseLook(const QString& graphId, const QByteArray& look);
 
-/// From now on charts are made in this size, in logical pixels, whatever their look says; 0, 0 leaves it to
-/// the look. Raises 380 for anything but 0, 0 and 1 to 16,384.
-QMCHART6_EXPORT void SetChartSize(int width, int height);
+/// From now on charts are made in this size, in pixels, whatever their look says; 0, 0 leaves it to the look.
+/// So many pixels make an inch: letters and lines of a picture have as many pixels as their points take at
+/// that resolution, and 96 is a window's. Raises 380 for sides that are neither 0, 0 nor 1 to 16,384, and for
+/// anything but 24 to 2,400 to an inch.
+QMCHART6_EXPORT void SetChartSize(int width, int height, int pixelsPerInch = 96);
 
 } // namespace QmChart6

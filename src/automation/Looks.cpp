@@ -146,8 +146,10 @@ void UseLook(const QString& graphId, const QByteArray& look) {
     SetLookOverride(graphId, named.look);
 }
 
-void SetChartSize(int width, int height) {
+void SetChartSize(int width, int height, int pixelsPerInch) {
     constexpr int Largest = 16384;
+    constexpr int LeastPixelsPerInch = 24;
+    constexpr int MostPixelsPerInch = 2400;
     const bool none = width == 0 && height == 0;
     if (!none && (width < 1 || height < 1 || width > Largest || height > Largest))
         throw RuntimeError(ErrorNumber::InvalidPropertyValue,
@@ -155,7 +157,13 @@ void SetChartSize(int width, int height) {
                                .arg(Largest)
                                .arg(width)
                                .arg(height));
-    SetSizeOfNewCharts(none ? std::nullopt : std::optional(QSize(width, height)));
+    if (pixelsPerInch < LeastPixelsPerInch || pixelsPerInch > MostPixelsPerInch)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("a picture has %1 to %2 pixels to an inch, not %3")
+                               .arg(LeastPixelsPerInch)
+                               .arg(MostPixelsPerInch)
+                               .arg(pixelsPerInch));
+    SetSizeOfNewCharts(none ? std::nullopt : std::optional(QSize(width, height)), pixelsPerInch);
 }
 
 } // namespace QmChart6

@@ -1,6 +1,7 @@
 """Runs "qmchart config" from outside, on both engines: what it does, says and leaves alone."""
 import json
 import re
+import struct
 import subprocess
 import unittest
 
@@ -308,6 +309,19 @@ class CommandLines(Commands):
                 self.does("save", self.table, "a.png", "--size", f"{size[0]}x{size[1]}")
                 self.assertEqual(size_of_png(self.folder / "a.png"), size)
         self.fails(380, "save", self.table, "a.png", "--size", "16385x10")
+
+    def test_more_pixels_to_an_inch_are_the_same_chart_with_more_pixels(self):
+        for size in ((1501, 907), (3000, 2000)):
+            self.does("save", self.table, "a.png", "--size", f"{size[0]}x{size[1]}", "--dpi", "300")
+            self.assertEqual(size_of_png(self.folder / "a.png"), size)
+        self.assertIn(b"pHYs" + struct.pack(">II", 11811, 11811), (self.folder / "a.png").read_bytes())
+        self.does("save", self.table, "large.svg", "--size", "1600x1000", "--dpi", "192")
+        self.does("save", self.table, "usual.svg", "--size", "800x500")
+        self.assertEqual((self.folder / "large.svg").read_bytes(), (self.folder / "usual.svg").read_bytes())
+        self.does("save", self.table, "a.png", "--dpi", "192")
+        self.does("save", self.table, "b@2x.png")
+        self.assertEqual((self.folder / "a.png").read_bytes(), (self.folder / "b@2x.png").read_bytes())
+        self.fails(380, "save", self.table, "a.png", "--dpi", "5000")
 
     def test_a_look_with_very_many_parts_needs_little_memory(self):
         store = self.make(stores.SqliteStore)
