@@ -14,7 +14,7 @@ namespace {
 
 void AddOptions(QCommandLineParser& parser) {
     for (const char* name : {"id", "title", "row-title", "column-title", "value-title", "language", "config",
-                             "use-config", "separator", "look", "size", "as", "printer"})
+                             "use-config", "separator", "look", "type", "size", "dpi", "as", "printer"})
         parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
     for (const char* name : {"no-header", "no-row-labels", "version"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
@@ -45,6 +45,28 @@ std::int16_t LanguageOf(const QCommandLineParser& parser) {
     for (const QString& code : LanguageCodes())
         numbers.emplaceBack(code, static_cast<std::int16_t>(numbers.size()));
     return Choice(parser, "language", numbers);
+}
+
+/// The numbers of the kinds of chart, by their words; in space they are one less.
+constexpr std::array ChartWords{std::pair("bar", 1),  std::pair("line", 3),        std::pair("area", 5),
+                                std::pair("step", 7), std::pair("combination", 9), std::pair("pie", 14),
+                                std::pair("xy", 16)};
+constexpr int LastWithDepth = 9;
+
+std::optional<int> ChartTypeOf(const QCommandLineParser& parser) {
+    const std::optional<QString> given = Given(parser, "type");
+    if (!given) return std::nullopt;
+    const bool deep = given->endsWith(QLatin1String("3d"));
+    const QString word = deep ? given->chopped(2) : *given;
+    QStringList words;
+    for (const auto& [name, number] : ChartWords) {
+        if (word == QLatin1String(name) && (!deep || number <= LastWithDepth))
+            return deep ? number - 1 : number;
+        words.append(QLatin1String(name));
+    }
+    throw UsageError(
+        QStringLiteral("--type takes one of %1, the first five with 3d behind them too, not \"%2\"")
+            .arg(words.join(QStringLiteral(", ")), *given));
 }
 
 /// A look that is named is used, with the caller's titles where nothing else is said.
@@ -95,6 +117,18 @@ std::optional<QSize> SizeOf(const QCommandLineParser& parser) {
     return size;
 }
 
+std::optional<int> DpiOf(const QCommandLineParser& parser) {
+    const std::optional<QString> given = Given(parser, "dpi");
+    if (!given) return std::nullopt;
+    bool isNumber = false;
+    const int dpi = given->toInt(&isNumber);
+    if (!isNumber || dpi < 1)
+        throw UsageError(
+            QStringLiteral("--dpi takes a whole number of pixels to an inch, such as 300, not \"%1\"")
+                .arg(*given));
+    return dpi;
+}
+
 /// A command's word, and how many operands it takes behind it.
 struct Word {
     const char* text;
@@ -106,16 +140,23 @@ constexpr std::array Words{Word{"show", Command::Show, 1, "one table"},
                            Word{"save", Command::Save, 2, "a table and the picture's file name"},
                            Word{"print", Command::Print, 1, "one table"},
                            Word{"printers", Command::Printers, 0, "nothing"},
+                           Word{"looks", Command::Looks, 0, "nothing"},
                            Word{"config", Command::Config, 0, "a command"}};
 
+/// "show, save, print, printers, looks and config"
+QString AllWords(const char* before) {
+    QStringList words;
+    for (const Word& word : Words) words.append(QLatin1String(word.text));
+    const QString last = words.takeLast();
+    return words.join(QStringLiteral(", ")) + QLatin1String(before) + last;
+}
+
 const Word& WordOf(const QStringList& operands) {
-    if (operands.isEmpty())
-        throw UsageError(QStringLiteral("a command is missing: show, save, print, printers or config"));
+    if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing: ") + AllWords(" or "));
     for (const Word& word : Words)
         if (operands.front() == QLatin1String(word.text)) return word;
     throw UsageError(
-        QStringLiteral("there is no command \"%1\"; there are show, save, print, printers and config")
-            .arg(operands.front()));
+        QStringLiteral("there is no command \"%1\"; there are %2").arg(operands.front(), AllWords(" and ")));
 }
 
 /// The command's word and its operands.
@@ -150,8 +191,9 @@ std::optional<QString> PrinterOf(const QCommandLineParser& parser, Command comma
 void RefuseStrayOptions(const CommandLine& line) {
     const bool makesChart =
         line.command == Command::Show || line.command == Command::Save || line.command == Command::Print;
-    if (!makesChart && (line.look || line.size))
-        throw UsageError(QStringLiteral("--look and --size go with show, save and print only"));
+    if (!makesChart && (line.look || line.size || line.dpi || line.chartType))
+        throw UsageError(
+            QStringLiteral("--look, --type, --size and --dpi go with show, save and print only"));
     if (line.importName && line.operands.value(0) != QLatin1String("import"))
         throw UsageError(QStringLiteral("--as goes with config import only"));
 }
@@ -189,9 +231,12 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.valueTitle = Given(parser, "value-title").value_or(QString());
     line.language = LanguageOf(parser);
     line.useConfig = UseConfigOf(parser);
+    line.useConfigGiven = parser.isSet(QStringLiteral("use-config"));
     line.configFolder = FolderOf(parser);
     line.look = Given(parser, "look");
+    line.chartType = ChartTypeOf(parser);
     line.size = SizeOf(parser);
+    line.dpi = DpiOf(parser);
     line.importName = Given(parser, "as");
     RefuseStrayOptions(line);
     line.separator = SeparatorOf(parser);
@@ -206,6 +251,7 @@ QString HelpText() {
   qmchart save TABLE PICTURE [OPTION ...]  save its picture and print the file's name
   qmchart print TABLE [OPTION ...]         print it on one page and print the printer's name
   qmchart printers                         the printers' names, one to a line
+  qmchart looks                            the looks that come with the program
   qmchart config COMMAND [--config FOLDER] look after stored looks, see below
   qmchart --help | --version
 
@@ -223,8 +269,11 @@ Options:
   --language LANGUAGE     %1: the window's language; pictures have none
   --config FOLDER         the folder of the stored looks, or postgresql://USER@HOST:PORT/DATABASE
   --use-config USE        no, no-titles or yes: use the look stored for the graph id
-  --look LOOK             use this look: a stored one's name, or a file LOOK.json
+  --look LOOK             use this look: a file, the name of a stored one or of one that "qmchart looks" lists,
+                          or plain for the component's own (default: the one that --config binds, or calm)
+  --type TYPE             bar, line, area, step, combination (each with 3d behind it too), pie or xy
   --size WIDTHxHEIGHT     the chart's size in pixels (default: as the look's window has it)
+  --dpi NUMBER            the pixels to an inch, which letters and lines are drawn for (default: 96)
   --separator CHARACTER   what separates the cells, or the word tab (default: found out)
   --printer NAME          print: the printer (default: the system's)
   --no-header             the first line is numbers already
@@ -234,6 +283,7 @@ Options:
 
 Commands of config:
   init FOLDER             make the empty store in a folder, or in a database that is there
+  upgrade FOLDER          make a place in an older store for what looks say in "Beyond"
   list                    the looks' names
   show NAME               a look as JSON
   delete NAME             delete a look and what is bound to it

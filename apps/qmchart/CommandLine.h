@@ -10,7 +10,7 @@
 
 namespace QmChart6 {
 
-enum class Command { Help, Version, Show, Save, Print, Printers, Config };
+enum class Command { Help, Version, Show, Save, Print, Printers, Looks, Config };
 
 /// What the command line asks for. Texts that are not given have their defaults elsewhere.
 struct CommandLine {
@@ -25,10 +25,13 @@ struct CommandLine {
     QString valueTitle;
     std::int16_t language = 0;  ///< as QMChartArray numbers them
     std::uint8_t useConfig = 0; ///< likewise
+    bool useConfigGiven = false;
     std::optional<QString> configFolder;
-    std::optional<QString> look;       ///< a stored look's name, or a file that ends in .json
-    std::optional<QSize> size;         ///< of the chart, in pixels
-    QStringList operands;              ///< Config only: its command, and what that takes
+    std::optional<QString> look;  ///< a file, a stored look's name, one that comes with the program, or plain
+    std::optional<int> chartType; ///< as looks number them
+    std::optional<QSize> size;    ///< of the chart, in pixels
+    std::optional<int> dpi;       ///< pixels to an inch
+    QStringList operands;         ///< Config only: its command, and what that takes
     std::optional<QString> importName; ///< what an imported look is called
     std::optional<char> separator;
     bool hasHeader = true;

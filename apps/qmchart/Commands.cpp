@@ -1,5 +1,7 @@
 #include "qmchart/Commands.h"
 
+#include "qmchart/BuiltInLooks.h"
+#include "qmchart/ChosenLook.h"
 #include "qmchart/ConfigCommands.h"
 #include "qmchart/InputText.h"
 #include "qmchart/TableReader.h"
@@ -9,6 +11,7 @@
 #include "qmchart6/QMChartArray.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace QmChart6 {
 
@@ -19,7 +22,7 @@ struct TitledTable {
     Table table;
     QString id;
     QString title;
-    QString rowTitle;
+    ChosenLook look;
 };
 
 TitledTable ReadTitledTable(const CommandLine& line) {
@@ -32,16 +35,19 @@ TitledTable ReadTitledTable(const CommandLine& line) {
                                                      .hasRowLabels = line.hasRowLabels});
     titled.id = line.id.value_or(named ? baseName : QStringLiteral("stdin"));
     titled.title = line.title.value_or(named ? PresentableTitle(baseName) : QString());
-    titled.rowTitle = line.rowTitle.value_or(titled.table.rowTitle);
+    titled.look = ChooseLook(line, titled.id, titled.table);
     return titled;
 }
 
 /// What makes charts as the command line wants them.
 QMChartArray Charts(const CommandLine& line, const TitledTable& titled) {
     QMChartArray charts;
+    SetFormatsFollowData(true);
     if (line.configFolder) charts.SetQmChartConfigPath(*line.configFolder);
-    if (line.size) SetChartSize(line.size->width(), line.size->height());
-    UseNamedLook(line, titled.id);
+    constexpr int UsualDpi = 96;
+    const QSize size = line.size.value_or(QSize(0, 0));
+    SetChartSize(size.width(), size.height(), line.dpi.value_or(UsualDpi));
+    if (titled.look.look) UseLook(titled.id, *titled.look.look);
     return charts;
 }
 
@@ -54,8 +60,8 @@ QString Show(const CommandLine& line) {
     const Table& table = titled.table;
     Charts(line, titled)
         .QmMakeGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
-                     titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.language,
-                     line.useConfig);
+                     titled.title, titled.look.rowTitle, line.columnTitle, titled.look.valueTitle,
+                     line.language, titled.look.useConfig);
     RunUntilViewersAreClosed();
     return {};
 }
@@ -66,8 +72,8 @@ QString Save(const CommandLine& line) {
     QString picture = line.picture;
     Charts(line, titled)
         .QmSaveGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
-                     titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.useConfig,
-                     picture);
+                     titled.title, titled.look.rowTitle, line.columnTitle, titled.look.valueTitle,
+                     titled.look.useConfig, picture);
     return picture + u'\n';
 }
 
@@ -84,7 +90,8 @@ QString Print(const CommandLine& line) {
     SetPrinter(printer);
     Charts(line, titled)
         .QmPrintGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
-                      titled.title, titled.rowTitle, line.columnTitle, line.valueTitle, line.useConfig);
+                      titled.title, titled.look.rowTitle, line.columnTitle, titled.look.valueTitle,
+                      titled.look.useConfig);
     return QStringLiteral("printed on %1\n").arg(printer);
 }
 
@@ -96,11 +103,23 @@ QString Printers() {
     return text;
 }
 
+QString Looks() {
+    QString text;
+    for (const QString& name : BuiltInLookNames())
+        text += QStringLiteral("%1 %2\n").arg(name.leftJustified(12), PurposeOfBuiltInLook(name));
+    return text;
+}
+
 } // namespace
 
 QString PresentableTitle(const QString& baseName) {
-    QString title = baseName;
-    title = title.replace(u'_', u' ').replace(u'-', u' ').simplified();
+    // A short word of letters and digits, such as co2, is a formula or a name; 1990s and sales2024 are none.
+    static const QRegularExpression formula(QStringLiteral("^(?=.*[0-9])[a-z][a-z0-9]{1,3}$"));
+    QString spaced = baseName;
+    QStringList words = spaced.replace(u'_', u' ').replace(u'-', u' ').simplified().split(u' ');
+    for (QString& word : words)
+        if (formula.match(word).hasMatch()) word = word.toUpper();
+    QString title = words.join(u' ');
     if (!title.isEmpty()) title[0] = title[0].toUpper();
     return title;
 }
@@ -119,6 +138,8 @@ QString RunCommand(const CommandLine& line) {
         return Print(line);
     case Command::Printers:
         return Printers();
+    case Command::Looks:
+        return Looks();
     case Command::Config:
         return RunConfigCommand(line);
     }

@@ -6,8 +6,8 @@
 
 #include <QSaveFile>
 
-#include <array>
-#include <functional>
+#include <cstdio>
+#include <vector>
 
 namespace QmChart6 {
 
@@ -23,6 +23,22 @@ QString Init(const CommandLine& line) {
     const QString folder = AsFolder(line.operands[0]);
     CreateLookStore(folder);
     return QStringLiteral("made %1QmConfig.mdb\n").arg(folder);
+}
+
+QString Upgrade(const CommandLine& line) {
+    const QString folder = AsFolder(line.operands[0]);
+    return UpgradeLookStore(folder) ? QStringLiteral("upgraded %1QmConfig.mdb\n").arg(folder)
+                                    : QStringLiteral("%1QmConfig.mdb is up to date\n").arg(folder);
+}
+
+/// An older store is no failure, but whoever asked must know.
+void WarnOfValuesNotKept(int count, const QString& folder) {
+    if (count == 0) return;
+    std::fprintf(
+        stderr,
+        "qmchart: %d values of \"Beyond\" were not kept: the store is older than they are; \"qmchart config "
+        "upgrade %s\" makes a place for them\n",
+        count, folder.toUtf8().constData());
 }
 
 QString List(const CommandLine& line) {
@@ -53,7 +69,9 @@ QString Bindings(const CommandLine& line) {
 }
 
 QString Copy(const CommandLine& line) {
-    const CopiedStore copied = CopyLookStore(AsFolder(line.operands[0]), AsFolder(line.operands[1]));
+    const QString to = AsFolder(line.operands[1]);
+    const CopiedStore copied = CopyLookStore(AsFolder(line.operands[0]), to);
+    WarnOfValuesNotKept(copied.ValuesNotKept, to);
     return QStringLiteral("copied %1 looks and %2 bindings\n").arg(copied.Looks).arg(copied.Bindings);
 }
 
@@ -69,7 +87,10 @@ QString Export(const CommandLine& line) {
 
 QString Import(const CommandLine& line) {
     const QString& folder = Store(line);
-    const QString name = ImportLook(folder, ReadInput(line.operands[0]), line.importName.value_or(QString()));
+    int notKept = 0;
+    const QString name =
+        ImportLook(folder, ReadInput(line.operands[0]), line.importName.value_or(QString()), &notKept);
+    WarnOfValuesNotKept(notKept, folder);
     return QStringLiteral("stored %1\n").arg(OnOneLine(name));
 }
 
@@ -81,10 +102,15 @@ struct ConfigCommand {
 
 const std::vector<ConfigCommand>& ConfigCommands() {
     static const std::vector<ConfigCommand> commands{
-        {"init", {"FOLDER"}, Init},        {"list", {}, List},
-        {"show", {"NAME"}, ShowLook},      {"delete", {"NAME"}, Delete},
-        {"bind", {"ID", "NAME"}, Bind},    {"bindings", {}, Bindings},
-        {"copy", {"FROM", "TO"}, Copy},    {"export", {"NAME", "LOOK.json"}, Export},
+        {"init", {"FOLDER"}, Init},
+        {"upgrade", {"FOLDER"}, Upgrade},
+        {"list", {}, List},
+        {"show", {"NAME"}, ShowLook},
+        {"delete", {"NAME"}, Delete},
+        {"bind", {"ID", "NAME"}, Bind},
+        {"bindings", {}, Bindings},
+        {"copy", {"FROM", "TO"}, Copy},
+        {"export", {"NAME", "LOOK.json"}, Export},
         {"import", {"LOOK.json"}, Import},
     };
     return commands;
@@ -116,12 +142,6 @@ QString RunConfigCommand(const CommandLine& line) {
                 .arg(word, wanted.isEmpty() ? QStringLiteral("nothing behind it") : wanted.join(u' ')));
     }
     return command.run(rest);
-}
-
-void UseNamedLook(const CommandLine& line, const QString& graphId) {
-    if (!line.look) return;
-    const bool file = line.look->endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
-    UseLook(graphId, file ? ReadInput(*line.look) : ExportLook(Store(line), *line.look));
 }
 
 QString OnOneLine(const QString& name) {

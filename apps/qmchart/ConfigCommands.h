@@ -8,9 +8,6 @@ namespace QmChart6 {
 /// RuntimeError.
 QString RunConfigCommand(const CommandLine& line);
 
-/// Gives the chart of that graph id the look that the command line names, if it names one.
-void UseNamedLook(const CommandLine& line, const QString& graphId);
-
 /// A name on a line of its own: control characters and backslashes as in C.
 QString OnOneLine(const QString& name);
 

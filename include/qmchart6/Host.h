@@ -20,6 +20,13 @@ QMCHART6_EXPORT void RunUntilViewersAreClosed();
 /// Handles events as they come, for so many milliseconds; 0 or less handles those that wait.
 QMCHART6_EXPORT void PumpEvents(int milliseconds);
 
+// For hosts that want numbers as they are.
+
+/// From here on the labels of values have as many decimals as the ticks of an axis, or the data, need, with
+/// the locale's grouping, in charts that are shown, saved and printed alike, whatever their look. Off, as at
+/// first, QmMakeGraph decides between none and two for all charts that follow.
+QMCHART6_EXPORT void SetFormatsFollowData(bool on);
+
 // For hosts that print.
 
 /// The names of all printers, in the system's order.

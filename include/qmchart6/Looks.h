@@ -20,6 +20,8 @@ namespace QmChart6 {
 
 /// Makes the empty database in a folder. Raises 58 where there is one already.
 QMCHART6_EXPORT void CreateLookStore(const QString& folder);
+/// Makes a place in an older store for what looks say beyond its fields. False where it has one already.
+QMCHART6_EXPORT bool UpgradeLookStore(const QString& folder);
 
 /// The names of all looks in key order.
 QMCHART6_EXPORT QStringList LookNames(const QString& folder);
@@ -36,17 +38,20 @@ QMCHART6_EXPORT QList<GraphBinding> GraphBindings(const QString& folder);
 QMCHART6_EXPORT void BindGraph(const QString& folder, const QString& graphId, const QString& name);
 
 /// A look as JSON: the fields of the tables by their names, those of its columns, series and axes in the
-/// lists "Columns", "Series" and "Axes".
+/// lists "Columns", "Series" and "Axes"; what it says beyond them in the list "Beyond", where there is any.
 QMCHART6_EXPORT QByteArray ExportLook(const QString& folder, const QString& name);
 /// Stores a look that is given as JSON under a name, "" for the one that is in it, and gives that name. Any
 /// field may be left out and is as in the default look. Raises 321 (no JSON of this form, or no name), 3265
 /// (a name that no look has), 13 and 6 (a value that its field cannot hold), 380 (a number that means
-/// nothing); then nothing was stored.
-QMCHART6_EXPORT QString ImportLook(const QString& folder, const QByteArray& look, const QString& name = {});
+/// nothing), 3022 (the same said twice); then nothing was stored. `valuesNotKept`, if not null, is set to the
+/// number of values beyond the fields that a store without a place for them did not keep.
+QMCHART6_EXPORT QString ImportLook(const QString& folder, const QByteArray& look, const QString& name = {},
+                                   int* valuesNotKept = nullptr);
 
 struct CopiedStore {
     int Looks = 0;
     int Bindings = 0;
+    int ValuesNotKept = 0; ///< beyond the fields, where the other store has no place for them
 };
 /// Copies all looks and bindings into another store that is there already, in place of those of the same
 /// names.
@@ -56,8 +61,10 @@ QMCHART6_EXPORT CopiedStore CopyLookStore(const QString& from, const QString& to
 /// QmChNoTitles, whatever is stored for it. Raises as ImportLook.
 QMCHART6_EXPORT void UseLook(const QString& graphId, const QByteArray& look);
 
-/// From now on charts are made in this size, in logical pixels, whatever their look says; 0, 0 leaves it to
-/// the look. Raises 380 for anything but 0, 0 and 1 to 16,384.
-QMCHART6_EXPORT void SetChartSize(int width, int height);
+/// From now on charts are made in this size, in pixels, whatever their look says; 0, 0 leaves it to the look.
+/// So many pixels make an inch: letters and lines of a picture have as many pixels as their points take at
+/// that resolution, and 96 is a window's. Raises 380 for sides that are neither 0, 0 nor 1 to 16,384, and for
+/// anything but 24 to 2,400 to an inch.
+QMCHART6_EXPORT void SetChartSize(int width, int height, int pixelsPerInch = 96);
 
 } // namespace QmChart6

@@ -118,7 +118,7 @@ void PrintGraph(const ChartRequest& request) {
 
 void SaveGraph(const ChartRequest& request, QString& fileName) {
     const ViewerPointer viewer = ViewerForOutput(request);
-    SaveChartSnapshot(*viewer, viewer->ChartImage(), fileName);
+    SaveChartSnapshot(*viewer, viewer->ChartImage(), fileName, SizeOfPicture(*viewer));
     CloseViewer(viewer->GraphId());
 }
 

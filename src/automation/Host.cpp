@@ -1,6 +1,7 @@
 #include "qmchart6/Host.h"
 
 #include "automation/ViewerList.h"
+#include "chart/ValueLabelFormat.h"
 #include "desktop/Application.h"
 
 #include <QCoreApplication>
@@ -23,6 +24,11 @@ void RunUntilViewersAreClosed() {
         // Without a running loop Qt would leave closed windows where they are.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+}
+
+void SetFormatsFollowData(bool on) {
+    RequireFirstThread();
+    LetFormatsFollowData(on);
 }
 
 void PumpEvents(int milliseconds) {

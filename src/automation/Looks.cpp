@@ -81,6 +81,10 @@ void CreateLookStore(const QString& folder) {
     CreateDatabase(StoreOf(folder), ConfigurationSchema());
 }
 
+bool UpgradeLookStore(const QString& folder) {
+    return AddTable(StoreOf(folder), ConfigurationSchema(), QLatin1String(ExtrasTable));
+}
+
 QStringList LookNames(const QString& folder) {
     QStringList names;
     ListLooks(StoreOf(folder), names);
@@ -112,7 +116,7 @@ QByteArray ExportLook(const QString& folder, const QString& name) {
     return WriteLookJson({name, ReadStored(location, name)});
 }
 
-QString ImportLook(const QString& folder, const QByteArray& look, const QString& name) {
+QString ImportLook(const QString& folder, const QByteArray& look, const QString& name, int* valuesNotKept) {
     RequireFirstThread();
     const NamedLook named = ReadLookJson(look);
     QString kept = name.isEmpty() ? named.name : name;
@@ -126,12 +130,13 @@ QString ImportLook(const QString& folder, const QByteArray& look, const QString&
     Database::Writing writing(database, QLatin1String(BindingsTable));
     CopyLook(complete, stored);
     writing.Finish();
+    if (valuesNotKept != nullptr) *valuesNotKept = stored.ValuesNotKept();
     return kept;
 }
 
 CopiedStore CopyLookStore(const QString& from, const QString& to) {
     const CopiedLooks copied = CopyLooks(StoreOf(from), StoreOf(to));
-    return {copied.looks, copied.bindings};
+    return {copied.looks, copied.bindings, copied.valuesNotKept};
 }
 
 void UseLook(const QString& graphId, const QByteArray& look) {
@@ -141,8 +146,10 @@ void UseLook(const QString& graphId, const QByteArray& look) {
     SetLookOverride(graphId, named.look);
 }
 
-void SetChartSize(int width, int height) {
+void SetChartSize(int width, int height, int pixelsPerInch) {
     constexpr int Largest = 16384;
+    constexpr int LeastPixelsPerInch = 24;
+    constexpr int MostPixelsPerInch = 2400;
     const bool none = width == 0 && height == 0;
     if (!none && (width < 1 || height < 1 || width > Largest || height > Largest))
         throw RuntimeError(ErrorNumber::InvalidPropertyValue,
@@ -150,7 +157,13 @@ void SetChartSize(int width, int height) {
                                .arg(Largest)
                                .arg(width)
                                .arg(height));
-    SetSizeOfNewCharts(none ? std::nullopt : std::optional(QSize(width, height)));
+    if (pixelsPerInch < LeastPixelsPerInch || pixelsPerInch > MostPixelsPerInch)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("a picture has %1 to %2 pixels to an inch, not %3")
+                               .arg(LeastPixelsPerInch)
+                               .arg(MostPixelsPerInch)
+                               .arg(pixelsPerInch));
+    SetSizeOfNewCharts(none ? std::nullopt : std::optional(QSize(width, height)), pixelsPerInch);
 }
 
 } // namespace QmChart6

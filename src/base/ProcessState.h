@@ -23,8 +23,10 @@ struct ProcessState {
     std::int16_t languageCode = 0;
     QString qtTextsLocale; ///< "" for English
     QString valueLabelFormat = QStringLiteral("0");
+    bool formatsFollowData = false;                               ///< as the host asked
     std::map<QString, std::shared_ptr<const Look>> lookOverrides; ///< by graph id
-    std::optional<QSize> sizeOfNewCharts;            ///< logical pixels; nothing leaves it to looks
+    std::optional<QSize> sizeOfNewCharts;                         ///< pixels; nothing leaves it to looks
+    int pixelsPerInch = 96;                          ///< of them, and of pictures that the host saves
     QString hostPrinter;                             ///< set by the host; "" for none
     QString chosenPrinter;                           ///< by a person; "" until then
     std::vector<std::shared_ptr<GraphForm>> viewers; ///< an empty place for each that was closed

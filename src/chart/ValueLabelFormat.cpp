@@ -69,7 +69,12 @@ bool HoldsDecimals(const Variant& data, int rows, int columns) {
 } // namespace
 
 const QString& ValueLabelFormat() {
-    return Process().valueLabelFormat;
+    static const QString general;
+    return Process().formatsFollowData ? general : Process().valueLabelFormat;
+}
+
+void LetFormatsFollowData(bool on) {
+    Process().formatsFollowData = on;
 }
 
 void ComputeValueLabelFormat(const Variant& Data, int Rows, int Columns) {

@@ -7,8 +7,12 @@
 namespace QmChart6 {
 
 /// The process' number format for value labels: "0", or "0" and the locale's decimal separator and "00".
-/// It keeps its value until it is computed again.
+/// It keeps its value until it is computed again. While formats follow the data it is "", whatever was
+/// computed: then each label has as many decimals as ticks or values need.
 const QString& ValueLabelFormat();
+
+/// Whether formats follow the data from here on; at first they do not.
+void LetFormatsFollowData(bool on);
 
 /// Sets ValueLabelFormat by whether a value of the table holds decimals: whether its text holds a ".", which
 /// under a locale with another separator a number's text never does. Elements are looked at row by row, from

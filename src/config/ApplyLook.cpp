@@ -1,5 +1,6 @@
 #include "chart/ValueLabelFormat.h"
 #include "config/Look.h"
+#include "config/LookExtrasState.h"
 
 namespace QmChart6 {
 
@@ -53,12 +54,14 @@ void ReadAxes(LookReader& reader, LookState& look, bool loadTitles) {
 
 bool ApplyLook(LookState& look, LookReader& reader, bool loadTitles) {
     if (!reader.Find(ChartLook(), 0)) return false;
+    ResetExtras(look);
     ReadSteps(reader, look, Step::Size, Step::Marks, loadTitles);
     if (loadTitles) ReadColumns(reader, look);
     ReadSteps(reader, look, Step::View, Step::Projection, loadTitles);
     ReadSeries(reader, look, loadTitles);
     ReadAxes(reader, look, loadTitles);
     ReadSteps(reader, look, Step::Texts, Step::Places, loadTitles);
+    ApplyExtras(look, reader.Extras());
     return true;
 }
 

@@ -1,4 +1,5 @@
 #include "config/Look.h"
+#include "config/LookExtrasState.h"
 
 namespace QmChart6 {
 
@@ -20,6 +21,7 @@ void CaptureLook(LookState look, LookWriter& writer) {
         WriteRecord(writer, SeriesLook(), {look, series});
     for (int axis = 0; axis <= static_cast<int>(AxisId::Z); ++axis)
         WriteRecord(writer, AxesLook(), {look, axis});
+    writer.SetExtras(CaptureExtras(look));
 }
 
 } // namespace QmChart6

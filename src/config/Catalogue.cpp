@@ -2,6 +2,7 @@
 
 #include "config/ConfigurationSchema.h"
 #include "config/LookFields.h"
+#include "config/StoredExtras.h"
 #include "database/Database.h"
 
 #include <algorithm>
@@ -21,6 +22,23 @@ void SeekByKey(Recordset& records, const std::vector<FieldValue>& key) {
 
 Recordset OpenBindings(Database& database) {
     return database.OpenRecordset(QLatin1String(BindingsTable));
+}
+
+/// Copies what the looks of one database say beyond the fields of their tables, in place of what they said in
+/// the other, and gives the number of values that found no place there.
+int CopyExtras(Database& from, Database& to) {
+    StoredExtras source(from);
+    StoredExtras target(to);
+    int notKept = 0;
+    Recordset looks = from.OpenRecordset(ChartLook().name);
+    looks.SetIndex(QLatin1String(PrimaryKeyName));
+    for (; !looks.EndOfFile(); looks.MoveNext()) {
+        const QString name = TextOf(looks, LookNameField);
+        const Extras extras = source.Read(name);
+        if (!target.IsThere()) notKept += static_cast<int>(extras.size());
+        target.Replace(name, extras);
+    }
+    return notKept;
 }
 
 /// Copies the records of one table and gives their number.
@@ -93,6 +111,7 @@ void DeleteLook(const QString& location, const QString& name) {
     Recordset axes = database.OpenRecordset(AxesLook().name);
     Recordset series = database.OpenRecordset(SeriesLook().name);
     Recordset columns = database.OpenRecordset(ColumnsLook().name);
+    StoredExtras extras(database);
     Database::Writing writing(database, QLatin1String(BindingsTable));
     for (Recordset* records : {&columns, &series, &axes, &bindings}) {
         records->SetIndex(QLatin1String(LookIndexName));
@@ -100,6 +119,7 @@ void DeleteLook(const QString& location, const QString& name) {
     }
     SeekByKey(charts, {name});
     if (!charts.NoMatch()) charts.Delete();
+    extras.Delete(name);
     writing.Finish();
 }
 
@@ -125,10 +145,12 @@ CopiedLooks CopyLooks(const QString& from, const QString& to) {
     Database::Writing writing(target, QLatin1String(BindingsTable));
     CopiedLooks copied;
     for (const TableDescription& table : ConfigurationSchema()) {
+        if (table.name == QLatin1String(ExtrasTable)) continue;
         const int count = CopyTable(source, target, table);
         if (table.name == QLatin1String(BindingsTable)) copied.bindings = count;
         if (table.name == ChartLook().name) copied.looks = count;
     }
+    copied.valuesNotKept = CopyExtras(source, target);
     writing.Finish();
     return copied;
 }

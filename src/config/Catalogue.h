@@ -35,9 +35,10 @@ void ListLooks(const QString& location, QStringList& names);
 struct CopiedLooks {
     int looks = 0;
     int bindings = 0;
+    int valuesNotKept = 0; ///< beyond the fields of the looks' tables, where the other has no place for them
 };
 /// Copies all looks and bindings into another database that is there already. A look of the same name is
-/// replaced record by record.
+/// replaced record by record, what it says beyond its tables as a whole.
 CopiedLooks CopyLooks(const QString& from, const QString& to);
 
 /// Whether two names are the same key.

@@ -33,9 +33,22 @@ TableDescription TableOf(const LookTable& look) {
     return table;
 }
 
+TableDescription ExtrasDescription() {
+    const QString element = QLatin1String(ExtraElementField);
+    const QString field = QLatin1String(ExtraFieldField);
+    return {.name = QLatin1String(ExtrasTable),
+            .fields = {{NameField(), FieldKind::Text},
+                       {element, FieldKind::Text},
+                       {field, FieldKind::Text},
+                       {QLatin1String(ExtraValueField), FieldKind::Text}},
+            .indexes = {{QLatin1String(PrimaryKeyName), {NameField(), element, field}, true},
+                        {QLatin1String(LookIndexName), {NameField()}, false}}};
+}
+
 Schema MakeSchema() {
     Schema schema{Bindings()};
     for (const LookTable* look : LookTables()) schema.push_back(TableOf(*look));
+    schema.push_back(ExtrasDescription());
     return schema;
 }
 

@@ -35,6 +35,7 @@ public:
         writer_.Set(table, field, value);
     }
     void Finish(const LookTable& table) override { writer_.Finish(table); }
+    void SetExtras(const Extras& extras) override { writer_.SetExtras(extras); }
 
 private:
     void SetMaximized(bool maximized) {

@@ -44,6 +44,7 @@ void CopyLook(const Look& look, LookWriter& writer) {
             writer.Finish(*table);
         }
     }
+    writer.SetExtras(look.SaidBeyond());
 }
 
 } // namespace QmChart6

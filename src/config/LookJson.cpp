@@ -16,6 +16,11 @@ namespace {
 
 constexpr int LastAxis = 3;
 
+constexpr const char* ExtrasName = "Beyond";
+constexpr const char* ElementName = "Element";
+constexpr const char* FieldName = "Field";
+constexpr const char* ValueName = "Value";
+
 /// A single-precision number by its shortest digits, not by those of its double.
 double ShortestDouble(float number) {
     std::array<char, 32> digits{};
@@ -37,6 +42,10 @@ QJsonValue ToJson(const FieldValue& value) {
                 return held;
         },
         value);
+}
+
+QJsonValue ToJson(const ExtraValue& value) {
+    return std::visit([](const auto& held) -> QJsonValue { return held; }, value);
 }
 
 QJsonObject ToJson(const Look::Record& record) {
@@ -97,6 +106,55 @@ void ReadRecords(const QJsonValue& list, const LookTable& table, Look& look) {
     }
 }
 
+ExtraValue ExtraOfJson(const ExtraKey& key, const QJsonValue& json) {
+    if (json.isBool()) return CheckedExtra(key, json.toBool());
+    if (json.isDouble()) return CheckedExtra(key, json.toDouble());
+    if (json.isString()) return CheckedExtra(key, json.toString());
+    RaiseMalformed(QStringLiteral("\"%1\" of \"%2\" has no \"Value\" that is a text, a number, true or false")
+                       .arg(key.field, ElementText(key)));
+}
+
+QString TextOf(const QJsonObject& object, const char* member) {
+    const QJsonValue value = object.value(QLatin1String(member));
+    if (!value.isString())
+        RaiseMalformed(QStringLiteral("\"%1\" lacks a text \"%2\" somewhere")
+                           .arg(QLatin1String(ExtrasName), QLatin1String(member)));
+    return value.toString();
+}
+
+/// The records {Element, Field, Value} of what a look says beyond its fields.
+Extras ReadExtras(const QJsonValue& list) {
+    if (!list.isArray())
+        RaiseMalformed(QStringLiteral("\"%1\" is not a list").arg(QLatin1String(ExtrasName)));
+    Extras extras;
+    const QJsonArray records = list.toArray();
+    for (const auto& record : records) {
+        const QJsonObject object = record.toObject();
+        const ExtraKey key = ExtraKeyOf(TextOf(object, ElementName), TextOf(object, FieldName));
+        for (const QString& member : object.keys())
+            if (member != QLatin1String(ElementName) && member != QLatin1String(FieldName) &&
+                member != QLatin1String(ValueName))
+                RaiseMalformed(
+                    QStringLiteral("a record of \"%1\" has an Element, a Field and a Value, no \"%2\"")
+                        .arg(QLatin1String(ExtrasName), member));
+        if (!extras.emplace(key, ExtraOfJson(key, object.value(QLatin1String(ValueName)))).second)
+            throw RuntimeError(
+                ErrorNumber::DuplicateKey,
+                QStringLiteral("\"%1\" of \"%2\" is there twice").arg(key.field, ElementText(key)));
+    }
+    RequireConsistent(extras);
+    return extras;
+}
+
+QJsonArray ToJson(const Extras& extras) {
+    QJsonArray list;
+    for (const auto& [key, value] : extras)
+        list.append(QJsonObject{{QLatin1String(ElementName), ElementText(key)},
+                                {QLatin1String(FieldName), key.field},
+                                {QLatin1String(ValueName), ToJson(value)}});
+    return list;
+}
+
 const LookTable* PartsOf(const QString& name) {
     for (const LookTable* table : LookTables())
         if (!table->partsName.isEmpty() && table->partsName == name) return table;
@@ -119,6 +177,8 @@ QByteArray WriteLookJson(const NamedLook& named) {
         }
         if (!list.isEmpty()) object.insert(table->partsName, list);
     }
+    if (!named.look.SaidBeyond().empty())
+        object.insert(QLatin1String(ExtrasName), ToJson(named.look.SaidBeyond()));
     return QJsonDocument(object).toJson(QJsonDocument::Indented);
 }
 
@@ -137,6 +197,8 @@ NamedLook ReadLookJson(const QByteArray& json) {
             whole.remove(member.key());
         }
     }
+    if (whole.contains(QLatin1String(ExtrasName)))
+        named.look.SetExtras(ReadExtras(whole.take(QLatin1String(ExtrasName))));
     if (whole.contains(QLatin1String(LookNameField)))
         named.name = std::get<QString>(FromJson(whole.take(QLatin1String(LookNameField)), FieldKind::Text,
                                                 QLatin1String(LookNameField)));

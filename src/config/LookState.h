@@ -1,6 +1,6 @@
 #pragma once
 
-#include "chartcontrol/model/Chart.h"
+#include "config/LookExtras.h"
 
 #include <cstdint>
 
@@ -20,6 +20,8 @@ struct LookState {
     // The window while it is not maximized, in twips.
     int width = 11580;
     int height = 8640;
+    /// What the look that was applied last said beyond the fields of its tables.
+    Extras extras = {};
 
     friend bool operator==(const LookState&, const LookState&) = default;
 };

@@ -7,7 +7,7 @@
 
 namespace QmChart6 {
 
-StoredLook::StoredLook(Database& database, QString name) : name_(std::move(name)) {
+StoredLook::StoredLook(Database& database, QString name) : name_(std::move(name)), extras_(database) {
     for (const LookTable* table : {&ChartLook(), &AxesLook(), &SeriesLook(), &ColumnsLook()})
         recordsets_.emplace(table->name, database.OpenRecordset(table->name));
 }
@@ -46,6 +46,11 @@ void StoredLook::Finish(const LookTable& table) {
     Of(table).Update();
 }
 
+void StoredLook::SetExtras(const QmChart6::Extras& extras) {
+    if (!extras_.IsThere()) notKept_ = static_cast<int>(extras.size());
+    extras_.Replace(name_, extras);
+}
+
 namespace {
 
 /// The numbers of a look's records in one of its tables, in key order.
@@ -74,6 +79,7 @@ Look ReadLook(Database& database, const QString& name) {
                 if (const auto value = stored.Value(*table, field)) look.Set(*table, field, *value);
         }
     }
+    look.SetExtras(stored.Extras());
     return look;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "config/Look.h"
-#include "database/Database.h"
+#include "config/StoredExtras.h"
 
 #include <map>
 
@@ -19,12 +19,18 @@ public:
     void Start(const LookTable& table, int number) override;
     void Set(const LookTable& table, const LookField& field, const FieldValue& value) override;
     void Finish(const LookTable& table) override;
+    QmChart6::Extras Extras() override { return extras_.Read(name_); }
+    void SetExtras(const QmChart6::Extras& extras) override;
+    /// How many values SetExtras did not keep, since the database has no place for them.
+    [[nodiscard]] int ValuesNotKept() const { return notKept_; }
 
 private:
     [[nodiscard]] Recordset& Of(const LookTable& table) { return recordsets_.at(table.name); }
 
     QString name_;
     std::map<QString, Recordset> recordsets_;
+    StoredExtras extras_;
+    int notKept_ = 0;
 };
 
 /// The whole look of that name as it is stored; empty where there is none.

@@ -113,6 +113,11 @@ void Connection::Execute(const QString& statement) {
     Insist([&] { return query.exec(statement) ? QSqlError() : query.lastError(); });
 }
 
+void Connection::Alter(const QString& statement) {
+    wrote_ = true;
+    Execute(statement);
+}
+
 void Connection::Begin(const QStringList& statements) {
     Execute(statements.front());
     try {

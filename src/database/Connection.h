@@ -30,6 +30,8 @@ public:
     int Write(const QString& statement, const QVariantList& values);
     /// Runs a statement once.
     void Execute(const QString& statement);
+    /// The same with one that changes the tables themselves.
+    void Alter(const QString& statement);
 
     /// What is written between these two becomes visible to others at once and together; what is read is of
     /// one moment. `first` is the table that writers take turns at.

@@ -1,5 +1,7 @@
 #include "database/CreateDatabase.h"
 
+#include "database/Connection.h"
+#include "database/Dialects.h"
 #include "database/Location.h"
 #include "database/PostgresDialect.h"
 #include "database/SqliteDialect.h"
@@ -64,12 +66,17 @@ QString IndexStatement(const Dialect& dialect, const TableDescription& table, co
              dialect.Table(table.name), keys.join(QStringLiteral(", ")));
 }
 
+/// The statements that make a table and its indexes.
+QStringList Statements(const Dialect& dialect, const TableDescription& table) {
+    QStringList statements{TableStatement(dialect, table)};
+    for (const IndexDescription& index : table.indexes)
+        statements.append(IndexStatement(dialect, table, index));
+    return statements;
+}
+
 void MakeTables(Maker& maker, const Dialect& dialect, const Schema& schema) {
-    for (const TableDescription& table : schema) {
-        maker.Execute(TableStatement(dialect, table));
-        for (const IndexDescription& index : table.indexes)
-            maker.Execute(IndexStatement(dialect, table, index));
-    }
+    for (const TableDescription& table : schema)
+        for (const QString& statement : Statements(dialect, table)) maker.Execute(statement);
 }
 
 [[noreturn]] void RaiseExists(const QString& what) {
@@ -127,6 +134,21 @@ void CreateServerSchema(const DatabaseLocation& location, const Schema& schema) 
 }
 
 } // namespace
+
+bool AddTable(const QString& location, const Schema& schema, const QString& table) {
+    const DatabaseLocation place = ParseLocation(location);
+    Connection connection(DialectFor(place));
+    connection.BeginWriting(schema.front());
+    const Dialect& dialect = connection.Engine();
+    const TableDescription& added = TableOf(schema, table);
+    QSqlQuery& columns = connection.Run(dialect.ColumnsQuery(), dialect.CatalogueParameters(added.name));
+    const bool isThere = connection.Next(columns);
+    columns.finish();
+    if (!isThere)
+        for (const QString& statement : Statements(dialect, added)) connection.Alter(statement);
+    connection.Commit();
+    return !isThere;
+}
 
 void CreateDatabase(const QString& location, const Schema& schema) {
     const DatabaseLocation place = ParseLocation(location);

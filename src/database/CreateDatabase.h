@@ -8,4 +8,8 @@ namespace QmChart6 {
 /// where there is one already, and otherwise as opening one does.
 void CreateDatabase(const QString& location, const Schema& schema);
 
+/// Adds a table of the schema, with its indexes, to a database that is there and has the schema's first.
+/// False, and nothing done, where it is there already. Raises as opening the database and writing to it do.
+bool AddTable(const QString& location, const Schema& schema, const QString& table);
+
 } // namespace QmChart6

@@ -1,26 +1,24 @@
 #include "database/Database.h"
 
+#include "database/Dialects.h"
 #include "database/Location.h"
-#include "database/PostgresDialect.h"
-#include "database/SqliteDialect.h"
 
 namespace QmChart6 {
-
-namespace {
-
-/// The dialect of the engine at a place.
-std::unique_ptr<Dialect> DialectFor(const DatabaseLocation& location) {
-    if (location.server) return std::make_unique<PostgresDialect>(location);
-    return std::make_unique<SqliteDialect>(location);
-}
-
-} // namespace
 
 Database::Database(const QString& location, const Schema& schema)
     : schema_(schema), connection_(std::make_unique<Connection>(DialectFor(ParseLocation(location)))) {}
 
 Recordset Database::OpenRecordset(const QString& table) {
     return {*connection_, TableOf(schema_, table)};
+}
+
+std::optional<Recordset> Database::OpenRecordsetIfThere(const QString& table) {
+    try {
+        return OpenRecordset(table);
+    } catch (const RuntimeError& error) {
+        if (error.Number() != static_cast<int>(ErrorNumber::TableNotFound)) throw;
+        return std::nullopt;
+    }
 }
 
 Database::Writing::Writing(Database& database, const QString& firstTable)

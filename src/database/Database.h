@@ -4,6 +4,7 @@
 #include "database/Recordset.h"
 
 #include <memory>
+#include <optional>
 
 namespace QmChart6 {
 
@@ -19,6 +20,8 @@ public:
 
     /// Raises 3078 where the table is not there.
     [[nodiscard]] Recordset OpenRecordset(const QString& table);
+    /// Nothing where the database lacks the table.
+    [[nodiscard]] std::optional<Recordset> OpenRecordsetIfThere(const QString& table);
 
     /// As long as it lives, what is written appears to others together; each record that was written stays,
     /// whatever fails after it. Writers take turns at the table from the start, so that what is sought and

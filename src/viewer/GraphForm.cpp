@@ -141,7 +141,8 @@ LookState GraphForm::Look() const {
             .controlBar = ControlBar(),
             .maximized = isMaximized(),
             .width = TwipsOfPixels(size.width()) + NominalFrameWidth,
-            .height = TwipsOfPixels(size.height()) + NominalFrameHeight};
+            .height = TwipsOfPixels(size.height()) + NominalFrameHeight,
+            .extras = shown_.extras};
 }
 
 void GraphForm::Show(const LookState& look) {
@@ -154,6 +155,7 @@ void GraphForm::Show(const LookState& look) {
     shown_.markers = look.markers;
     shown_.stacked = look.stacked;
     shown_.fullStacked = look.fullStacked;
+    shown_.extras = look.extras;
     if (LookAlike(look, before)) return;
     if (look.controlBar != before.controlBar) SetControlBar(look.controlBar);
     SyncControlBar();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "config/LookExtras.h"
+
 #include <cstdint>
 
 namespace QmChart6 {
@@ -14,6 +16,7 @@ struct ShownLook {
     std::int16_t markers = 0;
     std::int16_t stacked = 0;
     std::int16_t fullStacked = 0;
+    Extras extras = {}; ///< what its look said beyond the stored fields
     bool modified = false;
 };
 

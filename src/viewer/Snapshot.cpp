@@ -30,7 +30,8 @@ private:
 
 } // namespace
 
-void SaveChartSnapshot(Viewer& viewer, ChartControl& chart, QString& FileName) {
+void SaveChartSnapshot(Viewer& viewer, ChartControl& chart, QString& FileName,
+                       const std::optional<SnapshotSize>& size) {
     const KeptDirectory directory;
     chart.CopyToClipboard();
     if (FileName.isEmpty()) {
@@ -43,7 +44,8 @@ void SaveChartSnapshot(Viewer& viewer, ChartControl& chart, QString& FileName) {
         directory.Restore();
     }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    SavePicture({chart.Model(), chart.width(), chart.height()}, FileName);
+    const SnapshotSize taken = size.value_or(SnapshotSize{chart.width(), chart.height()});
+    SavePicture({chart.Model(), taken.width, taken.height, taken.pixelsPerInch}, FileName);
     directory.Restore();
     CurrentDesktop().ClearClipboard();
     viewer.SetStatus(LocalText(TextKey::SnapshotSaved));

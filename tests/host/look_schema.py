@@ -34,8 +34,10 @@ SCHEMA = {
         ("ConfigId", "text"), ("AxisId", "integer"), ("AxisScaleVisible", "boolean"), ("AxisGridStyle", "long"),
         ("AxisTitleText", "text"), ("AxisTitleVisible", "boolean"), ("AxisTitleOrientation", "long"), *_font("AxisTitle"),
         *_font("AxisLabels")],
+    "LookExtras": [("ConfigId", "text"), ("Element", "text"), ("Field", "text"), ("Value", "text")],
 }
 INDEXES = {"Charts_PrimaryKey", "Charts_Config", "ChartConfigurations_PrimaryKey",
-           *(f"{table}Configurations_{index}" for table in ("Columns", "Series", "Axes") for index in ("PrimaryKey", "Config"))}
+           *(f"{table}Configurations_{index}" for table in ("Columns", "Series", "Axes") for index in ("PrimaryKey", "Config")),
+           "LookExtras_PrimaryKey", "LookExtras_Config"}
 FILE_TYPES = {"text": "TEXT", "boolean": "BOOLEAN", "integer": "SMALLINT", "long": "INTEGER", "real": "REAL"}
 SERVER_TYPES = {"text": "text", "boolean": "boolean", "integer": "smallint", "long": "integer", "real": "real"}

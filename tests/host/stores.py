@@ -10,7 +10,8 @@ import tempfile
 
 QMCHART = os.environ["QMCHART"]
 LIMIT = 60  # seconds until something that hangs is ended
-TABLES = ("Charts", "ChartConfigurations", "ColumnsConfigurations", "SeriesConfigurations", "AxesConfigurations")
+TABLES = ("Charts", "ChartConfigurations", "ColumnsConfigurations", "SeriesConfigurations", "AxesConfigurations",
+          "LookExtras")
 PARTS = 4
 _count = itertools.count(1)
 

@@ -1,6 +1,7 @@
 """Runs "qmchart config" from outside, on both engines: what it does, says and leaves alone."""
 import json
 import re
+import struct
 import subprocess
 import unittest
 
@@ -39,7 +40,7 @@ class OnBothEngines:
                 self.assertEqual((look["ConfigId"], look["TitleText"]), (name, f"Title of {name}"))
                 self.assertEqual(self.config(self.store, "delete", "--", name), f"deleted {escaped(name)}\n")
         self.assertEqual(self.config(self.store, "list"), "")
-        self.assertEqual([len(rows) for rows in self.store.tables().values()], [0] * 5)
+        self.assertEqual([len(rows) for rows in self.store.tables().values()], [0] * 6)
 
     def test_case_does_not_tell_names_apart(self):
         self.keep(self.store, "Sales")
@@ -127,6 +128,88 @@ class OnBothEngines:
         self.fails(53, "save", self.table, "a.svg", "--look", "nowhere.json")
         self.assertFalse((self.folder / "a.svg").exists())
 
+    BEYOND = [{"Element": "Axis 1", "Field": "Logarithmic", "Value": True},
+              {"Element": "Series", "Field": "LineWidth", "Value": 2.5},
+              {"Element": "Series 12", "Field": "MarkerSize", "Value": 9}]
+
+    def test_what_a_look_says_beyond_its_fields_comes_back_and_goes(self):
+        self.keep(self.store, "Plain")
+        self.assertNotIn("Beyond", self.look(self.store, "Plain"))
+        self.keep(self.store, "Log", Beyond=self.BEYOND)
+        self.assertEqual(self.look(self.store, "Log")["Beyond"], self.BEYOND)
+        self.assertEqual(len(self.store.tables()["LookExtras"]), 3)
+        self.keep(self.store, "Log", Beyond=self.BEYOND[:1])
+        self.assertEqual(self.look(self.store, "Log")["Beyond"], self.BEYOND[:1])
+        self.config(self.store, "delete", "log")
+        self.assertEqual(self.store.tables()["LookExtras"], [])
+
+    def test_what_means_nothing_beyond_the_fields_is_refused(self):
+        for number, word, change in ((321, "Axis 3", {"Element": "Axis 9"}), (3265, "Minimum", {"Field": "Least"}),
+                                     (13, "true or false", {"Value": 1})):
+            look = json.dumps({"Beyond": [self.BEYOND[0] | change]}).encode()
+            self.assertIn(word, self.fails(number, "config", "import", "-", "--as", "Bad", "--config", self.store.folder,
+                                           given=look))
+        self.assertEqual(self.config(self.store, "list"), "")
+
+    def test_an_older_store_works_on_says_what_it_does_not_keep_and_is_upgraded(self):
+        self.keep(self.store, "Old")
+        self.store.run("DROP TABLE <LookExtras>")
+        look = json.dumps({"Beyond": self.BEYOND, "TitleText": "Kept"}).encode()
+        result = self.qmchart("config", "import", "-", "--as", "Log", "--config", self.store.folder, given=look)
+        self.assertEqual((result.returncode, result.stdout), (0, b"stored Log\n"))
+        self.assertRegex(result.stderr.decode(), r'\Aqmchart: 3 values of "Beyond" were not kept: [^\n]+ config upgrade [^\n]+\n\Z')
+        self.assertEqual(self.look(self.store, "Log")["TitleText"], "Kept")
+        self.assertNotIn("Beyond", self.look(self.store, "Log"))
+        self.config(self.store, "delete", "Log")
+        self.assertEqual(self.does("config", "upgrade", self.store.folder), f"upgraded {self.store.folder}QmConfig.mdb\n")
+        self.assertEqual(self.does("config", "upgrade", self.store.folder),
+                         f"{self.store.folder}QmConfig.mdb is up to date\n")
+        self.config(self.store, "import", "-", "--as", "Log", given=look)
+        self.assertEqual(self.look(self.store, "Log")["Beyond"], self.BEYOND)
+        self.assertEqual(self.config(self.store, "list"), "Log\nOld\n")
+
+    def test_a_chart_has_what_its_look_says_beyond(self):
+        beyond = [{"Element": "Series", "Field": "LineWidth", "Value": 7.25}]
+        self.keep(self.store, "Thick", chartType=3, Beyond=beyond)
+        self.config(self.store, "export", "Thick", "thick.json")
+        self.does("save", self.table, "file.svg", "--look", "thick.json")
+        self.config(self.store, "bind", "sales", "Thick")
+        self.does("save", self.table, "bound.svg", "--config", self.store.folder, "--use-config", "no-titles")
+        for name in ("file.svg", "bound.svg"):
+            self.assertIn("7.25", (self.folder / name).read_text(encoding="utf-8"))
+
+
+    def test_without_a_look_a_chart_is_calm_unless_the_store_binds_another(self):
+        def picture(*options):
+            self.does("save", self.table, "a.svg", *options)
+            return (self.folder / "a.svg").read_text(encoding="utf-8")
+        calm = picture()
+        self.assertIn("#4670a8", calm)
+        self.assertEqual(calm, picture("--look", "calm"))
+        self.assertEqual(calm, picture("--config", self.store.folder))
+        plain = picture("--look", "plain")
+        self.assertNotIn("#4670a8", plain)
+        self.assertEqual(plain, picture("--use-config", "no"))
+        self.keep(self.store, "Mine", BackColorRed=1, BackColorGreen=2, BackColorBlue=3)
+        self.config(self.store, "bind", "sales", "Mine")
+        bound = picture("--config", self.store.folder)
+        self.assertIn("#010203", bound)
+        self.assertNotIn("Title of Mine", bound)
+
+    def test_looks_of_the_program(self):
+        listed = [line.split(" ", 1) for line in self.does("looks").splitlines()]
+        self.assertEqual(len(listed), 10)
+        pictures = set()
+        for name, purpose in listed:
+            self.assertTrue(purpose.strip())
+            self.does("save", self.table, "a.svg", "--look", name)
+            pictures.add((self.folder / "a.svg").read_bytes())
+        self.assertGreaterEqual(len(pictures), 9)  # of small numbers a logarithmic axis may show no more than another
+        self.keep(self.store, "dark", BackColorRed=1, BackColorGreen=2, BackColorBlue=3)
+        self.does("save", self.table, "a.svg", "--look", "dark", "--config", self.store.folder)
+        self.assertIn("#010203", (self.folder / "a.svg").read_text(encoding="utf-8"))
+
+
 class OnAFile(OnBothEngines, Commands):
     engine = stores.SqliteStore
 
@@ -185,7 +268,8 @@ class Copies(Commands):
     def test_both_ways_every_look_is_the_same(self):
         file, server, back = self.make(stores.SqliteStore), self.make(stores.PostgresStore), self.make(stores.SqliteStore)
         for number, name in enumerate(ODD_NAMES):
-            self.keep(file, name, Rotation=number + 0.1, TitleFontSize=1e-7 * (number + 1), PlotMaxX=1e30 / (number + 1))
+            self.keep(file, name, Rotation=number + 0.1, TitleFontSize=1e-7 * (number + 1), PlotMaxX=1e30 / (number + 1),
+                      Beyond=[{"Element": "Axis 1", "Field": "LabelFormat", "Value": f"0.0 \"{number}\""}])
         self.config(file, "bind", "a", "Plain")
         self.config(file, "bind", "b", ODD_NAMES[2])
         self.keep(server, "PLAIN", TitleText="is replaced")
@@ -225,6 +309,19 @@ class CommandLines(Commands):
                 self.does("save", self.table, "a.png", "--size", f"{size[0]}x{size[1]}")
                 self.assertEqual(size_of_png(self.folder / "a.png"), size)
         self.fails(380, "save", self.table, "a.png", "--size", "16385x10")
+
+    def test_more_pixels_to_an_inch_are_the_same_chart_with_more_pixels(self):
+        for size in ((1501, 907), (3000, 2000)):
+            self.does("save", self.table, "a.png", "--size", f"{size[0]}x{size[1]}", "--dpi", "300")
+            self.assertEqual(size_of_png(self.folder / "a.png"), size)
+        self.assertIn(b"pHYs" + struct.pack(">II", 11811, 11811), (self.folder / "a.png").read_bytes())
+        self.does("save", self.table, "large.svg", "--size", "1600x1000", "--dpi", "192")
+        self.does("save", self.table, "usual.svg", "--size", "800x500")
+        self.assertEqual((self.folder / "large.svg").read_bytes(), (self.folder / "usual.svg").read_bytes())
+        self.does("save", self.table, "a.png", "--dpi", "192")
+        self.does("save", self.table, "b@2x.png")
+        self.assertEqual((self.folder / "a.png").read_bytes(), (self.folder / "b@2x.png").read_bytes())
+        self.fails(380, "save", self.table, "a.png", "--dpi", "5000")
 
     def test_a_look_with_very_many_parts_needs_little_memory(self):
         store = self.make(stores.SqliteStore)

@@ -16,7 +16,7 @@ class OddRecords:
 
     def test_records_that_mean_nothing_end_in_an_error_or_a_picture(self):
         self.store = self.make(self.engine)
-        self.keep(self.store, "Odd")
+        self.keep(self.store, "Odd", Beyond=[{"Element": "Series", "Field": "LineWidth", "Value": 3}])
         self.config(self.store, "bind", "sales", "Odd")
         whole, series, axes = "ChartConfigurations", "SeriesConfigurations", "AxesConfigurations"
         reals = ("-1e30", "1e30", "0", "-5", "3e38", "1e-30", "1e6", "2e9")
@@ -31,6 +31,10 @@ class OddRecords:
             (whole, "TitleFontStyle"), (whole, "TitleFontEffect"), (series, "SeriesType"), (series, "SeriesIndex"),
             (series, "SeriesStatLine"), (series, "SeriesLabelComponents"), (series, "SeriesStyle"), (axes, "AxisGridStyle"),
             (axes, "AxisTitleOrientation")) for value in numbers]
+        extras = "LookExtras"
+        cases += [(extras, field, value) for field, value in (
+            ("Value", "'-1'"), ("Value", "'1e400'"), ("Value", "'nan'"), ("Value", "''"), ("Field", "'Nonsense'"),
+            ("Field", "'EdgeColor'"), ("Element", "'Axis'"), ("Element", "'Series 40000'"), ("Element", "''"))]
         cases = cases[::self.every] + [(whole, "TitleText", "NULL"), (whole, "Rotation", "NULL"),
                                        (series, "SeriesColorRed", "NULL"), *self.alien_cases]
         for table, field, value in cases:

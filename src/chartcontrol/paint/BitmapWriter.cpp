@@ -27,7 +27,7 @@ QByteArray Encoded(const QImage& image, const char* format) {
 
 } // namespace
 
-QImage ImageOfScene(const Scene& scene, int scale) {
+QImage ImageOfScene(const Scene& scene, double scale) {
     const double width = std::round(scene.size.width / PointsPerPixel * scale);
     const double height = std::round(scene.size.height / PointsPerPixel * scale);
     if (!(width >= 1 && height >= 1 && width <= GreatestSide && height <= GreatestSide &&

@@ -24,7 +24,7 @@ struct Drawn {
     const Scene& scene;
     const TextMeasurer& measurer;
     const QString& title;
-    int scale;
+    double scale; ///< device pixels to a logical pixel
 };
 
 /// A format: the extension that stands for it, whether it is made of pixels, and its writer.
@@ -79,11 +79,13 @@ QByteArray EncodePicture(const Picture& picture, PictureFormat format, int scale
                                .arg(picture.height));
     const FormatRow& row = RowOf(format);
     const QtTextMeasurer measurer;
+    const double pointsPerPixel = PointsPerInch / picture.pixelsPerInch;
+    const double deviceScale = scale * picture.pixelsPerInch / PixelsPerInch;
     const LaidOutChart laidOut = LayOut(picture.chart,
-                                        {{picture.width * PointsPerPixel, picture.height * PointsPerPixel},
-                                         row.isBitmap ? scale / PointsPerPixel : VectorPixelsPerPoint},
+                                        {{picture.width * pointsPerPixel, picture.height * pointsPerPixel},
+                                         row.isBitmap ? deviceScale / PointsPerPixel : VectorPixelsPerPoint},
                                         measurer);
-    return row.encode({laidOut.scene, measurer, picture.chart.Title.Text, scale});
+    return row.encode({laidOut.scene, measurer, picture.chart.Title.Text, deviceScale});
 }
 
 void SavePicture(const Picture& picture, const QString& fileName) {

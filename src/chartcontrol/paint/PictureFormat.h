@@ -9,17 +9,19 @@ namespace QmChart6 {
 
 enum class PictureFormat { Bmp, Png, Svg, Pdf, Emf };
 
-/// What a picture is made of: the chart at a size in logical pixels.
+/// What a picture is made of: the chart at a size in pixels, of which so many make an inch. A logical pixel
+/// is 1/96 inch.
 struct Picture {
     Chart chart;
     int width = 0;
     int height = 0;
+    double pixelsPerInch = 96;
 };
 
 /// The format that a file name stands for by its extension, case apart; a name with another one, or none, is
 /// a metafile (Emf).
 PictureFormat FormatOfFileName(const QString& fileName);
-/// Device pixels to a logical pixel: 2 for "name@2x.png", up to @9x, otherwise 1. Bitmaps only.
+/// Device pixels to a pixel of the picture: 2 for "name@2x.png", up to @9x, otherwise 1. Bitmaps only.
 int ScaleOfFileName(const QString& fileName);
 
 /// The picture's bytes. `scale` is for Bmp (24 bits) and Png; the vector forms keep text as text, but for

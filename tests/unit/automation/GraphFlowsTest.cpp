@@ -135,6 +135,38 @@ TEST_F(GraphFlowsTest, TheValueLabelFormatFollowsTheData) {
     EXPECT_EQ(ChartOf("a").Plot.Axis(AxisId::Y).Labels.Item(1).Format, "0.00");
 }
 
+TEST_F(GraphFlowsTest, FormatsThatFollowTheDataAreEmptyInEveryLook) {
+    StoreLook(QStringLiteral("a"));
+    SetFormatsFollowData(true);
+    const Variant halves = Array<double>::Table(3, 2, {5.91, 1, 2, 3, 4, 5}, 1, 1);
+    for (const int useConfig : {0, 1, 2}) {
+        charts.QmMakeGraph(QStringLiteral("a"), 3, 2, halves, rowLabels, columnLabels, title, rowTitle,
+                           columnTitle, valueTitle, std::int16_t{0}, static_cast<std::uint8_t>(useConfig));
+        const Chart& chart = ChartOf("a");
+        for (const AxisId axis : {AxisId::Y, AxisId::SecondaryY})
+            EXPECT_EQ(chart.Plot.Axis(axis).Labels.Item(1).Format, "") << useConfig;
+        const DataPointLabel& label =
+            chart.Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).DataPointLabel;
+        EXPECT_EQ(label.ValueFormat, "") << useConfig;
+        EXPECT_EQ(label.PercentFormat, useConfig == 0 ? "0%" : "0.0%") << useConfig;
+    }
+}
+
+TEST_F(GraphFlowsTest, ASavedChartWithALookHasItsTicksInFullWhereFormatsFollowTheData) {
+    StoreLook(QStringLiteral("a"));
+    const Variant small = Array<double>::Table(3, 2, {0.1, 0.2, 0.3, 0.4, 0.5, 0.6}, 1, 1);
+    const auto saved = [&](const char* file) {
+        QString name = InFolder(file);
+        charts.QmSaveGraph(QStringLiteral("a"), 3, 2, small, rowLabels, columnLabels, title, rowTitle,
+                           columnTitle, valueTitle, 1, name);
+        QFile svg(name);
+        return svg.open(QIODevice::ReadOnly) ? svg.readAll() : QByteArray();
+    };
+    EXPECT_FALSE(saved("rounded.svg").contains(">0.2<"));
+    SetFormatsFollowData(true);
+    EXPECT_TRUE(saved("full.svg").contains(">0.2<"));
+}
+
 TEST_F(GraphFlowsTest, AZeroBasedTableIsFilledFromItsFirstElementAndThenRaises9) {
     EXPECT_RAISES(9, (charts.QmMakeGraph(QStringLiteral("a"), 3, 2, Numbers(3, 2, 0), rowLabels, columnLabels,
                                          title, rowTitle, columnTitle, valueTitle),

@@ -31,6 +31,17 @@ TEST(ValueLabelFormat, HasTwoDecimalsWhereAValueHasSome) {
     EXPECT_EQ(FormatOf(FromOne<Variant>(2, 1, {Variant(), Variant(7)}), 2, 1), "0");
 }
 
+TEST(ValueLabelFormat, IsGeneralWhileFormatsFollowTheDataWhateverIsComputed) {
+    EXPECT_EQ(FormatOf(FromOne<double>(1, 1, {0.5}), 1, 1), "0.00");
+    LetFormatsFollowData(true);
+    EXPECT_EQ(ValueLabelFormat(), "");
+    EXPECT_EQ(FormatOf(FromOne<double>(1, 1, {5}), 1, 1), "");
+    const ScopedLocale scope(CommaLocale());
+    EXPECT_EQ(FormatOf(FromOne<QString>(1, 1, {QStringLiteral("1.5")}), 1, 1), "");
+    LetFormatsFollowData(false);
+    EXPECT_EQ(ValueLabelFormat(), "0,00");
+}
+
 TEST(ValueLabelFormat, StartsOverWithEachTable) {
     EXPECT_EQ(FormatOf(FromOne<double>(1, 1, {0.5}), 1, 1), "0.00");
     EXPECT_EQ(FormatOf(FromOne<double>(1, 1, {5}), 1, 1), "0");

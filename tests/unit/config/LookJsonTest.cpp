@@ -85,7 +85,7 @@ TEST(LookJsonTest, NumbersAreWrittenByTheirShortestDigits) {
 TEST(LookJsonTest, TheExampleLooksAreLooksOfAllThatTheySay) {
     const QDir folder(T(QMCHART6_SOURCE_DIR "/examples/looks"));
     const QStringList files = folder.entryList({T("*.json")});
-    EXPECT_EQ(files.size(), 5);
+    EXPECT_EQ(files.size(), 10);
     for (const QString& name : files) {
         QFile file(folder.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -96,6 +96,8 @@ TEST(LookJsonTest, TheExampleLooksAreLooksOfAllThatTheySay) {
         LookState state;
         state.chart.SetGridSize(3, 3);
         EXPECT_TRUE(ApplyLook(state, named.look, true));
+        EXPECT_TRUE(state.chart.LegendFollowsData) << name.toStdString();
+        EXPECT_EQ(state.chart.Backdrop.Frame.Style, FrameStyle::None) << name.toStdString();
     }
 }
 

@@ -86,6 +86,20 @@ TEST(CommandLine, ALookIsUsedWithTheCallersTitlesUnlessItIsSaidOtherwise) {
 TEST(CommandLine, ASizeIsTwoNumbersOfPixels) {
     EXPECT_EQ(Parse({"save", "a.csv", "a.png", "--size", "800x500"}).size, std::optional(QSize(800, 500)));
     EXPECT_FALSE(Parse({"save", "a.csv", "a.png"}).size);
+    EXPECT_EQ(Parse({"save", "a.csv", "a.png", "--dpi", "300"}).dpi, std::optional(300));
+}
+
+TEST(CommandLine, KindsOfChartHaveTheirNumbers) {
+    EXPECT_FALSE(Parse({"show", "t"}).chartType);
+    const QList<std::pair<QString, int>> kinds{
+        {"bar3d", 0},  {"bar", 1},         {"line3d", 2},        {"line", 3}, {"area", 5},
+        {"step3d", 6}, {"combination", 9}, {"combination3d", 8}, {"pie", 14}, {"xy", 16}};
+    for (const auto& [word, number] : kinds)
+        EXPECT_EQ(Parse({"show", "t", "--type", word}).chartType, number);
+}
+
+TEST(CommandLine, LooksTakesNothing) {
+    EXPECT_EQ(Parse({"looks"}).command, Command::Looks);
 }
 
 TEST(CommandLine, ConfigKeepsItsOperands) {
@@ -146,12 +160,20 @@ INSTANTIATE_TEST_SUITE_P(
         QStringList{"printers", "t"}, QStringList{"printers", "--printer", "office"},
         QStringList{"show", "t", "--size", "800"}, QStringList{"show", "t", "--size", "0x5"},
         QStringList{"show", "t", "--size", "8x5x3"}, QStringList{"show", "t", "--size", "axb"},
+        QStringList{"show", "t", "--dpi", "0"}, QStringList{"show", "t", "--dpi", "high"},
+        QStringList{"printers", "--dpi", "300"},
         QStringList{"show", "t", "--look", "a", "--use-config", "no"}, QStringList{"show", "t", "--as", "a"},
-        QStringList{"config", "list", "--look", "a"}, QStringList{"config", "list", "--size", "8x5"}));
+        QStringList{"looks", "a"}, QStringList{"looks", "--type", "bar"},
+        QStringList{"show", "t", "--type", "xy3d"}, QStringList{"show", "t", "--type", "Bar"},
+        QStringList{"show", "t", "--type", ""}, QStringList{"config", "list", "--look", "a"},
+        QStringList{"config", "list", "--size", "8x5"}));
 
 TEST(PresentableTitle, IsWordsThatBeginLikeASentence) {
     EXPECT_EQ(PresentableTitle("barley-by-site"), "Barley by site");
     EXPECT_EQ(PresentableTitle("sales_2024.draft"), "Sales 2024.draft");
     EXPECT_EQ(PresentableTitle("__"), "");
     EXPECT_EQ(PresentableTitle("GDP"), "GDP");
+    EXPECT_EQ(PresentableTitle("co2-monthly"), "CO2 monthly");
+    EXPECT_EQ(PresentableTitle("rain_and_pm25_in_q1"), "Rain and PM25 in Q1");
+    EXPECT_EQ(PresentableTitle("the-1990s-2nd-part-sales2024"), "The 1990s 2nd part sales2024");
 }

@@ -1,0 +1,139 @@
+#include "qmchart/FittedLook.h"
+
+#include <QJsonArray>
+#include <QStringList>
+
+namespace QmChart6 {
+
+namespace {
+
+// As looks number them.
+constexpr int BarChart = 1;
+constexpr int AreaChart3D = 4;
+constexpr int AreaChart = 5;
+constexpr int PieChart = 14;
+constexpr int XYChart = 16;
+constexpr int ValueAxis = 1;
+constexpr int SecondValueAxis = 2;
+
+QLatin1String Name(const char* text) {
+    return QLatin1String(text);
+}
+
+int KindOf(const QJsonObject& look) {
+    return look.value(Name("chartType")).toInt(BarChart);
+}
+
+void SetIfOpen(QJsonObject& look, const char* field, const QJsonValue& value) {
+    if (!look.contains(Name(field))) look.insert(Name(field), value);
+}
+
+void DropLegend(QJsonObject& look) {
+    SetIfOpen(look, "Legend", false);
+    QJsonArray kept;
+    const QJsonArray beyond = look.value(Name("Beyond")).toArray();
+    for (const auto& record : beyond)
+        if (record.toObject().value(Name("Field")) != Name("LegendFollowsData")) kept.append(record);
+    if (!beyond.isEmpty()) look.insert(Name("Beyond"), kept);
+}
+
+/// The record of an axis among others: one without a number has that of its place.
+qsizetype PlaceOfAxis(const QJsonArray& axes, int id) {
+    qsizetype place = 0;
+    while (place < axes.size() &&
+           axes[place].toObject().value(Name("AxisId")).toInt(static_cast<int>(place)) != id)
+        ++place;
+    return place;
+}
+
+void SetOfAxis(QJsonObject& look, int id, const char* field, const QJsonValue& value) {
+    QJsonArray axes = look.value(Name("Axes")).toArray();
+    const qsizetype place = PlaceOfAxis(axes, id);
+    if (place == axes.size()) axes.append(QJsonObject{{Name("AxisId"), id}});
+    QJsonObject axis = axes[place].toObject();
+    axis.insert(Name(field), value);
+    axes[place] = axis;
+    look.insert(Name("Axes"), axes);
+}
+
+/// The numbers of the series that the look puts on the second value axis.
+QList<int> SecondarySeries(const QJsonObject& look) {
+    QList<int> numbers;
+    const QJsonArray beyond = look.value(Name("Beyond")).toArray();
+    for (const auto& record : beyond) {
+        const QJsonObject said = record.toObject();
+        if (said.value(Name("Field")) == Name("SecondaryAxis") && said.value(Name("Value")).toBool())
+            numbers.append(said.value(Name("Element")).toString().section(u' ', 1).toInt());
+    }
+    return numbers;
+}
+
+bool StandsOnSecondAxis(const QJsonObject& look, int column) {
+    return SecondarySeries(look).contains(column);
+}
+
+/// A look that has a second axis for some series shows none where the table has none of them.
+void DropSecondAxis(QJsonObject& look, const Table& table) {
+    const QList<int> secondary = SecondarySeries(look);
+    bool any = false;
+    for (const int number : secondary) any |= number <= table.columns && !MakesXYChart(look);
+    if (!secondary.isEmpty() && !any) SetOfAxis(look, SecondValueAxis, "AxisScaleVisible", false);
+}
+
+void DropTitles(QJsonObject& look) {
+    look.remove(Name("TitleText"));
+    look.remove(Name("Columns"));
+    QJsonArray axes;
+    const QJsonArray titled = look.value(Name("Axes")).toArray();
+    for (const auto& axis : titled) {
+        QJsonObject plain = axis.toObject();
+        plain.remove(Name("AxisTitleText"));
+        axes.append(plain);
+    }
+    look.insert(Name("Axes"), axes);
+}
+
+} // namespace
+
+void SetKind(QJsonObject& look, int chartType) {
+    look.insert(Name("chartType"), chartType);
+    QJsonArray series;
+    const QJsonArray typed = look.value(Name("Series")).toArray();
+    for (const auto& one : typed) {
+        QJsonObject untyped = one.toObject();
+        untyped.remove(Name("SeriesType"));
+        series.append(untyped);
+    }
+    if (!typed.isEmpty()) look.insert(Name("Series"), series);
+}
+
+bool MakesXYChart(const QJsonObject& look) {
+    return KindOf(look) == XYChart;
+}
+
+QString ColumnName(const Table& table, int column) {
+    return column <= table.columns ? table.columnLabels.At(table.columnLabels.LowerBound() + column - 1)
+                                   : QString();
+}
+
+void FitToTable(QJsonObject& look, const Table& table) {
+    const int kind = KindOf(look);
+    if (kind == XYChart) {
+        SetIfOpen(look, "Lines", 0);
+        if (table.columns == 2) DropLegend(look);
+    }
+    if (kind == AreaChart || kind == AreaChart3D) SetIfOpen(look, "Stacked", 1);
+    if (kind == PieChart && table.columns == 1) SetIfOpen(look, "Flipped", true);
+    DropSecondAxis(look, table);
+}
+
+bool NameValueAxes(QJsonObject& look, const Table& table) {
+    const bool twoSeries = table.columns == 2 && !StandsOnSecondAxis(look, 1) && StandsOnSecondAxis(look, 2);
+    if (!twoSeries || MakesXYChart(look)) return false;
+    DropTitles(look);
+    SetOfAxis(look, ValueAxis, "AxisTitleText", ColumnName(table, 1));
+    SetOfAxis(look, SecondValueAxis, "AxisTitleText", ColumnName(table, 2));
+    return true;
+}
+
+} // namespace QmChart6

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "qmchart/TableReader.h"
+
+#include <QJsonObject>
+
+namespace QmChart6 {
+
+/// Makes every series what that kind of chart draws, as looks number them.
+void SetKind(QJsonObject& look, int chartType);
+
+/// Whether a look makes an XY chart.
+bool MakesXYChart(const QJsonObject& look);
+
+/// Fits a look to a table where the look leaves it open: the points of an XY chart are joined on demand only,
+/// one pair of columns needs no legend, areas do not hide each other, the slices of a pie are the rows where
+/// there is one column, and a second value axis is there for series that stand on it.
+void FitToTable(QJsonObject& look, const Table& table);
+
+/// Names each value axis after its series, in place of all titles of the look, where it gives one series of
+/// two an axis of its own. False, and nothing done, otherwise.
+bool NameValueAxes(QJsonObject& look, const Table& table);
+
+/// The name of a column of numbers, from 1; "" where there is none.
+QString ColumnName(const Table& table, int column);
+
+} // namespace QmChart6
