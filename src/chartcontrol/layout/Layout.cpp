@@ -48,11 +48,9 @@ PointPlaces LayOutPlot(const LayoutContext& context, const Box& box) {
                              : PointPlaces(FlatPlaces(std::move(plot)));
 }
 
-/// A legend that is asked for; or one in place of names that do not fit at the ends of their lines.
+/// Names at the ends of lines make a legend needless that nobody asked for.
 bool NeedsLegend(const LayoutContext& context, const Box& free) {
-    if (context.chart.ShowLegend) return true;
-    const bool named = context.chart.Plot.DirectNames && context.chart.Plot.SeriesCollection.Count() > 1;
-    return named && !(DirectNamesWidth(context, free) > 0);
+    return context.chart.ShowLegend && !(DirectNamesWidth(context, free) > 0);
 }
 
 /// What of title, footnote and legend is drawn; a small picture does without some, so that it shows the plot.

@@ -3,10 +3,10 @@
 #include "chartcontrol/paint/QtTextMeasurer.h"
 #include "chartcontrol/paint/SvgWriter.h"
 #include "chartcontrol/scene/SceneBuilder.h"
+#include "support/EmfPlayer.h"
 
 #include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -14,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
 
 namespace QmChart6 {
 namespace {
@@ -22,7 +21,6 @@ namespace {
 // Letters that are outlined are hollow in every format: the same picture as in pixels.
 
 constexpr Colour Ink{30, 60, 200};
-constexpr int UnitsPerPoint = 20; // of the metafile
 
 Scene OutlinedScene() {
     Scene scene{{300, 240}, {}, {}, {}, {}};
@@ -40,76 +38,6 @@ Scene OutlinedScene() {
     add("Turned", {270, 150}, 30, TextAnchor::End, 0);
     return scene;
 }
-
-/// The metafile's outlines with its pens, which is all that such a scene needs, on white.
-class EmfPlayer {
-public:
-    explicit EmfPlayer(const QByteArray& bytes) : bytes_(bytes) {}
-
-    QImage Play(const QImage& like) {
-        QImage image(like.size(), QImage::Format_RGB32);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(like.width() / (300.0 * UnitsPerPoint), like.height() / (240.0 * UnitsPerPoint));
-        painter.setBrush(Qt::black); // until the file says that there is none
-        for (qsizetype at = 0; at < bytes_.size(); at += U32(at + 4)) Record(at, painter);
-        return image;
-    }
-    [[nodiscard]] bool HasText() const { return hasText_; }
-
-private:
-    [[nodiscard]] std::uint32_t U32(qsizetype at) const {
-        std::uint32_t value = 0;
-        std::memcpy(&value, bytes_.constData() + at, 4);
-        return value;
-    }
-    [[nodiscard]] int I32(qsizetype at) const { return static_cast<int>(U32(at)); }
-
-    void Record(qsizetype at, QPainter& painter) {
-        constexpr std::uint32_t polyPolygon = 8;
-        constexpr std::uint32_t selectObject = 37;
-        constexpr std::uint32_t textOut = 84;
-        constexpr std::uint32_t createPen = 95;
-        constexpr std::uint32_t noBrush = 0x80000005;
-        switch (U32(at)) {
-        case createPen: {
-            const std::uint32_t colour = U32(at + 40);
-            painter.setPen(
-                QPen(QColor(colour & 0xff, colour >> 8 & 0xff, colour >> 16 & 0xff), I32(at + 32)));
-            break;
-        }
-        case selectObject:
-            if (U32(at + 8) == noBrush) painter.setBrush(Qt::NoBrush);
-            break;
-        case polyPolygon:
-            painter.drawPath(Outlines(at));
-            break;
-        case textOut:
-            hasText_ = true;
-            break;
-        default:
-            break;
-        }
-    }
-
-    [[nodiscard]] QPainterPath Outlines(qsizetype at) const {
-        const int runs = I32(at + 24);
-        qsizetype point = at + 32 + qsizetype{4} * runs;
-        QPainterPath path;
-        for (int run = 0; run < runs; ++run) {
-            QPolygonF outline;
-            for (int i = 0; i < I32(at + 32 + qsizetype{4} * run); ++i, point += 8)
-                outline << QPointF(I32(point), I32(point + 4));
-            path.addPolygon(outline);
-            path.closeSubpath();
-        }
-        return path;
-    }
-
-    QByteArray bytes_;
-    bool hasText_ = false;
-};
 
 /// How much ink lies in a picture, in pixels that are inked wholly.
 double InkOf(const QImage& image) {
@@ -133,7 +61,7 @@ TEST(OutlinedText, IsHollowInAMetafileAsInPixels) {
     const Scene scene = OutlinedScene();
     const QImage pixels = ImageOfScene(scene, 2);
     EmfPlayer player(EncodeEmf(scene, QtTextMeasurer()));
-    const QImage drawn = player.Play(pixels);
+    const QImage drawn = player.Play(pixels.size());
     EXPECT_FALSE(player.HasText());
     EXPECT_NEAR(InkOf(drawn) / InkOf(pixels), 1, 0.1);
     EXPECT_LT(InkApart(drawn, pixels), 0.3 * InkOf(pixels));
@@ -167,7 +95,7 @@ TEST(OutlinedText, PlainTextStaysText) {
     Scene scene = OutlinedScene();
     for (Shape& shape : scene.shapes) std::get<TextLine>(shape.geometry).font.Style = FontBold;
     EmfPlayer player(EncodeEmf(scene, QtTextMeasurer()));
-    player.Play(QImage(300, 240, QImage::Format_RGB32));
+    player.Play({300, 240});
     EXPECT_TRUE(player.HasText());
     EXPECT_FALSE(EncodeSvg(scene, {}).contains("stroke"));
 }

@@ -28,7 +28,8 @@ namespace {
 
 constexpr int UsualCases = 300;
 constexpr double Slack = 0.02;
-/// Less than the contrast that is aimed at: components are whole numbers, those of layers that shine through too.
+/// Less than the contrast that is aimed at: components are whole numbers, those of layers that shine through
+/// too.
 constexpr double LeastContrast = 4.25;
 
 int CaseCount() {

@@ -1,6 +1,7 @@
 #include "chartcontrol/layout/text/DataFormat.h"
 
 #include "base/NumberFormat.h"
+#include "chartcontrol/scale/ValueRange.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +10,10 @@ namespace QmChart6 {
 
 namespace {
 
-/// What is told of the largest value; smaller ones get as many decimals as it.
+/// Digits that are told of the largest value, and of the span of all values; smaller ones get as many
+/// decimals.
 constexpr int Digits = 4;
+constexpr int DigitsOfSpan = 3;
 constexpr int MostDecimals = 9;
 constexpr double GroupingFrom = 10000;
 /// Where plain digits would run longer than this, values get an exponent.
@@ -50,11 +53,15 @@ int ExponentOf(double value) {
 } // namespace
 
 QString DataFormatOf(const Chart& chart) {
-    double largest = 0;
-    ForValues(chart, [&largest](double value) { largest = std::max(largest, std::abs(value)); });
+    ValueRange range;
+    ForValues(chart, [&range](double value) { range.Include(value); });
+    if (range.IsEmpty()) return QStringLiteral("0");
+    const double largest = std::max(std::abs(range.low), std::abs(range.high));
     if (largest >= LargestPlain || (largest > 0 && largest < SmallestPlain))
         return QStringLiteral("0.##E+00");
-    const int most = std::clamp(Digits - 1 - ExponentOf(largest), 0, MostDecimals);
+    const int most = std::clamp(
+        std::max(Digits - 1 - ExponentOf(largest), DigitsOfSpan - 1 - ExponentOf(range.high - range.low)), 0,
+        MostDecimals);
     int decimals = 0;
     ForValues(chart, [&](double value) { decimals = std::max(decimals, DecimalsOf(value, most)); });
     return WithDecimals(largest >= GroupingFrom ? QStringLiteral("#,##0") : QStringLiteral("0"), decimals);

@@ -48,6 +48,54 @@ TEST(Legend, TellsHowManySeriesHaveNoRoom) {
     EXPECT_EQ(scene.warnings.size(), 1);
 }
 
+TEST(Legend, BesideAPileNamesItsTopFirst) {
+    Chart chart = ChartOf(3, 3, Ramp);
+    EXPECT_EQ(TextsOf(LaidOut(chart), PartCode::Legend).front().text, QStringLiteral("Series 1"));
+    chart.Stacking = true;
+    EXPECT_EQ(TextsOf(LaidOut(chart), PartCode::Legend).front().text, QStringLiteral("Series 3"));
+    chart.Legend.Location.LocationType = LocationType::Bottom;
+    EXPECT_EQ(TextsOf(LaidOut(chart), PartCode::Legend).front().text, QStringLiteral("Series 1"));
+}
+
+TEST(Legend, NamesThatBeginAlikeKeepTheirEnds) {
+    Chart chart = ChartOf(3, 2, Ramp);
+    chart.DataGrid.SetColumnLabel(1,
+                                  QStringLiteral("Department of Agricultural Economics and Sociology North"));
+    chart.DataGrid.SetColumnLabel(2,
+                                  QStringLiteral("Department of Agricultural Economics and Sociology South"));
+    const auto names = TextsOf(LaidOut(chart), PartCode::Legend);
+    EXPECT_TRUE(names[0].text.endsWith(QStringLiteral("North")));
+    EXPECT_TRUE(names[1].text.endsWith(QStringLiteral("South")));
+}
+
+TEST(Legend, HowManyAreMissingIsToldWhole) {
+    for (const double width : {200.0, 300.0, 480.0}) {
+        const auto names = TextsOf(LaidOut(ChartOf(3, 255, Ramp), {width, 315}), PartCode::Legend);
+        ASSERT_FALSE(names.empty());
+        EXPECT_EQ(names.back().text,
+                  QStringLiteral("\u2026 +%1").arg(255 - (static_cast<int>(names.size()) - 1)));
+    }
+}
+
+TEST(Legend, OfManySeriesShowsFewerWithWholeNames) {
+    Chart chart = ChartOf(3, 60, Ramp);
+    for (int column = 1; column <= 60; ++column)
+        chart.DataGrid.SetColumnLabel(column, QStringLiteral("Sensor %1").arg(column));
+    for (const TextLine& name : TextsOf(LaidOut(chart), PartCode::Legend))
+        EXPECT_TRUE(name.text.startsWith(QStringLiteral("Sensor ")) || name.text.contains(QLatin1Char('+')))
+            << name.text.toStdString();
+}
+
+TEST(Legend, InANarrowChartGoesBelowAndKeepsItsNames) {
+    const Scene scene = LaidOut(ChartOf(3, 3, Ramp), {150, 300});
+    const auto names = TextsOf(scene, PartCode::Legend);
+    ASSERT_EQ(names.size(), 3U);
+    for (const TextLine& name : names) {
+        EXPECT_TRUE(name.text.startsWith(QStringLiteral("Series")));
+        EXPECT_GT(name.origin.y, BoxOfPlot(scene).bottom);
+    }
+}
+
 TEST(Legend, IsNotShownForOneSeries) {
     EXPECT_TRUE(TextsOf(LaidOut(ChartOf(3, 1, Ramp)), PartCode::Legend).empty());
 }
