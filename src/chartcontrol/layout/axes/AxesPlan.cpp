@@ -34,15 +34,15 @@ public:
 
     AxesPlan Run() {
         BreakTitles();
-        FitMargins();
+        bool isUprightPlanned = FitMargins();
         // Labels that were hoped to reach beyond the plot may in the end stand so that they do not.
         const bool areTurned = plan_.categories.way == CategoryLabelPlan::Way::Turned;
         if (!areTurned && margins_.left > NeededLeft() + LeastWaste) {
             hopesForOverhang_ = false;
-            FitMargins();
+            isUprightPlanned = FitMargins();
         }
         FitBox();
-        PlanUpright();
+        if (!isUprightPlanned) PlanUpright();
         PlanAcross({});
         // Those that found less room to the sides than was hoped for may reach deeper.
         const double below = margins_.bottom;
@@ -104,7 +104,8 @@ private:
         return HalfLabel() + std::max(plan_.yUnit.Depth(), plan_.secondaryUnit.Depth());
     }
 
-    void FitMargins() {
+    /// Whether it came to rest, so that the upright axes are planned for the box as it is.
+    bool FitMargins() {
         margins_ = {TitlesLeft(), Above(), TitlesRight(), TitlesBelow() + HalfLabel()};
         for (int pass = 0; pass < MostPasses; ++pass) {
             const Box before = margins_;
@@ -116,8 +117,9 @@ private:
             PlanAcross(LeftOverhang());
             BreakTitles();
             GrowEnds();
-            if (margins_ == before) break;
+            if (margins_ == before) return true;
         }
+        return false;
     }
     void GrowSides() {
         Grow(margins_.top, Above());
@@ -162,9 +164,17 @@ private:
         plan_.primary =
             PlanValueAxis(context_, AxisOf(AxisId::Y), {demand_.primary, demand_.keepZero, length, false});
         // Without series of its own the second axis mirrors the first.
+        const Axis& secondary = AxisOf(AxisId::SecondaryY);
+        if (!demand_.usesSecondary && !IsSeen(secondary)) {
+            plan_.secondary = plan_.primary;
+            return;
+        }
         plan_.secondary = PlanValueAxis(
-            context_, AxisOf(AxisId::SecondaryY),
+            context_, secondary,
             {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
+    }
+    [[nodiscard]] static bool IsSeen(const Axis& axis) {
+        return !axis.AxisScale.Hide || axis.AxisGrid.MajorPen.Style != PenStyle::None;
     }
 
     /// Margins may still grow by so much for the sake of labels that reach beyond the plot.
