@@ -39,15 +39,15 @@ public:
 
     AxesPlan Run() {
         BreakTitles();
-        FitMargins();
+        bool isUprightPlanned = FitMargins();
         // Labels that were hoped to reach beyond the plot may in the end stand so that they do not.
         const bool areTurned = plan_.categories.way == CategoryLabelPlan::Way::Turned;
         if (!areTurned && margins_.left > NeededLeft() + LeastWaste) {
             hopesForOverhang_ = false;
-            FitMargins();
+            isUprightPlanned = FitMargins();
         }
         FitBox();
-        PlanUpright();
+        if (!isUprightPlanned) PlanUpright();
         PlanAcross({});
         // Those that found less room to the sides than was hoped for may reach deeper.
         const double below = margins_.bottom;
@@ -109,7 +109,8 @@ private:
         return HalfLabel() + std::max(plan_.yUnit.Depth(), plan_.secondaryUnit.Depth());
     }
 
-    void FitMargins() {
+    /// Whether it came to rest, so that the upright axes are planned for the box as it is.
+    bool FitMargins() {
         plan_.gapBelow = std::max(AxesPlan::LabelGap(AxisOf(AxisId::X)), HalfLabel());
         margins_ = {TitlesLeft(), Above(), TitlesRight(), TitlesBelow() + HalfLabel()};
         for (int pass = 0; pass < MostPasses; ++pass) {
@@ -122,8 +123,9 @@ private:
             PlanAcross(LeftOverhang());
             BreakTitles();
             GrowEnds();
-            if (margins_ == before) break;
+            if (margins_ == before) return true;
         }
+        return false;
     }
     void GrowSides() {
         Grow(margins_.top, Above());
@@ -175,11 +177,18 @@ private:
         plan_.primary =
             PlanValueAxis(context_, AxisOf(AxisId::Y), {primary, demand_.keepZero, length, false});
         // Without series of its own the second axis mirrors the first.
-        const AxisDemand secondary =
+        const Axis& secondary = AxisOf(AxisId::SecondaryY);
+        if (!demand_.usesSecondary && !IsSeen(secondary)) {
+            plan_.secondary = plan_.primary;
+            return;
+        }
+        const AxisDemand onSecond =
             demand_.usesSecondary ? WithHeadRoom(demand_.secondary, secondaryRoom_, demand_.keepZero, length)
                                   : primary;
-        plan_.secondary =
-            PlanValueAxis(context_, AxisOf(AxisId::SecondaryY), {secondary, demand_.keepZero, length, false});
+        plan_.secondary = PlanValueAxis(context_, secondary, {onSecond, demand_.keepZero, length, false});
+    }
+    [[nodiscard]] static bool IsSeen(const Axis& axis) {
+        return !axis.AxisScale.Hide || axis.AxisGrid.MajorPen.Style != PenStyle::None;
     }
 
     /// Margins may still grow by so much for the sake of labels that reach beyond the plot.

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <numeric>
 
 namespace QmChart6 {
 
@@ -12,6 +12,9 @@ namespace {
 
 /// "Week 12" is a number with a name before it; a longer text round a number is a name.
 constexpr qsizetype LongestRoundNumber = 12;
+/// Of more categories than this only so many are looked at to find out what they are.
+constexpr int MostSamples = 512;
+
 /// Steps of numbers go as far as numbers do.
 constexpr int NiceSteps = 30;
 
@@ -109,57 +112,84 @@ std::int64_t NiceStride(int place) {
 }
 
 bool CategorySequence::IsNames() {
-    if (kind_ == Kind::Unknown) kind_ = FindOut();
+    FindOut();
     return kind_ == Kind::Names;
 }
 
-CategorySequence::Kind CategorySequence::FindOut() {
+void CategorySequence::FindOut() {
+    if (kind_ == Kind::Unknown) kind_ = KindOf();
+}
+
+CategorySequence::Kind CategorySequence::KindOf() {
     if (AreNumbers()) return Kind::Numbers;
-    if (ReadDates()) return Ascend() ? Kind::Dates : Kind::Others;
+    if (AreDates()) return Ascend() ? Kind::Dates : Kind::Others;
     return AreNumbered() ? Kind::Others : Kind::Names;
+}
+
+/// The categories that are looked at: all of them, or evenly spread ones, the first two and the last among
+/// them.
+std::vector<int> CategorySequence::Samples() const {
+    const int stride = std::max(1, count_ / MostSamples);
+    std::vector<int> samples;
+    for (int category = 0; category < count_; category += stride) samples.push_back(category);
+    if (stride > 1) samples.insert(samples.begin() + 1, 1);
+    if (samples.back() != count_ - 1) samples.push_back(count_ - 1);
+    return samples;
 }
 
 /// Whole numbers, each as far from the one before as the first two.
 bool CategorySequence::AreNumbers() {
-    std::int64_t before = 0;
-    for (int category = 0; category < count_; ++category) {
+    for (const int category : Samples()) {
         bool isNumber = false;
         const std::int64_t number = Text(category).toInt(&isNumber);
         if (!isNumber) return false;
         if (category == 0) firstNumber_ = number;
-        if (category == 1) numberStep_ = number - before;
-        if (category > 1 && number - before != numberStep_) return false;
-        before = number;
+        if (category == 1) numberStep_ = number - firstNumber_;
+        if (number != firstNumber_ + category * numberStep_) return false;
     }
     return numberStep_ != 0;
 }
 
-bool CategorySequence::ReadDates() {
-    for (int category = 0; category < count_; ++category) {
+bool CategorySequence::AreDates() {
+    const std::optional<DateLabel> first = ReadDateLabel(Text(0));
+    if (!first) return false;
+    dates_.resize(static_cast<std::size_t>(count_));
+    for (const int category : Samples()) {
         const std::optional<DateLabel> date = ReadDateLabel(Text(category));
-        const bool alike = date && (dates_.empty() || (date->form == dates_.front().form &&
-                                                       date->hasTime == dates_.front().hasTime));
-        if (!alike) return false;
-        dates_.push_back(*date);
+        if (!date || date->form != first->form || date->hasTime != first->hasTime) return false;
+        dates_[static_cast<std::size_t>(category)] = date;
     }
     return true;
+}
+
+/// One that is no date, between samples that are, stands where the one before it does.
+const DateLabel& CategorySequence::DateAt(int category) {
+    std::optional<DateLabel>& date = dates_[static_cast<std::size_t>(category)];
+    if (date) return *date;
+    date = ReadDateLabel(Text(category));
+    if (date && monthFirst_) date->ExchangeDayAndMonth();
+    if (!date) date = DateAt(category - 1);
+    return *date;
 }
 
 /// Whether the dates ascend, with days and months exchanged perhaps. Where they do either way, the country of
 /// the locale decides.
 bool CategorySequence::Ascend() {
-    const auto ascend = [this] {
-        const auto isValid = [](const DateLabel& date) { return date.month <= MonthsOfYear; };
-        const auto minutes = [](const DateLabel& date) {
-            return date.DayNumber() * HoursOfDay * MinutesOfHour + date.minute;
+    const std::vector<int> samples = Samples();
+    const auto ascend = [&] {
+        const auto isValid = [this](int category) { return DateAt(category).month <= MonthsOfYear; };
+        const auto minutes = [this](int category) {
+            return DateAt(category).DayNumber() * HoursOfDay * MinutesOfHour + DateAt(category).minute;
         };
-        return std::ranges::all_of(dates_, isValid) && std::ranges::is_sorted(dates_, {}, minutes) &&
-               minutes(dates_.front()) < minutes(dates_.back());
+        return std::ranges::all_of(samples, isValid) && std::ranges::is_sorted(samples, {}, minutes) &&
+               minutes(samples.front()) < minutes(samples.back());
     };
-    if (dates_.front().form != DateLabel::Form::DayOrMonth) return ascend();
-    const bool monthFirst = QLocale().dateFormat(QLocale::ShortFormat).startsWith(QLatin1Char('M'));
-    const auto exchange = [this] { std::ranges::for_each(dates_, &DateLabel::ExchangeDayAndMonth); };
-    if (monthFirst) exchange();
+    const auto exchange = [&] {
+        for (const int category : samples) dates_[static_cast<std::size_t>(category)]->ExchangeDayAndMonth();
+        monthFirst_ = !monthFirst_;
+    };
+    if (DateAt(0).form != DateLabel::Form::DayOrMonth) return ascend();
+    if (QLocale().dateFormat(QLocale::ShortFormat).startsWith(QLatin1Char('M'))) exchange();
     if (ascend()) return true;
     exchange();
     return ascend();
@@ -167,56 +197,91 @@ bool CategorySequence::Ascend() {
 
 /// Numbers, or numbers that ascend evenly in short texts that are else the same.
 bool CategorySequence::AreNumbered() const {
-    bool areNumbers = true;
-    bool ascend = true;
-    std::int64_t before = 0;
-    std::int64_t step = 0;
-    const QString first = Text(0);
-    const std::optional<Numbered> alike = ReadNumbered(first);
-    for (int category = 0; category < count_ && (areNumbers || ascend); ++category) {
-        const QString label = Text(category);
-        bool isNumber = false;
-        static_cast<void>(label.toDouble(&isNumber));
-        areNumbers = areNumbers && isNumber;
-        const std::optional<Numbered> numbered = ReadNumbered(label);
-        ascend = ascend && numbered && numbered->before == alike->before && numbered->behind == alike->behind;
-        if (!ascend) continue;
-        if (category == 1) step = numbered->number - before;
-        ascend = category < 2 || (step != 0 && numbered->number - before == step);
-        before = numbered->number;
-    }
-    return areNumbers || ascend;
+    const std::vector<int> samples = Samples();
+    const auto isNumber = [this](int category) {
+        bool is = false;
+        static_cast<void>(Text(category).toDouble(&is));
+        return is;
+    };
+    if (isNumber(0)) return std::ranges::all_of(samples, isNumber);
+    const QString firstText = Text(0);
+    const std::optional<Numbered> first = ReadNumbered(firstText);
+    const QString secondText = count_ > 1 ? Text(1) : QString();
+    const std::optional<Numbered> second = ReadNumbered(secondText);
+    if (!first || !second || first->number == second->number) return false;
+    const std::int64_t step = second->number - first->number;
+    return std::ranges::all_of(samples, [&](int category) {
+        const QString text = Text(category);
+        const std::optional<Numbered> numbered = ReadNumbered(text);
+        return numbered && numbered->before == first->before && numbered->behind == first->behind &&
+               numbered->number == first->number + category * step;
+    });
 }
 
 int CategorySequence::OwnSteps() const {
     return kind_ == Kind::Numbers ? NiceSteps : kind_ == Kind::Dates ? static_cast<int>(DateSteps.size()) : 0;
 }
 
-bool CategorySequence::IsKept(int category, int step) const {
-    if (step >= OwnSteps()) return category % NiceStride(step - OwnSteps()) == 0;
-    if (kind_ == Kind::Numbers) return (firstNumber_ + category * numberStep_) % NiceStride(step) == 0;
-    const DateStep by = DateSteps[static_cast<std::size_t>(step)];
-    const DateLabel& date = dates_[static_cast<std::size_t>(category)];
-    return category == 0 ? Begins(date, by)
-                         : UnitOf(date, by) != UnitOf(dates_[static_cast<std::size_t>(category) - 1], by);
+std::vector<int> CategorySequence::NumbersAt(std::int64_t step, double most) const {
+    const std::int64_t common = std::gcd(numberStep_, step);
+    std::vector<int> categories;
+    if (firstNumber_ % common != 0 || count_ / static_cast<double>(step / common) > most + 1)
+        return categories;
+    std::int64_t category = 0;
+    while (category < count_ && (firstNumber_ + category * numberStep_) % step != 0) ++category;
+    for (; category < count_; category += step / common) categories.push_back(static_cast<int>(category));
+    return categories;
 }
 
-QString CategorySequence::TextAt(int category, int step) const {
-    const bool isDate = kind_ == Kind::Dates && step < OwnSteps();
-    return isDate ? ShortText(Text(category), dates_[static_cast<std::size_t>(category)],
-                              DateSteps[static_cast<std::size_t>(step)])
-                  : Text(category);
+/// The first category behind this one that stands in another of the units; the count where there is none.
+int CategorySequence::NextUnit(int category, int step) {
+    const DateStep by = DateSteps[static_cast<std::size_t>(step)];
+    const std::int64_t unit = UnitOf(DateAt(category), by);
+    // Dates ascend: by leaps of growing width, then by halves.
+    int same = category;
+    int leap = 1;
+    while (same + leap < count_ && UnitOf(DateAt(same + leap), by) == unit) {
+        same += leap;
+        leap *= 2;
+    }
+    int other = std::min(same + leap, count_);
+    while (other - same > 1) {
+        const int middle = same + (other - same) / 2;
+        (UnitOf(DateAt(middle), by) == unit ? same : other) = middle;
+    }
+    return other;
+}
+
+std::vector<int> CategorySequence::DatesAt(int step, double most) {
+    std::vector<int> categories;
+    if (Begins(DateAt(0), DateSteps[static_cast<std::size_t>(step)])) categories.push_back(0);
+    for (int next = NextUnit(0, step); next < count_; next = NextUnit(next, step)) {
+        categories.push_back(next);
+        if (static_cast<double>(categories.size()) > most) return categories;
+    }
+    return categories;
 }
 
 std::optional<std::vector<KeptCategory>> CategorySequence::Kept(int step, double most) {
-    if (kind_ == Kind::Unknown) kind_ = FindOut();
-    if (step >= OwnSteps() && NiceStride(step - OwnSteps()) >= count_) return std::nullopt;
+    if (count_ == 0) return std::nullopt;
+    FindOut();
     std::vector<int> categories;
-    for (int category = 0; category < count_; ++category)
-        if (IsKept(category, step)) categories.push_back(category);
+    if (step >= OwnSteps()) {
+        const std::int64_t stride = NiceStride(step - OwnSteps());
+        if (stride >= count_) return std::nullopt;
+        if (count_ / static_cast<double>(stride) <= most + 1)
+            for (std::int64_t category = 0; category < count_; category += stride)
+                categories.push_back(static_cast<int>(category));
+    } else {
+        categories = kind_ == Kind::Dates ? DatesAt(step, most) : NumbersAt(NiceStride(step), most);
+    }
     std::vector<KeptCategory> kept;
     if (categories.size() < 2 || static_cast<double>(categories.size()) > most) return kept;
-    for (const int category : categories) kept.push_back({category, TextAt(category, step)});
+    const bool areDates = kind_ == Kind::Dates && step < OwnSteps();
+    for (const int category : categories)
+        kept.push_back({category, areDates ? ShortText(Text(category), DateAt(category),
+                                                       DateSteps[static_cast<std::size_t>(step)])
+                                           : Text(category)});
     return kept;
 }
 

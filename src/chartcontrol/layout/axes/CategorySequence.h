@@ -24,7 +24,7 @@ struct KeptCategory {
 /// The labels of a category axis, and by which steps they may be thinned so that those that are left mean
 /// something: whole numbers that ascend evenly at multiples of 1, 2, 5, 10 and so on, dates where a week, a
 /// month, a year and so on begins, all others at every 2nd, 5th, 10th and so on from the first. What they are
-/// is found out when it is first asked for.
+/// is found out when it is first asked for, of a great many by samples.
 class CategorySequence {
 public:
     CategorySequence(int count, std::function<QString(int)> text) : count_(count), text_(std::move(text)) {}
@@ -43,13 +43,17 @@ private:
     /// another.
     enum class Kind { Unknown, Names, Numbers, Dates, Others };
 
-    [[nodiscard]] Kind FindOut();
+    void FindOut();
+    [[nodiscard]] Kind KindOf();
+    [[nodiscard]] std::vector<int> Samples() const;
     [[nodiscard]] bool AreNumbers();
-    [[nodiscard]] bool ReadDates();
+    [[nodiscard]] bool AreDates();
     [[nodiscard]] bool Ascend();
     [[nodiscard]] bool AreNumbered() const;
-    [[nodiscard]] bool IsKept(int category, int step) const;
-    [[nodiscard]] QString TextAt(int category, int step) const;
+    [[nodiscard]] const DateLabel& DateAt(int category);
+    [[nodiscard]] int NextUnit(int category, int step);
+    [[nodiscard]] std::vector<int> NumbersAt(std::int64_t step, double most) const;
+    [[nodiscard]] std::vector<int> DatesAt(int step, double most);
     [[nodiscard]] int OwnSteps() const;
 
     int count_;
@@ -57,7 +61,9 @@ private:
     Kind kind_ = Kind::Unknown;
     std::int64_t firstNumber_ = 0;
     std::int64_t numberStep_ = 1;
-    std::vector<DateLabel> dates_;
+    /// As far as they were read.
+    std::vector<std::optional<DateLabel>> dates_;
+    bool monthFirst_ = false;
 };
 
 } // namespace QmChart6

@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/data/XYPairs.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace QmChart6 {
 
@@ -42,12 +43,17 @@ void IncludePairs(PlotDemand& demand, const Chart& chart, int number) {
 /// Ranges wider than this are never divided into steps of less than one.
 constexpr double WidestOfParts = 12;
 
+/// Larger values than this have no parts anyway.
+constexpr double LargestWithParts = 1e15;
+
 bool MightHaveParts(const ValueRange& range) {
-    return !range.IsEmpty() && range.high / 2 - range.low / 2 <= WidestOfParts / 2;
+    return !range.IsEmpty() && range.low > -LargestWithParts && range.high < LargestWithParts &&
+           range.high - range.low <= WidestOfParts;
 }
 
+/// Of a value within those limits, or a missing one.
 bool IsWhole(double value) {
-    return std::isnan(value) || value == std::nearbyint(value);
+    return std::isnan(value) || value == static_cast<double>(static_cast<std::int64_t>(value));
 }
 
 bool AreWhole(const Values& values) {

@@ -77,14 +77,18 @@ int DecimalsOf(double value, int most = MostDecimals) {
     return decimals;
 }
 
+QString PlainFormat(int decimals, bool grouped) {
+    const QString whole = grouped ? QStringLiteral("#,##0") : QStringLiteral("0");
+    return decimals == 0 ? whole : whole + QLatin1Char('.') + QString(decimals, QLatin1Char('0'));
+}
+
 QString PlainText(double value, int decimals, bool grouped) {
-    QString format = grouped ? QStringLiteral("#,##0") : QStringLiteral("0");
-    if (decimals > 0) format += QLatin1Char('.') + QString(decimals, QLatin1Char('0'));
-    return FormatNumber(value, format);
+    return FormatNumber(value, PlainFormat(decimals, grouped));
 }
 
 /// A value in units of a power of ten, which need not be a double.
 double InUnits(double value, int exponent) {
+    if (exponent == 0) return value;
     const int half = exponent / 2;
     return value / std::pow(10.0, half) / std::pow(10.0, exponent - half);
 }
@@ -95,6 +99,7 @@ int ExponentOf(double value) {
 
 /// The power of a thousand that the ticks are told in.
 int UnitOf(double largest, double step) {
+    if (largest < UnitsFrom && step >= SmallestPlainStep) return 0;
     const int exponent = 3 * static_cast<int>(std::floor(ExponentOf(largest) / 3.0));
     if (largest >= LargestPlain) return exponent;
     if (largest >= UnitsFrom) return DecimalsOf(InUnits(step, exponent)) <= MostDecimalsOfUnit ? exponent : 0;
@@ -133,9 +138,9 @@ TickTexts TextsOfEvenTicks(const std::vector<double>& ticks) {
     if (!(step > 0)) return {};
     const int exponent = UnitOf(largest, 2 * step);
     const int decimals = DecimalsOfTicks(InUnits(ticks[0], exponent), 2 * InUnits(step, exponent));
-    const bool grouped = InUnits(largest, exponent) >= GroupingFrom;
+    const QString format = PlainFormat(decimals, InUnits(largest, exponent) >= GroupingFrom);
     TickTexts texts;
-    for (const double tick : ticks) texts.labels += PlainText(InUnits(tick, exponent), decimals, grouped);
+    for (const double tick : ticks) texts.labels += FormatNumber(InUnits(tick, exponent), format);
     texts.unit = UnitText(exponent);
     return texts;
 }

@@ -99,6 +99,10 @@ private:
     void PlanValues(double length) {
         plan_.primary =
             PlanValueAxis(context_, AxisOf(AxisId::Y), {demand_.primary, demand_.keepZero, length, false});
+        if (!demand_.usesSecondary && !Shown(AxisId::SecondaryY)) {
+            plan_.secondary = plan_.primary;
+            return;
+        }
         plan_.secondary = PlanValueAxis(
             context_, AxisOf(AxisId::SecondaryY),
             {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
