@@ -3,6 +3,7 @@
 #include "config/Catalogue.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
+#include "config/LookNames.h"
 #include "config/LookOverride.h"
 #include "config/StoredLook.h"
 #include "config/Viewer.h"
