@@ -256,6 +256,19 @@ void AddSpaceViews(std::vector<Sample>& samples) {
                                    }});
 }
 
+/// Values from 0.4 to 40,000, one of them not above zero.
+Chart Logarithmic(ChartType type) {
+    Chart chart = ChartOf(9, 2, [](int row, int column) {
+        return row == 5 && column == 2 ? 0.0 : column * 0.4 * std::pow(4.0, row - 1);
+    });
+    chart.SetChartType(type);
+    for (const AxisId id : {AxisId::X, AxisId::Y})
+        chart.Plot.Axis(id).AxisScale.Type = ScaleType::Logarithmic;
+    for (Series& series : chart.Plot.SeriesCollection) series.SeriesMarker.Show = true;
+    chart.Plot.SeriesCollection(1).StatLine.Flag = StatMean | StatRegression;
+    return chart;
+}
+
 Chart WithoutValues(int rows, int columns) {
     return ChartOf(rows, columns, [](int, int) { return Missing(); });
 }
@@ -361,6 +374,16 @@ std::vector<Sample> Flat() {
         {"pie-plain", 480, 360, [] { return Pies(3, 5, L::None); }},
         {"xy-pairs", 640, 420, [] { return Scatter(4); }},
         {"xy-unpaired", 640, 420, [] { return Scatter(3); }},
+        {"bar-logarithmic", 480, 320, [] { return Logarithmic(T::Bar2D); }},
+        {"line-logarithmic", 480, 320, [] { return Logarithmic(T::Line2D); }},
+        {"xy-logarithmic", 480, 320, [] { return Logarithmic(T::XY2D); }},
+        {"bar-3d-logarithmic", 480, 320, [] { return Logarithmic(T::Bar3D); }},
+        {"area-logarithmic-stacked", 480, 320,
+         [] {
+             Chart chart = Logarithmic(T::Area2D);
+             chart.Stacking = true;
+             return chart;
+         }},
         {"one-by-one", 400, 300, [] { return ChartOf(1, 1, [](int, int) { return 42.0; }); }},
         {"one-row", 400, 300, [] { return ChartOf(1, 5, Wave); }},
         {"one-column", 400, 300, [] { return ChartOf(5, 1, Wave); }},

@@ -126,6 +126,7 @@ QByteArray ShapeText(const Scene& scene, const Shape& shape) {
         text += ", \"fill\": [" + Integer(static_cast<int>(shape.fill.style)) + ", " +
                 Integer(shape.fill.index) + ", " + QuotedColour(shape.fill.colour) + ", " +
                 QuotedColour(shape.fill.patternColour) + "]";
+        if (shape.fill.opacity < 1) text += ", \"opacity\": " + Number(shape.fill.opacity);
     }
     if (shape.clip != NoClip) text += ", \"clip\": " + Integer(shape.clip);
     if (shape.crisp) text += ", \"crisp\": true";

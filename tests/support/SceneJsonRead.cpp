@@ -150,7 +150,7 @@ Shape ReadShape(const Reader& reader, Scene& scene) {
         const QJsonArray fill = reader.Array("fill", 4);
         shape.fill = {static_cast<BrushStyle>(reader.ToInteger(fill[0], "fill", 0, 3)),
                       reader.ToInteger(fill[1], "fill", -Any, Any), reader.ToColour(fill[2], "fill"),
-                      reader.ToColour(fill[3], "fill")};
+                      reader.ToColour(fill[3], "fill"), reader.Has("opacity") ? reader.Number("opacity") : 1};
     }
     if (reader.Has("clip")) shape.clip = reader.Integer("clip", 0, static_cast<int>(scene.clips.size()) - 1);
     shape.crisp = reader.Has("crisp");

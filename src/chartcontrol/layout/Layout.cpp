@@ -1,7 +1,9 @@
 #include "chartcontrol/layout/Layout.h"
 
+#include "chartcontrol/layout/data/DarkGround.h"
 #include "chartcontrol/layout/data/LayoutContext.h"
 #include "chartcontrol/layout/flat/CartesianLayout.h"
+#include "chartcontrol/layout/flat/DirectNames.h"
 #include "chartcontrol/layout/pie/PieLayout.h"
 #include "chartcontrol/layout/space/SpaceLayout.h"
 #include "chartcontrol/layout/text/BackdropLayout.h"
@@ -10,6 +12,7 @@
 #include "chartcontrol/model/ChartKinds.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace QmChart6 {
@@ -45,28 +48,61 @@ PointPlaces LayOutPlot(const LayoutContext& context, const Box& box) {
                              : PointPlaces(FlatPlaces(std::move(plot)));
 }
 
-} // namespace
+/// A legend that is asked for; or one in place of names that do not fit at the ends of their lines.
+bool NeedsLegend(const LayoutContext& context, const Box& free) {
+    if (context.chart.ShowLegend) return true;
+    const bool named = context.chart.Plot.DirectNames && context.chart.Plot.SeriesCollection.Count() > 1;
+    return named && !(DirectNamesWidth(context, free) > 0);
+}
 
-LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+/// What of title, footnote and legend is drawn; a small picture does without some, so that it shows the plot.
+enum class Surroundings { All, NoLegend, None };
+
+/// Less room than this is too little for a plot that has other things round it. Points.
+constexpr Size LeastPlot{24, 16};
+/// So is less than this part of the picture.
+constexpr double LeastShare = 0.4;
+
+/// Nothing where what stands round the plot would leave too little of it.
+std::optional<LaidOutChart> LayOutWith(const Chart& chart, const LayoutRequest& request,
+                                       const TextMeasurer& measurer, Surroundings around) {
     LaidOutChart laidOut;
     laidOut.scene.size = request.size;
-    if (!(request.size.width >= 1 && request.size.height >= 1)) return laidOut;
     SceneBuilder builder(laidOut.scene);
     const LayoutContext context{chart, request, measurer, builder};
     const Box whole{0, 0, request.size.width, request.size.height};
     LayOutBackdrop(builder, {PartCode::Chart}, chart.Backdrop, whole);
     const double margin = std::min(Margin, MarginShare * std::min(request.size.width, request.size.height));
     Box free = whole.Grown(-(FrameDepth(chart.Backdrop.Frame) + margin));
-    LayOutTitle(context, chart.Title, PartCode::Title, free);
-    LayOutTitle(context, chart.Footnote, PartCode::Footnote, free);
-    LayOutLegend(context, free);
+    if (around != Surroundings::None) {
+        LayOutTitle(context, chart.Title, PartCode::Title, free);
+        LayOutTitle(context, chart.Footnote, PartCode::Footnote, free);
+    }
+    if (around == Surroundings::All && NeedsLegend(context, free)) LayOutLegend(context, free);
     const Box box = PlotBox(chart, free, whole);
+    const bool isSmall =
+        chart.Plot.AutoLayout && (box.Width() < std::max(LeastPlot.width, LeastShare * whole.Width()) ||
+                                  box.Height() < std::max(LeastPlot.height, LeastShare * whole.Height()));
+    if (isSmall && around != Surroundings::None) return std::nullopt;
+    if (around != Surroundings::All)
+        builder.Warn(QStringLiteral("the chart is too small for what stands round its plot"));
     if (box.Width() < 1 || box.Height() < 1) {
         builder.Warn(QStringLiteral("the chart is too small for its plot"));
         return laidOut;
     }
     laidOut.places = LayOutPlot(context, box);
     return laidOut;
+}
+
+} // namespace
+
+LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
+    if (!(request.size.width >= 1 && request.size.height >= 1)) return {{request.size, {}, {}, {}, {}}, {}};
+    const std::optional<Chart> dressed = DressedForDark(chart);
+    const Chart& drawn = dressed ? *dressed : chart;
+    for (const Surroundings around : {Surroundings::All, Surroundings::NoLegend})
+        if (auto laidOut = LayOutWith(drawn, request, measurer, around)) return std::move(*laidOut);
+    return LayOutWith(drawn, request, measurer, Surroundings::None).value();
 }
 
 } // namespace QmChart6

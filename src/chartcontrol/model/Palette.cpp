@@ -7,14 +7,16 @@ namespace QmChart6 {
 namespace {
 
 constexpr std::array<Colour, PaletteSize> Colours{{
-    {30, 130, 245},
-    {219, 125, 12},
-    {45, 122, 101},
-    {209, 15, 37},
-    {123, 36, 205},
-    {25, 68, 135},
-    {155, 135, 165},
-    {124, 39, 67},
+    {47, 98, 151},   // blue
+    {181, 121, 8},   // amber
+    {2, 161, 109},   // green
+    {160, 15, 18},   // red
+    {73, 54, 134},   // violet
+    {57, 131, 134},  // teal
+    {220, 111, 182}, // pink
+    {116, 110, 46},  // olive
+    {3, 50, 92},     // navy
+    {100, 83, 80},   // brown
 }};
 
 /// The hatches that tell the second and later rounds of the palette from the first: down diagonal, up

@@ -5,8 +5,9 @@
 namespace QmChart6 {
 
 /// How many colours the control's own palette holds. All keep 3 : 1 against white (WCAG 2.1, 1.4.11) and stay
-/// apart for people with any of the three colour-vision deficiencies.
-inline constexpr int PaletteSize = 8;
+/// apart for people with any of the three colour-vision deficiencies (as simulated by Machado, Oliveira and
+/// Fernandes, 2009) and, in lightness, when printed in grey.
+inline constexpr int PaletteSize = 10;
 
 /// Colour of series `number` (from 1); the palette starts over after PaletteSize.
 Colour PaletteColour(int number);

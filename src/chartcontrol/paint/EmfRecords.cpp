@@ -32,9 +32,13 @@ enum RecordType : std::uint32_t {
     RestoreState = 34,
     SelectObject = 37,
     CreateBrushIndirect = 39,
+    BeginPath = 59,
+    EndPath = 60,
+    SelectClipPath = 67,
     ExtCreateFontIndirect = 82,
     ExtTextOut = 84,
     ExtCreatePen = 95,
+    AlphaBlend = 114,
 };
 
 constexpr double UnitsPerPoint = TwipsPerPoint;
@@ -192,8 +196,13 @@ void EmfRecords::Pair(std::uint32_t type, std::int32_t first, std::int32_t secon
     record.I32(second);
 }
 
+/// A record that says nothing but its type.
+void EmfRecords::Mark(std::uint32_t type) {
+    const Record record(*this, type);
+}
+
 void EmfRecords::Save() {
-    const Record record(*this, SaveState);
+    Mark(SaveState);
 }
 
 void EmfRecords::Restore() {
@@ -202,6 +211,46 @@ void EmfRecords::Restore() {
 
 void EmfRecords::Clip(const Box& box) {
     Record(*this, IntersectClipRect).Rect(Unit(box.left), Unit(box.top), Unit(box.right), Unit(box.bottom));
+}
+
+void EmfRecords::ClipTo(std::span<const Point> outline) {
+    constexpr std::uint32_t intersect = 1;
+    Mark(BeginPath);
+    Polygon(outline);
+    Mark(EndPath);
+    Number(SelectClipPath, intersect);
+}
+
+/// A bitmap of one pixel of that colour, stretched.
+void EmfRecords::Blend(const Box& box, Colour colour, double opacity) {
+    constexpr std::uint32_t fixedSize = 108; // up to the bitmap
+    constexpr std::uint32_t headerSize = 40;
+    constexpr std::uint32_t pixelSize = 4;
+    Record record(*this, AlphaBlend);
+    record.Rect(Unit(box.left), Unit(box.top), Unit(box.right), Unit(box.bottom));
+    record.Rect(Unit(box.left), Unit(box.top), Unit(box.Width()), Unit(box.Height()));
+    record.U32(static_cast<std::uint32_t>(std::lround(opacity * 255)) << 16); // over, one opacity for all
+    record.I32(0);                                                            // from the pixel's corner
+    record.I32(0);
+    for (const float cell : {1.0F, 0.0F, 0.0F, 1.0F, 0.0F, 0.0F}) record.F32(cell);
+    record.U32(0xffffff); // ground of the bitmap
+    record.U32(0);        // colours as they are
+    record.U32(fixedSize);
+    record.U32(headerSize);
+    record.U32(fixedSize + headerSize);
+    record.U32(pixelSize);
+    record.I32(1);
+    record.I32(1);
+    record.U32(headerSize);
+    record.I32(1);
+    record.I32(1);
+    record.U16(1);  // plane
+    record.U16(32); // bits
+    record.Zeros(24);
+    record.U8(colour.Blue);
+    record.U8(colour.Green);
+    record.U8(colour.Red);
+    record.U8(0);
 }
 
 std::uint32_t EmfRecords::CreatePen(Colour colour, double width) {

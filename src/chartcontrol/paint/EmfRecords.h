@@ -26,6 +26,10 @@ public:
     void Save();
     void Restore();
     void Clip(const Box& box);
+    /// What of the present clip lies within an outline.
+    void ClipTo(std::span<const Point> outline);
+    /// Lays a colour over a box, with an opacity from 0 to 1.
+    void Blend(const Box& box, Colour colour, double opacity);
 
     [[nodiscard]] std::uint32_t CreatePen(Colour colour, double width);
     [[nodiscard]] std::uint32_t CreateBrush(Colour colour);
@@ -48,6 +52,7 @@ private:
 
     static std::int32_t Unit(double points);
     void Header(const Size& size);
+    void Mark(std::uint32_t type);
     void Number(std::uint32_t type, std::uint32_t value);
     void Pair(std::uint32_t type, std::int32_t first, std::int32_t second);
     void Points(std::uint32_t type, std::span<const Point> points);

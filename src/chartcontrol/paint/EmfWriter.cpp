@@ -140,12 +140,25 @@ private:
         const bool none = fill.style == BrushStyle::None;
         const bool plainStroke = stroke.style != PenStyle::None && !IsDashed(stroke.style);
         if (patterned) Pieces(PiecesOf(fill, outline), outline);
+        if (!none && !patterned && fill.opacity < 1) {
+            Translucent(outline);
+            Stroked(outline, true);
+            return;
+        }
         if (plainStroke || (!none && !patterned)) {
             SelectBrush(none || patterned ? EmfRecords::StockNoBrush : BrushOf(fill.colour));
             SelectPen(plainStroke ? PenOf(stroke.colour, stroke.width) : EmfRecords::StockNoPen);
             file_.Polygon(outline);
         }
         if (IsDashed(stroke.style)) Stroked(outline, true);
+    }
+
+    void Translucent(std::span<const Point> outline) {
+        file_.Save();
+        file_.ClipTo(outline);
+        file_.Blend(Box::Around(outline), shape_->fill.colour, shape_->fill.opacity);
+        file_.Restore();
+        pen_ = brush_ = font_ = 0;
     }
 
     void Outlined(const TextLine& text) {

@@ -29,7 +29,7 @@ bool PixelPolygon::Takes(const Box& bounds) const {
            bottom <= clip.bottom() + 1 && (right - left + Rim) * (bottom - top + Rim) <= LargestArea;
 }
 
-void PixelPolygon::Fill(std::span<const Point> outline, Colour colour) {
+void PixelPolygon::Fill(std::span<const Point> outline, Colour colour, double opacity) {
     if (outline.size() < 3) return;
     Begin(Box::Around(outline));
     Place before = PlaceOf(outline.back());
@@ -38,7 +38,7 @@ void PixelPolygon::Fill(std::span<const Point> outline, Colour colour) {
         Edge(before, place);
         before = place;
     }
-    Sweep(colour);
+    Sweep(colour, opacity);
 }
 
 void PixelPolygon::Line(Point from, Point to, double width, Colour colour) {
@@ -163,7 +163,8 @@ void PixelPolygon::Quad(Place from, Place to, float half, float beyond) {
     Edge(corners[3], corners[0]);
 }
 
-void PixelPolygon::Sweep(Colour colour) {
+void PixelPolygon::Sweep(Colour colour, double opacity) {
+    const float full = FullCoverage * static_cast<float>(opacity);
     const QRgb rgb = RgbOf(colour);
     for (int row = 0; row < height_; ++row) {
         const Touched& touched = rows_[static_cast<std::size_t>(row)];
@@ -173,7 +174,7 @@ void PixelPolygon::Sweep(Colour colour) {
         for (int pixel = touched.first; pixel <= touched.last; ++pixel) {
             sum += sums[pixel];
             sums[pixel] = 0;
-            const auto coverage = static_cast<unsigned>(std::min(1.0F, std::abs(sum)) * FullCoverage);
+            const auto coverage = static_cast<unsigned>(std::min(1.0F, std::abs(sum)) * full);
             if (coverage >= 256)
                 line[pixel] = rgb;
             else if (coverage > 0)

@@ -19,7 +19,8 @@ public:
     /// large.
     [[nodiscard]] bool Takes(const Box& bounds) const;
 
-    void Fill(std::span<const Point> outline, Colour colour);
+    /// Opacity from 0 to 1.
+    void Fill(std::span<const Point> outline, Colour colour, double opacity = 1);
     /// A straight line with flat ends, its width in points.
     void Line(Point from, Point to, double width, Colour colour);
     /// A line through points, segment by segment; for thin lines, whose joins nobody sees.
@@ -43,7 +44,7 @@ private:
     void Edge(Place from, Place to);
     void EdgeInRow(int row, float from, float to, float height);
     void Quad(Place from, Place to, float half, float beyond);
-    void Sweep(Colour colour);
+    void Sweep(Colour colour, double opacity = 1);
 
     PixelTarget& target_;
     int left_ = 0;

@@ -72,16 +72,22 @@ void ScenePainter::SetNoPen() {
     SetPen(QPen(Qt::NoPen));
 }
 
-void ScenePainter::SetSolid(Colour colour) {
+void ScenePainter::SetSolid(const QColor& colour) {
     if (brush_ && *brush_ == colour) return;
-    painter_.setBrush(QtColourOf(colour));
+    painter_.setBrush(colour);
     brush_ = colour;
+}
+
+QColor ScenePainter::FillColour() const {
+    QColor colour = QtColourOf(shape_->fill.colour);
+    colour.setAlphaF(static_cast<float>(shape_->fill.opacity));
+    return colour;
 }
 
 void ScenePainter::SetNoBrush() {
     if (brush_ && !brush_->has_value()) return;
     painter_.setBrush(Qt::NoBrush);
-    brush_ = std::optional<Colour>();
+    brush_ = std::optional<QColor>();
 }
 
 void ScenePainter::SetFont(const Font& font) {
@@ -245,7 +251,7 @@ void ScenePainter::operator()(const Polygon& polygon) {
     if (patterned) {
         const HatchPieces pieces = PiecesOf(shape_->fill, points);
         SetNoPen();
-        SetSolid(pieces.ground);
+        SetSolid(QtColourOf(pieces.ground));
         painter_.drawPolygon(buffer_.data(), static_cast<int>(buffer_.size()), Qt::OddEvenFill);
         DrawPieces(pieces, RectOf(shape_->bounds));
         if (!Strokes()) return;
@@ -254,7 +260,7 @@ void ScenePainter::operator()(const Polygon& polygon) {
     if (patterned || shape_->fill.style == BrushStyle::None) {
         SetNoBrush();
     } else {
-        SetSolid(shape_->fill.colour);
+        SetSolid(FillColour());
     }
     if (Strokes()) {
         SetPen(PenOf(shape_->stroke, Qt::RoundJoin));
@@ -267,7 +273,7 @@ void ScenePainter::operator()(const Polygon& polygon) {
 void ScenePainter::operator()(const Rectangle& rectangle) {
     const QRectF rect = Snaps() ? SnappedRect(rectangle.box) : RectOf(rectangle.box);
     if (shape_->fill.style == BrushStyle::Solid) {
-        painter_.fillRect(rect, QtColourOf(shape_->fill.colour));
+        painter_.fillRect(rect, FillColour());
     } else if (shape_->fill.style != BrushStyle::None) {
         const Box box{rect.left() / scale_, rect.top() / scale_, rect.right() / scale_,
                       rect.bottom() / scale_};
@@ -300,7 +306,8 @@ bool ScenePainter::DrawInPixels(std::span<const Point> outline) {
     const bool plain = shape_->fill.style == BrushStyle::Solid || shape_->fill.style == BrushStyle::None;
     if (!polygons_ || !plain || IsDashed(shape_->stroke.style) || !polygons_->Takes(shape_->bounds))
         return false;
-    if (shape_->fill.style == BrushStyle::Solid) polygons_->Fill(outline, shape_->fill.colour);
+    if (shape_->fill.style == BrushStyle::Solid)
+        polygons_->Fill(outline, shape_->fill.colour, shape_->fill.opacity);
     if (Strokes()) polygons_->Outline(outline, shape_->stroke.width, shape_->stroke.colour);
     return true;
 }
@@ -322,12 +329,12 @@ void ScenePainter::operator()(const Slice& slice) {
 
 void ScenePainter::FillPath(const QPainterPath& path, std::span<const Point> outline) {
     if (shape_->fill.style == BrushStyle::Solid) {
-        SetSolid(shape_->fill.colour);
+        SetSolid(FillColour());
     } else {
         if (shape_->fill.style != BrushStyle::None) {
             const HatchPieces pieces = PiecesOf(shape_->fill, outline);
             SetNoPen();
-            SetSolid(pieces.ground);
+            SetSolid(QtColourOf(pieces.ground));
             painter_.drawPath(path);
             DrawPieces(pieces, path.boundingRect());
         }

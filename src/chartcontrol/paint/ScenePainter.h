@@ -7,6 +7,7 @@
 #include "chartcontrol/paint/PixelTarget.h"
 #include "chartcontrol/scene/Scene.h"
 
+#include <QColor>
 #include <QFont>
 #include <QPainterPath>
 #include <QPen>
@@ -38,7 +39,8 @@ private:
     void SetClip(int clip);
     void SetPen(const QPen& pen);
     void SetNoPen();
-    void SetSolid(Colour colour);
+    void SetSolid(const QColor& colour);
+    [[nodiscard]] QColor FillColour() const;
     void SetNoBrush();
     void ForgetState();
     void SetFont(const Font& font);
@@ -78,7 +80,7 @@ private:
 
     int clip_ = NoClip;
     std::optional<QPen> pen_;
-    std::optional<std::optional<Colour>> brush_; // unknown, none, or a colour
+    std::optional<std::optional<QColor>> brush_; // unknown, none, or a colour
     std::optional<Font> font_;
     std::vector<QPointF> buffer_;
     std::vector<Point> outline_;

@@ -14,7 +14,7 @@ void ScenePainter::DrawPieces(const HatchPieces& pieces, const QRectF& within) {
     }
     if (!pieces.polygons.empty()) {
         SetNoPen();
-        SetSolid(pieces.ink);
+        SetSolid(QtColourOf(pieces.ink));
     }
     for (const PointRun run : pieces.polygons) {
         TakePoints(pieces.PointsOf(run));

@@ -76,7 +76,7 @@ void ScenePainter::operator()(const MarkerRun& run) {
     const QPen pen = Strokes() ? PenOf(shape_->stroke, Qt::RoundJoin) : QPen(Qt::NoPen);
     const std::span<const Point> points = scene_.PointsOf(run.points);
     if (snaps_ && points.size() >= ManyMarkers) {
-        const QBrush brush = filled ? QBrush(QtColourOf(shape_->fill.colour)) : QBrush(Qt::NoBrush);
+        const QBrush brush = filled ? QBrush(FillColour()) : QBrush(Qt::NoBrush);
         MarkerStamps stamps(shape, brush, pen, painter_.deviceTransform().m11());
         if (pixels_ && points.size() >= VeryManyMarkers && stamps.IsSmall())
             for (const Point point : points)
@@ -90,7 +90,7 @@ void ScenePainter::operator()(const MarkerRun& run) {
     }
     SetPen(pen);
     if (filled) {
-        SetSolid(shape_->fill.colour);
+        SetSolid(FillColour());
     } else {
         SetNoBrush();
     }

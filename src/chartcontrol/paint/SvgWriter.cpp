@@ -203,6 +203,10 @@ private:
     static QByteArray Fill(bool none, Colour colour) {
         return none ? QByteArray(" fill=\"none\"") : " fill=\"" + ColourText(colour) + '"';
     }
+    [[nodiscard]] QByteArray Opacity() const {
+        return shape_->fill.opacity < 1 ? " fill-opacity=\"" + Number(shape_->fill.opacity) + '"'
+                                        : QByteArray();
+    }
     [[nodiscard]] QByteArray Strokes() const {
         const Stroke& stroke = shape_->stroke;
         if (stroke.style == PenStyle::None) return {};
@@ -229,7 +233,7 @@ private:
         if (fill.style != BrushStyle::Pattern && fill.style != BrushStyle::Hatch) {
             const bool none = fill.style == BrushStyle::None;
             if (none && shape_->stroke.style == PenStyle::None) return;
-            Element(name, geometry + Fill(none, fill.colour) + Strokes() + crisp);
+            Element(name, geometry + Fill(none, fill.colour) + Opacity() + Strokes() + crisp);
             return;
         }
         const HatchPieces pieces = PiecesOf(fill, outline);

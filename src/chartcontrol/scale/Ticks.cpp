@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace QmChart6 {
@@ -26,8 +27,10 @@ constexpr int MaximumCountFactor = 3;
 constexpr double SmallestRelativeRange = 1e-12;
 /// Below this values count as zero: their range could not be mapped onto points.
 constexpr double SmallestValue = 1e-300;
-/// Beyond this a range of two values would overflow.
-constexpr double LargestValue = 4e307;
+/// Beyond this a range of two values, or what the search makes of it, might overflow; the search is done in
+/// units of VastUnit then.
+constexpr double LargestValue = 1e300;
+constexpr double VastUnit = 1e300;
 
 struct Search {
     double low;
@@ -126,17 +129,33 @@ Ticks Fallback(double low, double high, const TickWish& wish) {
     return {first, step, std::max(2, static_cast<int>(std::ceil((high - first) / step)) + 1)};
 }
 
+/// Leaves out ticks that no double can be: the largest values lie outside the others.
+Ticks WithinDoubles(Ticks ticks, double low, double high) {
+    constexpr double most = std::numeric_limits<double>::max() / VastUnit;
+    while (ticks.count > 0 && ticks.first < -most) ticks.first += ticks.step, --ticks.count;
+    while (ticks.count > 0 && ticks.Last() > most) --ticks.count;
+    if (ticks.count >= 2) return ticks;
+    const double step = 1e308 / VastUnit;
+    return {high > -low ? 0 : -step, step, 2};
+}
+
 } // namespace
 
 double Ticks::At(int index) const {
-    const double value = first + step * index;
+    // By halves: of the vastest ticks the last is more than a double from the first.
+    const double value = 2 * (first / 2 + step / 2 * index);
     return std::abs(value) < step * 1e-9 ? 0 : value;
 }
 
 Ticks ChooseTicks(double low, double high, const TickWish& wish) {
     if (low > high) std::swap(low, high);
-    low = std::clamp(low, -LargestValue, LargestValue);
-    high = std::clamp(high, -LargestValue, LargestValue);
+    if (std::max(std::abs(low), std::abs(high)) > LargestValue) {
+        low /= VastUnit;
+        high /= VastUnit;
+        const Ticks ticks =
+            WithinDoubles(ChooseTicks(low, high, {wish.count, wish.unit / VastUnit}), low, high);
+        return {ticks.first * VastUnit, ticks.step * VastUnit, ticks.count};
+    }
     GiveExtent(low, high, wish.unit);
     Search search{low, high, {std::max(2, wish.count), wish.unit}, -2, {}};
     search.Run();

@@ -23,8 +23,8 @@ struct TickWish {
 
 /// The ticks that suit a range of values best and enclose it. The search and its weights are those of Talbot,
 /// Lin and Hanrahan, "An Extension of Wilkinson's Algorithm for Positioning Tick Labels on Axes" (InfoVis
-/// 2010), with labels outside the data only. A range without extent is widened round its value; `low` and
-/// `high` may come in any order and must be finite.
+/// 2010), with labels outside the data only; but no double lies outside the largest. A range without extent
+/// is widened round its value; `low` and `high` may come in any order and must be finite.
 Ticks ChooseTicks(double low, double high, const TickWish& wish);
 
 } // namespace QmChart6

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace QmChart6 {
@@ -47,6 +48,8 @@ struct Box {
     [[nodiscard]] bool Contains(Point point) const {
         return point.x >= left && point.x <= right && point.y >= top && point.y <= bottom;
     }
+    /// Whether all of its numbers, and its extent, are finite.
+    [[nodiscard]] bool IsFinite() const { return std::isfinite(right - left) && std::isfinite(bottom - top); }
     [[nodiscard]] Box Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
 
     void Include(Point point) {

@@ -112,6 +112,8 @@ struct SceneFill {
     int index = 0;
     Colour colour;
     Colour patternColour;
+    /// From 0 to 1; of solid fills alone.
+    double opacity = 1;
 
     friend bool operator==(const SceneFill&, const SceneFill&) = default;
 };

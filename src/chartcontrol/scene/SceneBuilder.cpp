@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace QmChart6 {
 
@@ -74,12 +75,31 @@ PointRun SceneBuilder::TakePoints() {
     return run;
 }
 
-Shape& SceneBuilder::Append(Part part, Geometry geometry, const Stroke& stroke, const SceneFill& fill,
-                            bool crisp) {
+void SceneBuilder::LeaveOut(const Geometry& geometry) {
+    const auto* line = std::get_if<Polyline>(&geometry);
+    const auto* polygon = std::get_if<Polygon>(&geometry);
+    const auto* markers = std::get_if<MarkerRun>(&geometry);
+    if (line != nullptr || polygon != nullptr || markers != nullptr) {
+        const PointRun& run = line != nullptr      ? line->points
+                              : polygon != nullptr ? polygon->points
+                                                   : markers->points;
+        scene_.points.resize(run.first);
+        taken_ = run.first;
+    }
+    const QString sentence = QStringLiteral("a place is no finite number: what stands there is not drawn");
+    if (!scene_.warnings.contains(sentence)) Warn(sentence);
+}
+
+void SceneBuilder::Append(Part part, Geometry geometry, const Stroke& stroke, const SceneFill& fill,
+                          bool crisp) {
     Shape shape{part, std::move(geometry), stroke, fill, clip_, crisp, {}};
     const double halfStroke = stroke.style == PenStyle::None ? 0 : stroke.width / 2;
     shape.bounds = std::visit(BoundsOfGeometry{scene_, halfStroke}, shape.geometry);
-    return scene_.shapes.emplace_back(std::move(shape));
+    const bool pointsAreFinite = std::exchange(pendingAreFinite_, true);
+    if (pointsAreFinite && shape.bounds.IsFinite())
+        scene_.shapes.push_back(std::move(shape));
+    else
+        LeaveOut(shape.geometry);
 }
 
 double WidthBeforeOrigin(const TextLine& text) {
@@ -113,11 +133,11 @@ Box BoundsOf(const TextLine& text) {
 }
 
 SceneFill SolidFill(Colour colour) {
-    return {BrushStyle::Solid, 0, colour, {}};
+    return {BrushStyle::Solid, 0, colour, {}, 1};
 }
 
 SceneFill FillOf(const Brush& brush) {
-    return {brush.Style, brush.Index, brush.FillColor, brush.PatternColor};
+    return {brush.Style, brush.Index, brush.FillColor, brush.PatternColor, 1};
 }
 
 Stroke StrokeOf(const Pen& pen) {

@@ -3,11 +3,14 @@
 #include "chartcontrol/scene/Scene.h"
 
 #include <array>
+#include <cmath>
 #include <optional>
+#include <span>
 
 namespace QmChart6 {
 
-/// Appends shapes to a scene and keeps what belongs together right: bounds, point runs, the current clip.
+/// Appends shapes to a scene and keeps what belongs together right: bounds, point runs, the current clip. A
+/// shape with a coordinate that is no finite number is not added; a warning tells of it.
 class SceneBuilder {
 public:
     explicit SceneBuilder(Scene& scene) : scene_(scene) {}
@@ -19,9 +22,16 @@ public:
     void SetClip(std::optional<Box> clip);
 
     /// Points go in one by one between Begin and the shape that takes them.
-    void AddPoint(Point point) { scene_.points.push_back(point); }
+    void AddPoint(Point point) {
+        pendingAreFinite_ = pendingAreFinite_ && std::isfinite(point.x + point.y);
+        scene_.points.push_back(point);
+    }
     [[nodiscard]] std::size_t PendingPoints() const { return scene_.points.size() - taken_; }
-    void DropPendingPoints() { scene_.points.resize(taken_); }
+    [[nodiscard]] std::span<const Point> Pending() const { return std::span(scene_.points).subspan(taken_); }
+    void DropPendingPoints() {
+        scene_.points.resize(taken_);
+        pendingAreFinite_ = true;
+    }
 
     // Take all pending points. Without any, nothing is added.
     void AddPolyline(Part part, const Stroke& stroke, bool crisp = false);
@@ -40,10 +50,12 @@ public:
 
 private:
     PointRun TakePoints();
-    Shape& Append(Part part, Geometry geometry, const Stroke& stroke, const SceneFill& fill, bool crisp);
+    void LeaveOut(const Geometry& geometry);
+    void Append(Part part, Geometry geometry, const Stroke& stroke, const SceneFill& fill, bool crisp);
 
     Scene& scene_;
     std::size_t taken_ = 0;
+    bool pendingAreFinite_ = true;
     int clip_ = NoClip;
 };
 

@@ -1,4 +1,5 @@
 #include "base/Units.h"
+#include "chartcontrol/model/ChartKinds.h"
 #include "unit/layout/LayoutSupport.h"
 
 #include <gtest/gtest.h>
@@ -88,6 +89,21 @@ TEST_P(EverySample, SurvivesEverySizeFromNothingOn) {
                 ASSERT_TRUE(std::isfinite(shape.bounds.left) && std::isfinite(shape.bounds.right))
                     << width << " by " << height;
         }
+}
+
+TEST_P(EverySample, KeepsItsPlotInSmallPictures) {
+    const Chart chart = GetParam().make();
+    for (const Size& size : {Size{90, 67.5}, {67.5, 90}, {45, 37.5}, {30, 30}}) {
+        const Scene scene = LaidOut(chart, size);
+        Box drawn = Box::Nothing();
+        for (const Shape& shape : scene.shapes)
+            if (shape.part.code == PartCode::Plot || shape.part.code == PartCode::Series)
+                drawn.Include(shape.bounds);
+        if (chart.CategoryCount() == 0 && KindOf(chart.chartType()).form != ChartForm::Flat) continue;
+        EXPECT_GE(drawn.Width(), 0.25 * size.width) << size.width;
+        EXPECT_GE(drawn.Height(), 0.2 * size.height) << size.width;
+        EXPECT_LE(drawn.bottom, size.height + 1) << size.width;
+    }
 }
 
 TEST_P(EverySample, GivesTheSameSceneTwice) {

@@ -1,6 +1,7 @@
 #include "unit/layout/LayoutSupport.h"
 
 #include "chartcontrol/layout/data/DataPointHit.h"
+#include "chartcontrol/layout/data/XYPairs.h"
 #include "chartcontrol/model/ChartKinds.h"
 #include "chartcontrol/scene/Outline.h"
 
@@ -31,6 +32,7 @@ public:
         if (Between(0, 3) == 0) chart.SetDataSeriesInRow(true);
         if (KindOf(type).stacks) chart.Stacking = Between(0, 2) == 0;
         if (Between(0, 4) == 0) chart.Plot.Axis(AxisId::Y).AxisScale.Type = ScaleType::Percent;
+        if (Between(0, 4) == 0) MakeLogarithmic();
         chart.Plot.Projection = Between(0, 1) == 0 ? Projection::Oblique : Projection::Orthogonal;
         chart.Plot.View3d = {Between(0, 359) * 1.0, Between(5, 60) * 1.0};
         for (Series& series : chart.Plot.SeriesCollection) {
@@ -44,6 +46,11 @@ public:
     Chart chart;
 
 private:
+    void MakeLogarithmic() {
+        chart.Plot.Axis(AxisId::Y).AxisScale.Type = ScaleType::Logarithmic;
+        if (Between(0, 1) == 0) chart.Plot.Axis(AxisId::X).AxisScale.Type = ScaleType::Logarithmic;
+        if (Between(0, 1) == 0) chart.Plot.Axis(AxisId::SecondaryY).AxisScale.Type = ScaleType::Logarithmic;
+    }
     int Between(int least, int greatest) { return std::uniform_int_distribution(least, greatest)(random_); }
     double Cell() {
         return Between(0, 3) == 0 ? Samples::Missing()
@@ -52,6 +59,22 @@ private:
 
     std::mt19937 random_;
 };
+
+/// Whether a value can be drawn: on a logarithmic axis only where it is above zero.
+bool HasRoom(const Chart& chart, DataPointHit point) {
+    const auto fits = [&](AxisId axis, double value) {
+        return value > 0 || chart.Plot.Axis(axis).AxisScale.Type != ScaleType::Logarithmic;
+    };
+    const int index = point.category - 1;
+    const double value = chart.SeriesValues(point.series)[index];
+    const ChartKind& kind = KindOf(chart.chartType());
+    if (kind.form == ChartForm::Pies) return value > 0;
+    const AxisId upright =
+        chart.Plot.SeriesCollection(point.series).SecondaryAxis ? AxisId::SecondaryY : AxisId::Y;
+    if (!kind.pairsColumns) return fits(upright, value);
+    const XYPairs pairs(chart, point.series);
+    return fits(AxisId::X, pairs.X(index)) && fits(upright, pairs.Y(index));
+}
 
 bool IsSame(Point one, Point other) {
     return std::abs(one.x - other.x) < Rounding && std::abs(one.y - other.y) < Rounding;
@@ -90,10 +113,11 @@ private:
         return middles;
     }
     /// Tapes run from point to point, their middle through the depth; an area's front along its tops, and
-    /// back along its bases.
+    /// back along its bases, but of piled ones not from point to point where values change sign.
     [[nodiscard]] std::vector<Point> OfFace(Mark mark, Part part, PointRun run) const {
         std::vector<Point> corners = Points(run);
         if (mark == Mark::Area && part.index2 == 0) {
+            if (chart_.Stacking) return {};
             corners.resize(corners.size() / 2);
             return corners;
         }
@@ -102,8 +126,8 @@ private:
         return {};
     }
     [[nodiscard]] bool IsAlone(DataPointHit point) const {
-        return !HasValue(chart_, {point.series, point.category - 1}) &&
-               !HasValue(chart_, {point.series, point.category + 1});
+        return !laidOut_.places.At({point.series, point.category - 1}) &&
+               !laidOut_.places.At({point.series, point.category + 1});
     }
 
     const LaidOutChart& laidOut_;
@@ -164,11 +188,9 @@ TEST_P(EveryKind, DrawsVerticesWhereItsPointsAre) {
 
 TEST_P(EveryKind, HasAPlaceForEveryPointWithAValue) {
     ForRandomCharts([&](const Chart& chart, const LaidOutChart& laidOut) {
-        const bool pies = KindOf(chart.chartType()).form == ChartForm::Pies;
-        for (const DataPointHit& point : PointsWithValues(chart)) {
-            const bool isDrawn = !pies || chart.SeriesValues(point.series)[point.category - 1] > 0;
-            ASSERT_EQ(laidOut.places.At(point).has_value(), isDrawn) << point.series << ' ' << point.category;
-        }
+        for (const DataPointHit& point : PointsWithValues(chart))
+            ASSERT_EQ(laidOut.places.At(point).has_value(), HasRoom(chart, point))
+                << point.series << ' ' << point.category;
     });
 }
 

@@ -1,5 +1,5 @@
 #include "chartcontrol/scale/Ticks.h"
-#include "chartcontrol/scale/LinearMap.h"
+#include "chartcontrol/scale/AxisMap.h"
 
 #include <gtest/gtest.h>
 
@@ -75,8 +75,8 @@ TEST(Ticks, TheWidestRangeStaysFinite) {
     EXPECT_TRUE(std::isfinite(ticks.Last()));
 }
 
-TEST(LinearMap, MapsEndsOntoEnds) {
-    const LinearMap map{10, 20, 300, 100};
+TEST(AxisMap, MapsEndsOntoEnds) {
+    const AxisMap map{10, 20, 300, 100};
     EXPECT_DOUBLE_EQ(map.At(10), 300);
     EXPECT_DOUBLE_EQ(map.At(20), 100);
     EXPECT_DOUBLE_EQ(map.At(15), 200);

@@ -27,19 +27,27 @@ void GridAt(const LayoutContext& context, AxisId id, const Box& box, double plac
         context.builder.AddLine(AxisPart(id), {box.left, place}, {box.right, place}, stroke);
 }
 
-void UprightGrid(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const LinearMap& map,
+void UprightGrid(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const AxisMap& map,
                  const Box& box) {
-    for (int i = 0; i < plan.ticks.count; ++i) GridAt(context, id, box, map.At(plan.ticks.At(i)));
+    for (const ValueAxisPlan::Tick& tick : plan.ticks) GridAt(context, id, box, map.At(tick.value));
 }
 
+/// Between all categories; where they are too close for that, before those that have a label.
 void CategoryGrid(const LayoutContext& context, const AxesPlan& plan) {
     const PlotArea& area = plan.area;
-    const int stride = area.slot >= ClosestGrid ? 1 : std::max(1, plan.categories.stride);
-    if (stride * area.slot < ClosestGrid) return;
     const double edge = area.firstX > area.box.left ? area.box.left : area.firstX;
-    const double pitch = stride * area.slot;
-    const int lines = static_cast<int>((area.box.right + 1e-6 - edge) / pitch);
-    for (int line = 0; line <= lines; ++line) GridAt(context, AxisId::X, area.box, edge + line * pitch);
+    if (area.slot >= ClosestGrid) {
+        const int lines = static_cast<int>((area.box.right + 1e-6 - edge) / area.slot);
+        for (int line = 0; line <= lines; ++line)
+            GridAt(context, AxisId::X, area.box, edge + line * area.slot);
+        return;
+    }
+    double before = -ClosestGrid;
+    for (const CategoryLabelPlan::Label& label : plan.categories.labels) {
+        const double place = edge + label.category * area.slot;
+        if (place - before >= ClosestGrid) GridAt(context, AxisId::X, area.box, place);
+        before = place;
+    }
 }
 
 void AxisLine(const LayoutContext& context, AxisId id, Point from, Point to) {
@@ -47,21 +55,21 @@ void AxisLine(const LayoutContext& context, AxisId id, Point from, Point to) {
     if (pen.Style != PenStyle::None) context.builder.AddLine(AxisPart(id), from, to, StrokeOf(pen));
 }
 
-void UprightLabels(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const LinearMap& map,
+void UprightLabels(const LayoutContext& context, AxisId id, const ValueAxisPlan& plan, const AxisMap& map,
                    const Box& box) {
     const Axis& axis = context.chart.Plot.Axis(id);
     const bool atLeft = id == AxisId::Y;
     const double x = atLeft ? box.left - AxesPlan::LabelGap(axis) : box.right + AxesPlan::LabelGap(axis);
-    for (int i = 0; i < plan.ticks.count; ++i) {
-        const ValueAxisPlan::Label& label = plan.labels[static_cast<std::size_t>(i)];
-        const double y = map.At(plan.ticks.At(i)) + (plan.line.ascent - plan.line.descent) / 2;
-        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), i + 1},
-                                {label.text,
+    int index = 0;
+    for (const ValueAxisPlan::Tick& tick : plan.ticks) {
+        const double y = map.At(tick.value) + (plan.line.ascent - plan.line.descent) / 2;
+        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), ++index},
+                                {tick.text,
                                  axis.Labels.Item(1).VtFont,
                                  {x, y},
                                  atLeft ? TextAnchor::End : TextAnchor::Start,
                                  0,
-                                 label.width,
+                                 tick.width,
                                  plan.line.ascent,
                                  plan.line.descent});
     }
@@ -69,16 +77,16 @@ void UprightLabels(const LayoutContext& context, AxisId id, const ValueAxisPlan&
 
 void AcrossLabels(const LayoutContext& context, const AxesPlan& plan) {
     const Axis& axis = context.chart.Plot.Axis(AxisId::X);
-    const double y = plan.area.box.bottom + AxesPlan::LabelGap(axis) + plan.across.line.ascent;
-    for (int i = 0; i < plan.across.ticks.count; ++i) {
-        const ValueAxisPlan::Label& label = plan.across.labels[static_cast<std::size_t>(i)];
-        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(AxisId::X), i + 1},
-                                {label.text,
+    const double y = plan.area.box.bottom + plan.gapBelow + plan.across.line.ascent;
+    int index = 0;
+    for (const ValueAxisPlan::Tick& tick : plan.across.ticks) {
+        context.builder.AddText({PartCode::AxisLabel, static_cast<int>(AxisId::X), ++index},
+                                {tick.text,
                                  axis.Labels.Item(1).VtFont,
-                                 {plan.area.across.At(plan.across.ticks.At(i)), y},
+                                 {plan.area.across.At(tick.value), y},
                                  TextAnchor::Middle,
                                  0,
-                                 label.width,
+                                 tick.width,
                                  plan.across.line.ascent,
                                  plan.across.line.descent});
     }
@@ -86,27 +94,43 @@ void AcrossLabels(const LayoutContext& context, const AxesPlan& plan) {
 
 void CategoryAxis(const LayoutContext& context, const AxesPlan& plan) {
     const Box& box = plan.area.box;
-    const Axis& axis = context.chart.Plot.Axis(AxisId::X);
-    if (plan.categories.stride > 1)
+    if (plan.categories.thinned)
         for (const CategoryLabelPlan::Label& label : plan.categories.labels) {
             const double x = plan.area.CategoryX(label.category);
             AxisLine(context, AxisId::X, {x, box.bottom}, {x, box.bottom + TickLength});
         }
     PlaceCategoryLabels(
         context.builder, plan.categories, [&plan](int category) { return plan.area.CategoryX(category); },
-        box.bottom + AxesPlan::LabelGap(axis));
+        box.bottom + plan.gapBelow);
+}
+
+/// The middle of something of that length that would best stand at `wished`, moved so that it stays between.
+double MiddleWithin(double wished, double length, double least, double greatest) {
+    return std::clamp(wished, least + length / 2, std::max(least + length / 2, greatest - length / 2));
 }
 
 void Titles(const LayoutContext& context, const AxesPlan& plan, const Box& box) {
     const Box& area = plan.area.box;
     const auto part = [](AxisId id) { return Part{PartCode::AxisTitle, static_cast<int>(id), 1}; };
-    PlaceText(context.builder, part(AxisId::X), plan.xTitle, {area.left, area.bottom, area.right, box.bottom},
+    const double x = MiddleWithin(area.Center().x, plan.xTitle.Extent().width, box.left, box.right);
+    PlaceText(context.builder, part(AxisId::X), plan.xTitle, {x, area.bottom, x, box.bottom},
               HorizontalAlignment::Center, VerticalAlignment::Bottom);
-    PlaceText(context.builder, part(AxisId::Y), plan.yTitle, {box.left, area.top, area.left, area.bottom},
+    const double y = MiddleWithin(area.Center().y, plan.yTitle.Extent().height, box.top, box.bottom);
+    PlaceText(context.builder, part(AxisId::Y), plan.yTitle, {box.left, y, area.left, y},
               HorizontalAlignment::Left, VerticalAlignment::Center);
+    const double second =
+        MiddleWithin(area.Center().y, plan.secondaryTitle.Extent().height, box.top, box.bottom);
     PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryTitle,
-              {area.right, area.top, box.right, area.bottom}, HorizontalAlignment::Right,
-              VerticalAlignment::Center);
+              {area.right, second, box.right, second}, HorizontalAlignment::Right, VerticalAlignment::Center);
+    // Units stand above the labels, and reach over the plot where they are wider.
+    const double left = area.left - AxesPlan::LabelGap(context.chart.Plot.Axis(AxisId::Y));
+    PlaceText(context.builder, part(AxisId::Y), plan.yUnit,
+              {std::max(box.left, left - plan.primary.LabelWidth()), box.top, area.right, area.top},
+              HorizontalAlignment::Left, VerticalAlignment::Top);
+    if (plan.yUnit.Length() + plan.secondaryUnit.Length() < area.Width())
+        PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryUnit,
+                  {area.left, box.top, box.right, area.top}, HorizontalAlignment::Right,
+                  VerticalAlignment::Top);
 }
 
 } // namespace
@@ -116,8 +140,8 @@ void LayOutGrid(const LayoutContext& context, const PlotDemand& demand, const Ax
     const Box& box = plan.area.box;
     if (HasGrid(plot.Axis(AxisId::X))) {
         if (demand.pairsColumns)
-            for (int i = 0; i < plan.across.ticks.count; ++i)
-                GridAt(context, AxisId::X, box, plan.area.across.At(plan.across.ticks.At(i)));
+            for (const ValueAxisPlan::Tick& tick : plan.across.ticks)
+                GridAt(context, AxisId::X, box, plan.area.across.At(tick.value));
         else
             CategoryGrid(context, plan);
     }
@@ -140,7 +164,7 @@ void LayOutAxes(const LayoutContext& context, const PlotDemand& demand, const Ax
         UprightLabels(context, AxisId::SecondaryY, plan.secondary, plan.area.secondary, area);
     }
     if (plan.showX) {
-        const double y = demand.keepZero ? PlotArea::BaseOf(plan.area.primary) : area.bottom;
+        const double y = demand.keepZero ? plan.area.primary.Base() : area.bottom;
         AxisLine(context, AxisId::X, {area.left, y}, {area.right, y});
         if (demand.pairsColumns)
             AcrossLabels(context, plan);

@@ -18,16 +18,23 @@ struct PlotDemand {
     bool onEnds = false;
     bool keepZero = false;
     bool usesSecondary = false;
-    ValueRange across;
-    ValueRange primary;
-    ValueRange secondary;
+    /// Bars share the slots of the categories.
+    bool hasBars = false;
+    AxisDemand across;
+    AxisDemand primary;
+    AxisDemand secondary;
     /// The series that are drawn.
     std::vector<int> series;
+    /// How many values are not above zero, on a logarithmic axis.
+    int withoutPlace = 0;
 
-    [[nodiscard]] bool HasValues() const { return !primary.IsEmpty() || !secondary.IsEmpty(); }
+    [[nodiscard]] bool HasValues() const { return !primary.range.IsEmpty() || !secondary.range.IsEmpty(); }
 };
 
 PlotDemand DemandOf(const Chart& chart, const PlottedValues& plotted);
+
+/// Tells in the scene's warnings what of the values cannot be shown.
+void WarnOf(const LayoutContext& context, const PlotDemand& demand);
 
 /// How much of the axes' furniture is drawn; a small chart does without some.
 enum class Furniture { All, NoTitles, None };
@@ -42,6 +49,12 @@ struct AxesPlan {
     TextBlock xTitle;
     TextBlock yTitle;
     TextBlock secondaryTitle;
+    /// What the labels of an upright axis are told in, above them, where no title tells it.
+    TextBlock yUnit;
+    TextBlock secondaryUnit;
+    /// From the plot's lower edge to the labels: more than from other edges where those of an upright axis
+    /// reach down there.
+    double gapBelow = 0;
     bool showX = false;
     bool showY = false;
     bool showSecondary = false;
@@ -51,7 +64,10 @@ struct AxesPlan {
     static double TitleGap(const Axis& axis);
 };
 
-AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const Box& box,
-                  Furniture furniture);
+/// A title with the unit of its axis' labels: "Sales (million)".
+QString TitleWithUnit(const QString& title, const QString& unit);
+
+AxesPlan PlanAxes(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                  const Box& box, Furniture furniture);
 
 } // namespace QmChart6

@@ -1,7 +1,6 @@
 #include "chartcontrol/layout/axes/CategoryLabels.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -17,111 +16,154 @@ constexpr int MostWrapLines = 3;
 /// Pitches of turned and upright labels, as parts of their height.
 constexpr double TurnedPitchShare = 1.45;
 constexpr double UprightPitchShare = 1.08;
-/// Where labels must be left out, level ones are kept if at least so many remain.
-constexpr int FewestLevel = 5;
+/// Where names must be left out, level ones are kept if at least so many remain.
+constexpr std::size_t FewestLevel = 5;
+/// A turned label whose beginning would leave the picture is elided, but not to less than this part.
+constexpr double LeastTurnedShare = 0.6;
 constexpr double Sine45 = std::numbers::sqrt2 / 2;
-
-constexpr std::array Strides{1, 2, 3, 4, 5, 6, 8, 10, 12, 15, 20, 24, 25, 30, 40, 50, 60, 75, 80, 100};
-
-/// A stride that keeps the last category's label beside the first's may be this much longer than it need be.
-constexpr double LongerForTheEnd = 1.5;
-
-/// A stride of at least `least`: one that meets the last category, or the next of 1 2 3 4 5 6 8 10 12 ... 100
-/// (times 1, 100, 10,000).
-int NiceStride(double least, int count) {
-    const int start = std::max(1, static_cast<int>(std::ceil(least - 1e-9)));
-    for (int stride = start; stride <= LongerForTheEnd * start && stride < count; ++stride)
-        if ((count - 1) % stride == 0) return stride;
-    for (int scale = 1;; scale *= 100)
-        for (const int stride : Strides)
-            if (stride * scale >= start) return stride * scale;
-}
 
 class CategoryPlanner {
 public:
     CategoryPlanner(const CategoryLabelWish& wish, const Font& font, const TextMeasurer& measurer)
-        : wish_(wish), font_(font), measurer_(measurer) {
+        : wish_(wish), categories_(wish.categories), count_(wish.categories.Count()), font_(font),
+          measurer_(measurer) {
         plan_.line = measurer.Measure(QStringLiteral("x"), font);
     }
 
     CategoryLabelPlan Run() {
-        if (wish_.count == 0 || !(wish_.slot > 0)) return plan_;
-        if (TryLevel(1) || TryWrapped()) return plan_;
-        if (Fits(TurnedPitchShare)) return Set(CategoryLabelPlan::Way::Turned, 1);
-        if (Fits(UprightPitchShare)) return Set(CategoryLabelPlan::Way::Upright, 1);
-        // Levels with some left out; what a stride must at least be is known from the narrowest label.
-        for (int stride = Stride(font_.Size / wish_.slot); wish_.count / stride >= FewestLevel;
-             stride = Stride(stride + 1))
-            if (TryLevel(stride)) return plan_;
-        return Set(CategoryLabelPlan::Way::Turned,
-                   Stride(TurnedPitchShare * plan_.line.Height() / wish_.slot));
+        if (count_ == 0 || !(wish_.slot > 0)) return plan_;
+        if (TryAll() || TryWrapped()) return plan_;
+        plan_.thinned = true;
+        if (!categories_.IsNames()) {
+            if (!TryThinned(2)) plan_.labels.clear();
+            return plan_;
+        }
+        using Way = CategoryLabelPlan::Way;
+        if (Fits(TurnedPitchShare, 1) && TryTurned(1)) return plan_;
+        if (Fits(UprightPitchShare, 1)) return SetTurned(Way::Upright, 1);
+        if (TryThinned(FewestLevel) || TryTurned(StrideFor(TurnedPitchShare))) return plan_;
+        return SetTurned(Way::Upright, StrideFor(UprightPitchShare));
     }
 
 private:
-    [[nodiscard]] int Stride(double least) const { return NiceStride(least, wish_.count); }
-    [[nodiscard]] bool Fits(double pitchShare) const {
-        return wish_.slot >= pitchShare * plan_.line.Height();
+    [[nodiscard]] bool Fits(double pitchShare, std::int64_t stride) const {
+        return static_cast<double>(stride) * wish_.slot >= pitchShare * plan_.line.Height();
+    }
+    [[nodiscard]] double RoomLeft(int category) const { return wish_.roomLeft + category * wish_.slot; }
+    [[nodiscard]] double RoomRight(int category) const {
+        return wish_.roomRight + (count_ - 1 - category) * wish_.slot;
+    }
+    [[nodiscard]] bool StaysInside(const CategoryLabelPlan::Label& label) const {
+        return plan_.ReachLeft(label) <= RoomLeft(label.category) &&
+               plan_.ReachRight(label) <= RoomRight(label.category);
     }
 
-    [[nodiscard]] TextBlock OneLine(int category, double length) const {
-        return ElidedLine(wish_.text(category), font_, length, measurer_);
+    /// In one line, but for line breaks of its own.
+    [[nodiscard]] TextBlock LevelBlock(const QString& text, double length) const {
+        if (!text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r')))
+            return ElidedLine(text, font_, length, measurer_);
+        return BreakText(text, font_, Orientation::Horizontal, {length, MostWrapLines}, measurer_);
     }
 
-    bool TryLevel(int stride) {
-        const double pitch = stride * wish_.slot;
-        plan_.labels.clear();
-        bool any = false;
-        double before = 0;
-        for (int category = 0; category < wish_.count; category += stride) {
-            if (wish_.text(category).isEmpty()) {
-                before = 0;
-                continue;
-            }
-            TextBlock block = OneLine(category, wish_.count == 1 ? wish_.slot : 3 * pitch);
-            const double width = block.Length();
-            if (block.elided && wish_.count > 1) return false;
-            if (category > 0 && before > 0 && width > 0 &&
-                (before + width) / 2 + CategoryGapShare * font_.Size > pitch)
-                return false;
-            any = any || width > 0;
-            before = width;
-            plan_.labels.push_back({category, std::move(block)});
+    /// Adds a level label where it meets neither the one before nor the edge of the room; false where it
+    /// meets the one before.
+    bool AddLevel(int category, const QString& text, double longest) {
+        TextBlock block = LevelBlock(text, longest);
+        if (block.elided && count_ > 1) return false;
+        if (block.IsEmpty()) return true;
+        if (!plan_.labels.empty()) {
+            const CategoryLabelPlan::Label& before = plan_.labels.back();
+            const double needed =
+                (before.block.Length() + block.Length()) / 2 + CategoryGapShare * font_.Size;
+            if (needed > (category - before.category) * wish_.slot) return false;
         }
-        plan_.way = any ? CategoryLabelPlan::Way::Level : CategoryLabelPlan::Way::None;
-        plan_.stride = stride;
+        plan_.labels.push_back({category, std::move(block)});
         return true;
+    }
+
+    bool TryAll() {
+        plan_.labels.clear();
+        plan_.way = CategoryLabelPlan::Way::Level;
+        const double longest = count_ == 1 ? wish_.slot : 3 * wish_.slot;
+        for (int category = 0; category < count_; ++category)
+            if (!AddLevel(category, categories_.Text(category), longest)) return false;
+        if (plan_.labels.empty()) plan_.way = CategoryLabelPlan::Way::None;
+        return count_ == 1 ||
+               std::ranges::all_of(plan_.labels, [this](const auto& label) { return StaysInside(label); });
+    }
+
+    bool TryKept(const std::vector<KeptCategory>& kept, std::size_t fewest) {
+        plan_.labels.clear();
+        plan_.way = CategoryLabelPlan::Way::Level;
+        const double longest = 3 * wish_.slot * count_ / static_cast<double>(kept.size());
+        for (const KeptCategory& label : kept)
+            if (!AddLevel(label.category, label.text, longest)) return false;
+        // Those at the ends that would leave the picture go without as well.
+        std::erase_if(plan_.labels, [this](const auto& label) { return !StaysInside(label); });
+        return plan_.labels.size() >= fewest;
+    }
+
+    /// Level, by the finest step that leaves room for what is kept.
+    bool TryThinned(std::size_t fewest) {
+        const double most = std::max(2.0, count_ * wish_.slot / font_.Size);
+        for (int step = 0;; ++step) {
+            const auto kept = categories_.Kept(step, most);
+            if (!kept) return false;
+            if (kept->size() >= fewest && TryKept(*kept, fewest)) return true;
+        }
     }
 
     bool TryWrapped() {
         if (wish_.slot < NarrowestWrapShare * font_.Size) return false;
         const double room = wish_.slot - CategoryGapShare * font_.Size;
         plan_.labels.clear();
-        for (int category = 0; category < wish_.count; ++category) {
-            const QString text = Printable(wish_.text(category)).simplified();
-            for (const QString& word : text.split(QLatin1Char(' ')))
+        plan_.way = CategoryLabelPlan::Way::Level;
+        for (int category = 0; category < count_; ++category) {
+            const QString text = Printable(categories_.Text(category));
+            for (const QString& word : text.simplified().split(QLatin1Char(' ')))
                 if (measurer_.Measure(word, font_).width > room) return false;
             TextBlock block =
                 BreakText(text, font_, Orientation::Horizontal, {room, MostWrapLines}, measurer_);
             if (block.elided) return false;
             plan_.labels.push_back({category, std::move(block)});
         }
-        plan_.way = CategoryLabelPlan::Way::Level;
-        return true;
+        return std::ranges::all_of(plan_.labels, [this](const auto& label) { return StaysInside(label); });
     }
 
-    CategoryLabelPlan Set(CategoryLabelPlan::Way way, int stride) {
+    [[nodiscard]] int StrideFor(double pitchShare) const {
+        int step = 0;
+        while (!Fits(pitchShare, NiceStride(step))) ++step;
+        return static_cast<int>(std::min<std::int64_t>(NiceStride(step), count_));
+    }
+
+    const CategoryLabelPlan& SetTurned(CategoryLabelPlan::Way way, int stride) {
         plan_.way = way;
-        plan_.stride = stride;
+        plan_.thinned = stride > 1;
         plan_.labels.clear();
         const double length = way == CategoryLabelPlan::Way::Upright
                                   ? wish_.mostDepth
                                   : wish_.mostDepth / Sine45 - plan_.line.Height();
-        for (int category = 0; category < wish_.count; category += stride)
-            plan_.labels.push_back({category, OneLine(category, length)});
+        for (int category = 0; category < count_; category += stride)
+            plan_.labels.push_back(
+                {category, ElidedLine(categories_.Text(category), font_, length, measurer_)});
         return plan_;
     }
 
+    /// False where labels would have to lose too much so as not to leave the picture at its left.
+    bool TryTurned(int stride) {
+        SetTurned(CategoryLabelPlan::Way::Turned, stride);
+        for (CategoryLabelPlan::Label& label : plan_.labels) {
+            if (plan_.ReachLeft(label) <= RoomLeft(label.category)) continue;
+            const double length = RoomLeft(label.category) / Sine45 - plan_.line.Height() / 2;
+            if (length < LeastTurnedShare * label.block.Length()) return false;
+            label.block = ElidedLine(categories_.Text(label.category), font_, length, measurer_);
+        }
+        return true;
+    }
+
     const CategoryLabelWish& wish_;
+    CategorySequence& categories_;
+    int count_;
     const Font& font_;
     const TextMeasurer& measurer_;
     CategoryLabelPlan plan_;
@@ -171,7 +213,7 @@ double CategoryLabelPlan::ReachLeft(const Label& label) const {
     case Way::Upright:
         return line.Height() / 2;
     case Way::Turned:
-        return label.block.Length() * Sine45;
+        return (label.block.Length() + line.Height() / 2) * Sine45;
     }
     return 0;
 }
@@ -179,6 +221,10 @@ double CategoryLabelPlan::ReachLeft(const Label& label) const {
 double CategoryLabelPlan::ReachRight(const Label& label) const {
     if (label.block.IsEmpty() || way == Way::None) return 0;
     return way == Way::Level ? label.block.Length() / 2 : line.Height() / 2;
+}
+
+CategorySequence CategoriesOf(const Chart& chart) {
+    return {chart.CategoryCount(), [&chart](int category) { return chart.CategoryName(category + 1); }};
 }
 
 CategoryLabelPlan PlanCategoryLabels(const CategoryLabelWish& wish, const Font& font,

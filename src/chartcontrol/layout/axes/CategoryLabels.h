@@ -1,15 +1,18 @@
 #pragma once
 
+#include "chartcontrol/layout/axes/CategorySequence.h"
 #include "chartcontrol/layout/data/LayoutContext.h"
 #include "chartcontrol/layout/text/TextBlock.h"
 
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace QmChart6 {
 
-/// How the labels of a category axis stand, in the order in which the ways are tried: as they are, wrapped,
-/// turned by 45 degrees, upright, and (each of those but the wrapped) with some left out.
+/// How the labels of a category axis stand, in the order in which the ways are tried: as they are, wrapped;
+/// names then turned by 45 degrees, upright, and with some left out; numbers, dates and the like with some
+/// left out by steps that mean something.
 struct CategoryLabelPlan {
     enum class Way { None, Level, Turned, Upright };
 
@@ -19,8 +22,8 @@ struct CategoryLabelPlan {
     };
 
     Way way = Way::None;
-    /// Every stride-th category from the first has its label.
-    int stride = 1;
+    /// Whether categories that have a name go without.
+    bool thinned = false;
     std::vector<Label> labels;
     TextExtent line;
 
@@ -33,14 +36,19 @@ struct CategoryLabelPlan {
 
 /// What the labels are planned for.
 struct CategoryLabelWish {
-    int count = 0;
-    /// The text of a category, from 0.
-    std::function<QString(int)> text;
+    /// May be shared by several plans of the same categories.
+    CategorySequence& categories;
     /// Points from one category to the next.
     double slot = 0;
     /// Turned and upright labels are elided to it.
     double mostDepth = 0;
+    /// How far labels may reach to the left of the first category's middle, and to the right of the last's.
+    double roomLeft = std::numeric_limits<double>::infinity();
+    double roomRight = std::numeric_limits<double>::infinity();
 };
+
+/// The categories of a chart. It must live as long.
+CategorySequence CategoriesOf(const Chart& chart);
 
 CategoryLabelPlan PlanCategoryLabels(const CategoryLabelWish& wish, const Font& font,
                                      const TextMeasurer& measurer);

@@ -1,9 +1,13 @@
 #include "chartcontrol/layout/axes/ValueAxis.h"
 
 #include "base/NumberFormat.h"
+#include "chartcontrol/layout/axes/TickTexts.h"
+#include "chartcontrol/scale/LogarithmicTicks.h"
+#include "chartcontrol/scale/Ticks.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace QmChart6 {
 
@@ -16,74 +20,127 @@ constexpr int MostTicks = 12;
 /// Labels side by side stay this many font sizes apart.
 constexpr double ValueGapShare = 1.0;
 
-/// Where plain digits would run longer than this, labels get an exponent.
-constexpr double LargestPlain = 1e15;
-constexpr double SmallestPlainStep = 1e-6;
-constexpr double GroupingFrom = 10000;
-
-/// The format that tells the ticks apart with as few digits as can be.
-QString GeneralFormat(const Ticks& ticks) {
-    const double largest = std::max(std::abs(ticks.first), std::abs(ticks.Last()));
-    if (largest >= LargestPlain || ticks.step < SmallestPlainStep) {
-        const int digits =
-            std::clamp(static_cast<int>(std::ceil(std::log10(largest / ticks.step) - 1e-9)), 0, 14);
-        return digits == 0 ? QStringLiteral("0E+00")
-                           : QStringLiteral("0.%1E+00").arg(QString(digits, QLatin1Char('0')));
-    }
-    int decimals = 0;
-    for (double step = ticks.step; decimals < 9 && std::abs(step - std::round(step)) > 1e-9 * step;
-         ++decimals)
-        step *= 10;
-    const QString whole = largest >= GroupingFrom ? QStringLiteral("#,##0") : QStringLiteral("0");
-    return decimals == 0 ? whole : whole + QLatin1Char('.') + QString(decimals, QLatin1Char('0'));
-}
-
 /// The least difference that the axis' format can show; 0 for a general one.
 double UnitOf(const QString& format) {
     const int decimals = FormatDecimals(format);
     return decimals < 0 ? 0 : std::pow(10.0, -decimals) / FormatFactor(format);
 }
 
-Ticks TicksOf(const Axis& axis, const ValueAxisWish& wish, int count) {
-    if (!axis.ValueScale.Auto && axis.ValueScale.Maximum > axis.ValueScale.Minimum) {
-        const int divisions = std::max(1, axis.ValueScale.MajorDivision);
-        return {axis.ValueScale.Minimum, (axis.ValueScale.Maximum - axis.ValueScale.Minimum) / divisions,
-                divisions + 1};
-    }
-    ValueRange range = wish.range;
+/// Where an axis ends, and its ticks.
+struct Division {
+    double low = 0;
+    double high = 1;
+    std::vector<double> ticks;
+};
+
+Division DivisionOf(const Ticks& ticks, const ValueRange& range) {
+    // The largest values may lie outside the ticks.
+    Division division{std::min(ticks.first, range.low), std::max(ticks.Last(), range.high), {}};
+    for (int i = 0; i < ticks.count; ++i) division.ticks.push_back(ticks.At(i));
+    return division;
+}
+
+Ticks FixedTicks(const ValueScale& scale) {
+    int divisions = std::max(1, scale.MajorDivision);
+    const auto step = [&] { return 2 * (scale.Maximum / divisions / 2 - scale.Minimum / divisions / 2); };
+    while (!std::isfinite(step())) ++divisions;
+    return {scale.Minimum, step(), divisions + 1};
+}
+
+Division EvenDivision(const Axis& axis, const ValueAxisWish& wish, int count) {
+    const ValueScale& scale = axis.ValueScale;
+    if (!scale.Auto && scale.Maximum > scale.Minimum)
+        return DivisionOf(FixedTicks(scale), {scale.Minimum, scale.Maximum});
+    ValueRange range = wish.demand.range;
     if (range.IsEmpty()) range = {0, 1};
     if (wish.keepZero) range.Include(0);
     // A constant zero still gets an axis that starts there.
     if (wish.keepZero && range.low == 0 && range.high == 0) range.high = 1;
-    return ChooseTicks(range.low, range.high, {count, UnitOf(axis.Labels.Item(1).Format)});
+    const double unit = std::max(UnitOf(axis.Labels.Item(1).Format), wish.demand.whole ? 1.0 : 0.0);
+    return DivisionOf(ChooseTicks(range.low, range.high, {count, unit}), range);
+}
+
+/// A fixed range that does not begin above zero begins with the data.
+LogarithmicTicks TicksOf(const ValueScale& scale, ValueRange range, int count) {
+    if (range.IsEmpty()) range = {1, 10};
+    if (!scale.Auto && scale.Maximum > 0 && scale.Maximum > scale.Minimum) {
+        constexpr double decades = 1e-3; // shown where the data begins above the range's end
+        const double low = scale.Minimum > 0           ? scale.Minimum
+                           : range.low < scale.Maximum ? range.low
+                                                       : scale.Maximum * decades;
+        if (low > 0) return LogarithmicTicksWithin(low, scale.Maximum, count);
+    }
+    return ChooseLogarithmicTicks(range.low, range.high, count);
+}
+
+/// Ticks that stand at unlike distances may be this much closer.
+constexpr double CloserFactor = 1.5;
+
+Division LogarithmicDivision(const Axis& axis, const ValueAxisWish& wish, int count) {
+    LogarithmicTicks ticks =
+        TicksOf(axis.ValueScale, wish.demand.range, static_cast<int>(CloserFactor * count));
+    return {ticks.low, ticks.high, std::move(ticks.values)};
+}
+
+TickTexts TextsOf(const std::vector<double>& ticks, const QString& format, bool logarithmic) {
+    // A format that would show small ticks as zero tells nothing of them.
+    const bool tooCoarse = logarithmic && ticks.front() < UnitOf(format);
+    if (format.isEmpty() || tooCoarse)
+        return logarithmic ? TextsOfLogarithmicTicks(ticks) : TextsOfEvenTicks(ticks);
+    TickTexts texts;
+    for (const double tick : ticks) texts.labels += FormatNumber(tick, format);
+    return texts;
 }
 
 ValueAxisPlan PlanWith(const LayoutContext& context, const Axis& axis, const ValueAxisWish& wish, int count) {
     const AxisLabels& look = axis.Labels.Item(1);
-    ValueAxisPlan plan;
-    plan.ticks = TicksOf(axis, wish, count);
-    plan.line = context.measurer.Measure(QStringLiteral("0"), look.VtFont);
-    const QString format = look.Format.isEmpty() ? GeneralFormat(plan.ticks) : look.Format;
-    for (int i = 0; i < plan.ticks.count; ++i) {
-        const QString text = FormatNumber(plan.ticks.At(i), format);
-        plan.labels.push_back({text, context.measurer.Measure(text, look.VtFont).width});
+    const bool logarithmic = wish.demand.logarithmic;
+    const Division division =
+        logarithmic ? LogarithmicDivision(axis, wish, count) : EvenDivision(axis, wish, count);
+    const TickTexts texts = TextsOf(division.ticks, look.Format, logarithmic);
+    ValueAxisPlan plan{{},          division.low, division.high,
+                       logarithmic, texts.unit,   context.measurer.Measure(QStringLiteral("0"), look.VtFont)};
+    plan.ticks.reserve(division.ticks.size());
+    for (std::size_t i = 0; i < division.ticks.size(); ++i) {
+        const QString& text = texts.labels[static_cast<qsizetype>(i)];
+        plan.ticks.push_back({division.ticks[i], text, context.measurer.Measure(text, look.VtFont).width});
     }
     return plan;
 }
 
-bool LabelsMeet(const ValueAxisPlan& plan, const ValueAxisWish& wish, double gap) {
-    const double pitch = wish.length / (plan.ticks.count - 1);
-    if (!wish.across) return plan.line.Height() > pitch;
-    for (std::size_t i = 1; i < plan.labels.size(); ++i)
-        if ((plan.labels[i - 1].width + plan.labels[i].width) / 2 + gap > pitch) return true;
+/// Whether the labels of every stride-th tick meet, counted from `start`.
+bool LabelsMeet(const ValueAxisPlan& plan, const ValueAxisWish& wish, double gap, int start, int stride) {
+    const AxisMap map = plan.Map(0, wish.length);
+    const auto step = static_cast<std::size_t>(stride);
+    for (auto i = static_cast<std::size_t>(start) + step; i < plan.ticks.size(); i += step) {
+        const ValueAxisPlan::Tick& before = plan.ticks[i - step];
+        const ValueAxisPlan::Tick& tick = plan.ticks[i];
+        const double needed = wish.across ? (before.width + tick.width) / 2 + gap : plan.line.Height();
+        if (needed > map.At(tick.value) - map.At(before.value)) return true;
+    }
     return false;
+}
+
+/// The first tick of every stride-th that meets zero, or the first of all.
+int StartOf(const ValueAxisPlan& plan, int stride) {
+    const auto zero = std::ranges::find(plan.ticks, 0.0, &ValueAxisPlan::Tick::value);
+    return zero == plan.ticks.end() ? 0 : static_cast<int>(zero - plan.ticks.begin()) % stride;
+}
+
+/// Where the ticks are given and their labels meet: only every second, third and so on has one.
+void ThinLabels(ValueAxisPlan& plan, const ValueAxisWish& wish, double gap) {
+    const int count = static_cast<int>(plan.ticks.size());
+    int stride = 1;
+    while (stride < count && LabelsMeet(plan, wish, gap, StartOf(plan, stride), stride)) ++stride;
+    for (int i = 0; i < count; ++i)
+        if (i % stride != StartOf(plan, stride)) plan.ticks[static_cast<std::size_t>(i)].text.clear();
 }
 
 } // namespace
 
 double ValueAxisPlan::LabelWidth() const {
     double width = 0;
-    for (const Label& label : labels) width = std::max(width, label.width);
+    for (const Tick& tick : ticks) width = std::max(width, tick.width);
     return width;
 }
 
@@ -91,9 +148,10 @@ ValueAxisPlan PlanValueAxis(const LayoutContext& context, const Axis& axis, cons
     const Font& font = axis.Labels.Item(1).VtFont;
     const double room = (wish.across ? TickRoomAcross : TickRoomUpright) * std::max(1.0, font.Size);
     int count = std::clamp(static_cast<int>(std::lround(wish.length / room)) + 1, 2, MostTicks);
+    const double gap = ValueGapShare * font.Size;
     ValueAxisPlan plan = PlanWith(context, axis, wish, count);
-    while (count > 2 && LabelsMeet(plan, wish, ValueGapShare * font.Size))
-        plan = PlanWith(context, axis, wish, --count);
+    while (count > 2 && LabelsMeet(plan, wish, gap, 0, 1)) plan = PlanWith(context, axis, wish, --count);
+    ThinLabels(plan, wish, gap);
     return plan;
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "chartcontrol/layout/data/LayoutContext.h"
-#include "chartcontrol/scale/LinearMap.h"
-#include "chartcontrol/scale/Ticks.h"
+#include "chartcontrol/scale/AxisMap.h"
 #include "chartcontrol/scale/ValueRange.h"
 
 #include <vector>
@@ -11,25 +10,37 @@ namespace QmChart6 {
 
 /// The ticks of a value axis and the labels at them, measured.
 struct ValueAxisPlan {
-    struct Label {
+    struct Tick {
+        double value = 0;
         QString text;
         double width = 0;
     };
 
-    Ticks ticks;
-    std::vector<Label> labels;
+    /// From the least to the greatest, at least two. They lie within the axis, mostly on both of its ends.
+    std::vector<Tick> ticks;
+    double low = 0;
+    double high = 1;
+    bool logarithmic = false;
+    /// What the labels are told in, such as "million"; "" where they are whole values.
+    QString unit;
     TextExtent line;
 
     [[nodiscard]] double LabelWidth() const;
     /// Maps the axis' values onto a stretch of the picture.
-    [[nodiscard]] LinearMap Map(double from, double to) const {
-        return {ticks.first, ticks.Last(), from, to};
-    }
+    [[nodiscard]] AxisMap Map(double from, double to) const { return {low, high, from, to, logarithmic}; }
 };
 
-/// What an axis is planned for. An empty range is planned as 0 to 1.
-struct ValueAxisWish {
+/// What the series that stand on an axis ask of it.
+struct AxisDemand {
     ValueRange range;
+    /// The values are whole numbers, and so close together that steps between them might be chosen.
+    bool whole = false;
+    bool logarithmic = false;
+};
+
+/// What an axis is planned for. An empty range is planned as 0 to 1, or as 1 to 10 on a logarithmic axis.
+struct ValueAxisWish {
+    AxisDemand demand;
     /// Zero belongs to the axis, as bars and areas stand on it.
     bool keepZero = false;
     /// Points along the axis.

@@ -1,16 +1,19 @@
 #include "chartcontrol/layout/data/PlottedValues.h"
 
 #include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/data/Sums.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace QmChart6 {
 
 namespace {
 
-/// What the shares of a percent scale are shares of, by the basis: the largest or the sum of absolute values.
+/// What the shares of a percent scale are shares of, by the basis: the largest or the sum of absolute values,
+/// in SumUnit.
 class Bases {
 public:
     Bases(const Chart& chart, int series, int categories)
@@ -18,7 +21,8 @@ public:
         for (int number = 1; number <= series; ++number) {
             const Values values = chart.SeriesValues(number);
             for (int category = 0; category < categories; ++category)
-                if (!std::isnan(values[category])) Add(number, category, std::abs(values[category]));
+                if (!std::isnan(values[category]))
+                    Add(number, category, std::abs(values[category]) * SumUnit);
         }
     }
 
@@ -80,22 +84,53 @@ PlottedValues::PlottedValues(const Chart& chart)
     bool shares = false;
     for (int number = 1; number <= chart.Plot.SeriesCollection.Count(); ++number) {
         const Series& series = chart.Plot.SeriesCollection(number);
-        const bool share = chart.Plot.Axis(AxisOf(series)).AxisScale.Type == ScaleType::Percent;
-        series_.push_back(
-            {MarkOfSeries(chart, number), QmChart6::IsDrawn(chart, number), series.SecondaryAxis, share});
-        shares = shares || share;
+        const ScaleType scale = chart.Plot.Axis(AxisOf(series)).AxisScale.Type;
+        series_.push_back({MarkOfSeries(chart, number), QmChart6::IsDrawn(chart, number),
+                           series.SecondaryAxis, scale == ScaleType::Percent,
+                           scale == ScaleType::Logarithmic});
+        shares = shares || scale == ScaleType::Percent;
     }
     if (!KindOf(chart.chartType()).stacks) return;
     stacked_ = chart.Stacking;
-    if (!shares && !stacked_) return;
+    changed_ = shares || stacked_;
+    if (!changed_ && !HoldsWithoutPlace()) return;
+    CopyGrid();
+    if (shares) ToShares(chart);
+    LeaveOutWithoutPlace();
+    if (stacked_) Stack();
+}
+
+/// Whether any value on a logarithmic axis is not above zero.
+bool PlottedValues::HoldsWithoutPlace() const {
+    for (int number = 1; number <= SeriesCount(); ++number) {
+        if (!Of(number).logarithmic) continue;
+        const Values values = OfGrid(number);
+        if (values.whole != nullptr && values.whole->low > 0) continue;
+        for (int category = 0; category < values.count; ++category)
+            if (values[category] <= 0) return true;
+    }
+    return false;
+}
+
+void PlottedValues::CopyGrid() {
     tops_.resize(series_.size() * static_cast<std::size_t>(categories_));
     for (int number = 1; number <= SeriesCount(); ++number) {
         const Values values = OfGrid(number);
         for (int category = 0; category < categories_; ++category)
             At(tops_, number, category) = values[category];
     }
-    if (shares) ToShares(chart);
-    if (stacked_) Stack();
+}
+
+void PlottedValues::LeaveOutWithoutPlace() {
+    for (int number = 1; number <= SeriesCount(); ++number) {
+        if (!Of(number).logarithmic) continue;
+        for (int category = 0; category < categories_; ++category) {
+            double& value = At(tops_, number, category);
+            if (!(value <= 0)) continue;
+            value = std::numeric_limits<double>::quiet_NaN();
+            ++withoutPlace_;
+        }
+    }
 }
 
 Values PlottedValues::OfGrid(int series) const {
@@ -128,7 +163,7 @@ void PlottedValues::ToShares(const Chart& chart) {
         for (int category = 0; category < categories_; ++category) {
             double& value = At(tops_, number, category);
             const double whole = bases.Of(basis, number, category);
-            if (whole > 0) value = Whole(value / whole);
+            if (whole > 0) value = Whole(value * SumUnit / whole);
         }
     }
 }
@@ -151,7 +186,9 @@ void PlottedValues::Stack() {
             double& level = value < 0 ? pile.down : pile.up;
             At(bases_, number, category) = level;
             if (std::isnan(value)) continue;
-            level += value;
+            // A sum beyond the largest double is as high as that.
+            level = std::clamp(level + value, std::numeric_limits<double>::lowest(),
+                               std::numeric_limits<double>::max());
             top = drawn.share ? Whole(level) : level;
         }
     }

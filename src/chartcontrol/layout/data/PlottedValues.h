@@ -23,7 +23,10 @@ public:
     [[nodiscard]] Values Base(int series) const;
     /// Whether the series is piled on others: in a stacked chart of a kind that stacks.
     [[nodiscard]] bool IsStacked() const { return stacked_; }
-    [[nodiscard]] bool IsChanged() const { return !tops_.empty(); }
+    /// Whether values are drawn as shares or in piles: their places are not their own.
+    [[nodiscard]] bool IsChanged() const { return changed_; }
+    /// How many values have no place: those not above zero on a logarithmic axis. They are missing here.
+    [[nodiscard]] int WithoutPlace() const { return withoutPlace_; }
     /// Whether the series stands on an axis of shares.
     [[nodiscard]] bool IsShare(int series) const { return Of(series).share; }
     /// Whether it is drawn by itself: see IsDrawn of a chart.
@@ -39,10 +42,14 @@ private:
         bool drawn = true;
         bool secondary = false;
         bool share = false;
+        bool logarithmic = false;
     };
 
     [[nodiscard]] const Drawn& Of(int series) const { return series_[static_cast<std::size_t>(series) - 1]; }
     [[nodiscard]] Values OfGrid(int series) const;
+    [[nodiscard]] bool HoldsWithoutPlace() const;
+    void CopyGrid();
+    void LeaveOutWithoutPlace();
     void ToShares(const Chart& chart);
     void Stack();
     [[nodiscard]] double& At(std::vector<double>& table, int series, int category) const;
@@ -50,6 +57,8 @@ private:
     DataGrid grid_;
     bool inRows_ = false;
     bool stacked_ = false;
+    bool changed_ = false;
+    int withoutPlace_ = 0;
     std::vector<Drawn> series_;
     int categories_ = 0;
     std::vector<double> tops_;

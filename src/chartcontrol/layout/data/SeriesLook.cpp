@@ -1,5 +1,7 @@
 #include "chartcontrol/layout/data/SeriesLook.h"
 
+#include "chartcontrol/model/ColourContrast.h"
+
 #include <array>
 
 namespace QmChart6 {
@@ -26,9 +28,24 @@ LineLook LineLookOf(const Series& series) {
     return {line, series.SeriesMarker.Show || !line};
 }
 
-Stroke LineStrokeOf(const Series& series) {
+Colour ShownColour(const Chart& chart, const Brush& brush) {
+    const bool patterned = brush.Style == BrushStyle::Pattern || brush.Style == BrushStyle::Hatch;
+    if (!patterned) return brush.FillColor;
+    const Colour ground = chart.Backdrop.Fill.Brush.FillColor;
+    return Contrast(brush.FillColor, ground) >= Contrast(brush.PatternColor, ground) ? brush.FillColor
+                                                                                     : brush.PatternColor;
+}
+
+Stroke LineStrokeOf(const Chart& chart, const Series& series) {
     return {series.LinePen.Style, series.LinePen.Width,
-            series.DataPoints.Item(DataPoints::All).Brush.FillColor};
+            ShownColour(chart, series.DataPoints.Item(DataPoints::All).Brush)};
+}
+
+Stroke EdgeOf(const Chart& chart, const DataPoint& look, bool plain) {
+    const bool patterned = look.Brush.Style == BrushStyle::Pattern || look.Brush.Style == BrushStyle::Hatch;
+    if (look.EdgePen.Style != PenStyle::None || !patterned || plain) return StrokeOf(look.EdgePen);
+    constexpr double fine = 0.75;
+    return {PenStyle::Solid, fine, ShownColour(chart, look.Brush)};
 }
 
 bool IsDrawn(const Chart& chart, int series) {

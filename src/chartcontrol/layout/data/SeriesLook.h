@@ -24,8 +24,16 @@ struct LineLook {
 };
 LineLook LineLookOf(const Series& series);
 
-/// The stroke of the series' line, in the fill colour of all its points.
-Stroke LineStrokeOf(const Series& series);
+/// The colour that stands for a brush where no pattern can be drawn: its fill's, or the pattern's where the
+/// fill would not be seen on the chart's ground.
+Colour ShownColour(const Chart& chart, const Brush& brush);
+
+/// The stroke of the series' line, in the shown colour of all its points.
+Stroke LineStrokeOf(const Chart& chart, const Series& series);
+
+/// The outline of a mark of that look: its own pen; of patterned marks a fine line, so that their height is
+/// read, unless they are so small that they are drawn plain.
+Stroke EdgeOf(const Chart& chart, const DataPoint& look, bool plain = false);
 
 /// The series that are drawn: in an XY chart those that take the next column as their y, otherwise all.
 bool IsDrawn(const Chart& chart, int series);

@@ -12,7 +12,7 @@ namespace {
 constexpr double LoneShare = 0.1;
 
 void AddEdgePoints(const PlotContext& context, int number, const Runs& runs, std::size_t run) {
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
         context.builder.AddPoint(
             {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
@@ -21,10 +21,10 @@ void AddEdgePoints(const PlotContext& context, int number, const Runs& runs, std
 /// The way back along what a series is piled on.
 void AddBasePoints(const PlotContext& context, int number, const Values& bases, const Runs& runs,
                    std::size_t run) {
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     for (std::size_t i = runs.starts[run + 1]; i-- > runs.starts[run];) {
         const int category = runs.samples[i].category;
-        context.builder.AddPoint({context.area.CategoryX(category), map.At(bases[category])});
+        context.builder.AddPoint({context.area.CategoryX(category), map.StandAt(bases[category])});
     }
 }
 
@@ -36,10 +36,12 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
     if (&first == &last) {
         const double lone = LoneShare * context.area.slot / 2;
         const double y = context.plot.Y(number, first.value);
-        const double base = bases.first == nullptr ? context.plot.BaseY(number)
-                                                   : context.plot.Y(number, bases[first.category]);
-        for (const Point& point : {Point{start - lone, base}, Point{start - lone, y}, Point{start + lone, y},
-                                   Point{start + lone, base}})
+        const double base = bases.first == nullptr
+                                ? context.plot.BaseY(number)
+                                : context.plot.MapOf(number).StandAt(bases[first.category]);
+        const double left = std::max(start - lone, context.area.box.left);
+        const double right = std::min(start + lone, context.area.box.right);
+        for (const Point& point : {Point{left, base}, Point{left, y}, Point{right, y}, Point{right, base}})
             context.builder.AddPoint(point);
         return;
     }
@@ -51,13 +53,21 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
         AddBasePoints(context, number, bases, runs, run);
 }
 
-void AddFill(const PlotContext& context, int number, const Values& bases) {
+/// Areas that may cover each other let the others shine through.
+SceneFill FillOfArea(const Brush& brush, bool alone) {
+    constexpr double translucent = 0.5;
+    SceneFill fill = FillOf(brush);
+    if (!alone && brush.Style == BrushStyle::Solid) fill.opacity = translucent;
+    return fill;
+}
+
+void AddFill(const PlotContext& context, int number, const Values& bases, bool alone = true) {
     const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
     const Runs& runs = *collected;
     const DataPoint& look = context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         AddRun(context, number, runs, run, bases);
-        context.builder.AddPolygon({PartCode::Series, number}, FillOf(look.Brush));
+        context.builder.AddPolygon({PartCode::Series, number}, FillOfArea(look.Brush, alone));
     }
 }
 
@@ -67,8 +77,9 @@ void AddEdges(const PlotContext& context, const std::vector<int>& series) {
         const Runs& runs = *collected;
         for (std::size_t run = 0; run < runs.Count(); ++run) {
             AddEdgePoints(context, number, runs, run);
-            context.builder.AddPolyline({PartCode::Series, number},
-                                        LineStrokeOf(context.chart.Plot.SeriesCollection(number)));
+            context.builder.AddPolyline(
+                {PartCode::Series, number},
+                LineStrokeOf(context.chart, context.chart.Plot.SeriesCollection(number)));
         }
     }
 }
@@ -77,7 +88,7 @@ void AddEdges(const PlotContext& context, const std::vector<int>& series) {
 
 void LayOutAreas(const PlotContext& context, const std::vector<int>& series) {
     if (!context.plotted.IsStacked()) {
-        for (const int number : series) AddFill(context, number, {});
+        for (const int number : series) AddFill(context, number, {}, series.size() == 1);
         AddEdges(context, series);
         return;
     }

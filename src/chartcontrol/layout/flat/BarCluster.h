@@ -11,8 +11,11 @@ namespace QmChart6 {
 /// middle of the slot.
 struct BarCluster {
     double barWidth = 0;
+    /// Bars stand on whole device pixels; otherwise their edges are smoothed, so that all look equally wide.
+    bool whole = false;
     std::vector<double> left; // by the series' number - 1; of bars only
 
+    [[nodiscard]] bool IsEmpty() const { return left.empty(); }
     [[nodiscard]] double LeftOf(int series) const { return left[static_cast<std::size_t>(series) - 1]; }
 };
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace QmChart6 {
 
@@ -12,60 +14,120 @@ namespace {
 /// In bars narrower than this many device pixels a pattern would not be seen as one.
 constexpr double NarrowestPatterned = 5;
 
-SceneFill BarFill(const Brush& brush, bool plain) {
-    return plain && brush.Style != BrushStyle::None ? SolidFill(brush.FillColor) : FillOf(brush);
-}
+class BarMarks {
+public:
+    BarMarks(const PlotContext& context, const std::vector<int>& series)
+        : context_(context), series_(series),
+          plain_(context.plot.bars.barWidth * context.area.pixelsPerPoint < NarrowestPatterned) {}
 
-void LayOutSingleBars(const PlotContext& context, int number) {
-    const bool plain = context.plot.bars.barWidth * context.area.pixelsPerPoint < NarrowestPatterned;
-    const Series& series = context.chart.Plot.SeriesCollection(number);
-    const Values tops = context.plotted.Top(number);
-    for (int category = 0; category < tops.count; ++category) {
-        if (std::isnan(tops[category])) continue;
-        const DataPoint& look = series.DataPoints.Item(category + 1);
-        context.builder.AddRectangle({PartCode::Series, number, category + 1},
-                                     context.plot.BarOf(number, category), BarFill(look.Brush, plain),
-                                     StrokeOf(look.EdgePen));
+    /// Hairlines last: a taller neighbour in a pile must not cover what is hardly seen anyway.
+    void Single() {
+        for (const bool hairlines : {false, true})
+            for (const int number : series_) Series(number, hairlines);
     }
-}
 
-/// Where categories are thinner than a device pixel: one bar for each pixel column, from its least to its
-/// greatest.
-void LayOutDenseBars(const PlotContext& context, int number) {
-    const LinearMap& map = context.plot.MapOf(number);
-    const double base = PlotArea::BaseOf(map);
-    const SceneFill fill =
-        BarFill(context.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All).Brush, true);
-    const std::shared_ptr<const Runs> runs = CollectRuns(context.plotted.Top(number), context.area);
-    const double column = 1 / context.area.pixelsPerPoint;
-    const auto columnOf = [&](const Sample& sample) {
-        return std::floor((context.area.CategoryX(sample.category) - context.area.box.left) / column);
-    };
-    for (std::size_t i = 0; i < runs->samples.size();) {
-        const double index = columnOf(runs->samples[i]);
-        double top = base;
-        double bottom = base;
-        for (; i < runs->samples.size() && columnOf(runs->samples[i]) == index; ++i) {
-            const double y = map.At(runs->samples[i].value);
-            top = std::min(top, y);
-            bottom = std::max(bottom, y);
+    /// Where bars are thinner than a device pixel: in each pixel column, or slot where that is wider, one bar
+    /// for each series, from its least to its greatest value.
+    void Dense() {
+        std::vector<Stretches> all;
+        for (const int number : series_) all.push_back(StretchesOf(number));
+        std::vector<std::size_t> at(series_.size(), 0);
+        for (;;) {
+            std::vector<std::pair<std::size_t, Stretch>> column;
+            double next = std::numeric_limits<double>::infinity();
+            for (std::size_t i = 0; i < all.size(); ++i)
+                if (at[i] < all[i].size()) next = std::min(next, all[i][at[i]].index);
+            if (std::isinf(next)) return;
+            for (std::size_t i = 0; i < all.size(); ++i)
+                if (at[i] < all[i].size() && all[i][at[i]].index == next)
+                    column.emplace_back(i, all[i][at[i]++]);
+            AddColumn(column);
         }
-        const double x = context.area.box.left + index * column;
-        context.builder.AddRectangle({PartCode::Series, number}, {x, top, x + column, bottom}, fill);
     }
-}
+
+private:
+    /// What a series covers of a column.
+    struct Stretch {
+        double index = 0;
+        double top = 0;
+        double bottom = 0;
+
+        [[nodiscard]] double Height() const { return bottom - top; }
+    };
+    using Stretches = std::vector<Stretch>;
+
+    [[nodiscard]] SceneFill FillOfBar(const Brush& brush, bool plain) const {
+        return plain && brush.Style != BrushStyle::None ? SolidFill(ShownColour(context_.chart, brush))
+                                                        : FillOf(brush);
+    }
+
+    void Series(int number, bool hairlines) {
+        const QmChart6::Series& series = context_.chart.Plot.SeriesCollection(number);
+        const Values tops = context_.plotted.Top(number);
+        for (int category = 0; category < tops.count; ++category) {
+            const BarEnds ends = context_.plot.EndsOf(number, category);
+            if (std::isnan(ends.end) || ends.isHairline != hairlines) continue;
+            const DataPoint& look = series.DataPoints.Item(category + 1);
+            context_.builder.AddRectangle({PartCode::Series, number, category + 1},
+                                          context_.plot.BarOf(number, category),
+                                          FillOfBar(look.Brush, plain_), EdgeOf(context_.chart, look, plain_),
+                                          context_.plot.bars.whole);
+        }
+    }
+
+    /// Columns are device pixels, or slots where those are wider.
+    [[nodiscard]] double ColumnWidth() const {
+        return std::max(1 / context_.area.pixelsPerPoint, context_.area.slot);
+    }
+
+    [[nodiscard]] Stretches StretchesOf(int number) const {
+        const AxisMap& map = context_.plot.MapOf(number);
+        const double base = map.Base();
+        const std::shared_ptr<const Runs> runs = CollectRuns(context_.plotted.Top(number), context_.area);
+        Stretches stretches;
+        for (const Sample& sample : runs->samples) {
+            const double index = std::floor(
+                (context_.area.CategoryX(sample.category) - context_.area.box.left) / ColumnWidth());
+            if (stretches.empty() || stretches.back().index != index)
+                stretches.push_back({index, base, base});
+            const double y = map.At(sample.value);
+            if (std::isnan(y)) continue;
+            stretches.back().top = std::min(stretches.back().top, y);
+            stretches.back().bottom = std::max(stretches.back().bottom, y);
+        }
+        return stretches;
+    }
+
+    /// The tallest first, so that none is hidden whole; piled ones as they cover each other from the axis on.
+    void AddColumn(std::vector<std::pair<std::size_t, Stretch>>& column) {
+        std::stable_sort(column.begin(), column.end(), [](const auto& one, const auto& other) {
+            return one.second.Height() > other.second.Height();
+        });
+        const double width = ColumnWidth();
+        for (const auto& [place, stretch] : column) {
+            const int number = series_[place];
+            const Brush& brush =
+                context_.chart.Plot.SeriesCollection(number).DataPoints.Item(DataPoints::All).Brush;
+            const double x = context_.area.box.left + stretch.index * width;
+            context_.builder.AddRectangle({PartCode::Series, number},
+                                          {x, stretch.top, x + width, stretch.bottom},
+                                          FillOfBar(brush, true));
+        }
+    }
+
+    const PlotContext& context_;
+    const std::vector<int>& series_;
+    bool plain_;
+};
 
 } // namespace
 
 void LayOutBars(const PlotContext& context, const std::vector<int>& series) {
-    const bool dense = context.plot.IsDense();
-    for (std::size_t i = 0; i < series.size(); ++i) {
-        // Dense bars all stand on the axis, so that of piled ones the lower must cover the higher.
-        if (dense)
-            LayOutDenseBars(context, context.plotted.IsStacked() ? series[series.size() - 1 - i] : series[i]);
-        else
-            LayOutSingleBars(context, series[i]);
-    }
+    BarMarks marks(context, series);
+    if (context.plot.HasDenseBars())
+        marks.Dense();
+    else
+        marks.Single();
 }
 
 } // namespace QmChart6

@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/axes/AxesMarks.h"
 #include "chartcontrol/layout/axes/AxesPlan.h"
 #include "chartcontrol/layout/flat/DataLabels.h"
+#include "chartcontrol/layout/flat/DirectNames.h"
 #include "chartcontrol/layout/flat/Marks.h"
 #include "chartcontrol/layout/flat/PlotContext.h"
 #include "chartcontrol/layout/flat/StatisticsLines.h"
@@ -16,14 +17,15 @@ namespace {
 /// A plot smaller than this does without axis titles, and then without labels. Points.
 constexpr Size SmallestPlot{60, 45};
 
-AxesPlan PlanThatFits(const LayoutContext& context, const PlotDemand& demand, const Box& box) {
+AxesPlan PlanThatFits(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
+                      const Box& box) {
     for (const Furniture furniture : {Furniture::All, Furniture::NoTitles}) {
-        AxesPlan plan = PlanAxes(context, demand, box, furniture);
+        AxesPlan plan = PlanAxes(context, demand, plotted, box, furniture);
         if (plan.area.box.Width() >= SmallestPlot.width && plan.area.box.Height() >= SmallestPlot.height)
             return plan;
     }
     context.builder.Warn(QStringLiteral("the chart is too small for its axes' labels"));
-    return PlanAxes(context, demand, box, Furniture::None);
+    return PlanAxes(context, demand, plotted, box, Furniture::None);
 }
 
 /// Whether a fixed range may leave values outside the plot.
@@ -77,16 +79,19 @@ PlottedArea LayOutCartesian(const LayoutContext& context, const Box& box) {
     PlottedArea finished;
     finished.plotted = PlottedValues(context.chart);
     const PlotDemand demand = DemandOf(context.chart, finished.plotted);
-    if (!demand.HasValues()) context.builder.Warn(QStringLiteral("there is no value to show"));
-    const AxesPlan plan = PlanThatFits(context, demand, box);
+    WarnOf(context, demand);
+    const double names = DirectNamesWidth(context, box);
+    const Box room{box.left, box.top, box.right - names, box.bottom};
+    const AxesPlan plan = PlanThatFits(context, demand, finished.plotted, room);
     finished.area = plan.area;
     finished.bars = ClusterOf(context.chart.Plot, finished.plotted, finished.area);
     context.builder.AddRectangle({PartCode::Plot}, plan.area.box, {});
     LayOutGrid(context, demand, plan);
     const PlotContext plot{context, finished};
     LayOutMarks(plot, demand);
-    LayOutAxes(context, demand, plan, box);
-    LayOutDataLabels(plot);
+    LayOutAxes(context, demand, plan, room);
+    if (names > 0) LayOutDirectNames(plot);
+    LayOutDataLabels(plot, room);
     return finished;
 }
 

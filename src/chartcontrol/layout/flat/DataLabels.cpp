@@ -5,11 +5,11 @@
 #include "chartcontrol/layout/text/LabelLines.h"
 #include "chartcontrol/layout/text/LabelPlaces.h"
 #include "chartcontrol/layout/text/LabelText.h"
-#include "chartcontrol/layout/text/Occupancy.h"
 #include "chartcontrol/layout/text/TextBlock.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace QmChart6 {
 
@@ -18,7 +18,6 @@ namespace {
 /// Labels closer than this along the axis are not even tried. Points.
 constexpr double ClosestPitch = 5;
 constexpr double LongestDataLabel = 160;
-constexpr int MostLines = 3;
 
 /// A label that wants a place. Lower ranks are placed first.
 struct Candidate {
@@ -29,23 +28,60 @@ struct Candidate {
     int rank = 1;
 };
 
+/// A label that has one.
+struct PlacedLabel {
+    const Candidate* candidate = nullptr;
+    TextBlock block;
+    FoundPlace found;
+};
+
+/// Where all of the labels go that can be placed, and the picture's ground with them.
+struct Attempt {
+    Ground ground;
+    std::vector<PlacedLabel> placed;
+    std::vector<const Candidate*> left;
+};
+
 class Labeller {
 public:
-    explicit Labeller(const PlotContext& context)
-        : context_(context), taken_(context.area.box.Grown(1)), texts_(context.chart) {}
+    Labeller(const PlotContext& context, const Box& room)
+        : context_(context), room_(room), texts_(context.chart) {}
 
     void Run() {
         for (int number = 1; number <= context_.chart.Plot.SeriesCollection.Count(); ++number)
             if (IsDrawn(context_.chart, number)) Collect(number);
+        if (candidates_.empty()) return;
         std::stable_sort(candidates_.begin(), candidates_.end(),
                          [](const Candidate& a, const Candidate& b) { return a.rank < b.rank; });
-        int omitted = 0;
-        for (const Candidate& candidate : candidates_)
-            if (!Place(candidate)) ++omitted;
-        if (omitted > 0) context_.builder.Warn(QStringLiteral("%1 data labels have no room").arg(omitted));
+        const Attempt best = BestAttempt();
+        for (const PlacedLabel& label : best.placed) Draw(label);
+        if (!best.left.empty())
+            context_.builder.Warn(QStringLiteral("%1 data labels have no room").arg(best.left.size()));
     }
 
 private:
+    /// As the labels are turned, or all upright where more fit so; then the others as they can be.
+    [[nodiscard]] Attempt BestAttempt() {
+        std::vector<const Candidate*> all;
+        for (const Candidate& candidate : candidates_) all.push_back(&candidate);
+        const Ground ground(context_.builder.Built(), room_, context_.chart.Backdrop.Fill.Brush.FillColor);
+        Attempt level{ground, {}, {}};
+        Place(level, all, false);
+        if (level.left.empty()) return level;
+        Attempt upright{ground, {}, {}};
+        Place(upright, all, true);
+        const bool turned = upright.left.size() < level.left.size();
+        Attempt& best = turned ? upright : level;
+        const std::vector<const Candidate*> rest = std::exchange(best.left, {});
+        Place(best, rest, !turned);
+        return std::move(best);
+    }
+
+    void Place(Attempt& attempt, const std::vector<const Candidate*>& candidates, bool upright) {
+        for (const Candidate* candidate : candidates)
+            if (!Place(attempt, *candidate, upright)) attempt.left.push_back(candidate);
+    }
+
     [[nodiscard]] const Series& SeriesOf(int number) const {
         return context_.chart.Plot.SeriesCollection(number);
     }
@@ -76,6 +112,8 @@ private:
     }
 
     void Add(int number, int category, double value, const LabelAnchor& anchor) {
+        // Without a place on a logarithmic axis there is nothing to stand at.
+        if (std::isnan(anchor.box.left) || std::isnan(anchor.box.top)) return;
         if (ShowsLabel(SeriesOf(number).DataPoints.Item(category + 1).DataPointLabel))
             candidates_.push_back({number, category, value, anchor, 1});
     }
@@ -107,44 +145,53 @@ private:
         return {context_.plot.BarOf(number, category), true, down};
     }
 
-    bool Place(const Candidate& candidate) {
-        const DataPoint& look = SeriesOf(candidate.series).DataPoints.Item(candidate.category + 1);
-        const DataPointLabel& label = look.DataPointLabel;
-        const QString text = texts_.Of(label, candidate.series, candidate.category, candidate.value);
-        TextBlock block = BreakText(text, label.VtFont, label.TextLayout.Orientation,
-                                    {LongestDataLabel, MostLines}, context_.measurer);
-        const bool withLine = label.LineStyle != LabelLineStyle::None;
-        for (const LabelPlace& place :
-             PlacesFor(label.LocationType, candidate.anchor, block.Extent(), withLine)) {
-            if (!taken_.Take(place.box)) continue;
-            const Part part{PartCode::PointLabel, candidate.series, candidate.category + 1};
-            if (place.away)
-                AddLabelLine(context_.builder, part, label.LineStyle, From(candidate.anchor, place.box),
-                             place.box, label.VtFont.VtColor);
-            const bool onBar = candidate.anchor.isBar && candidate.anchor.box.Contains(place.box.Center());
-            if (onBar) block.font = ReadableFont(block.font, look.Brush.FillColor);
-            PlaceText(context_.builder, part, block, place.box, HorizontalAlignment::Center,
-                      VerticalAlignment::Center);
-            return true;
-        }
-        return false;
+    /// Only what runs level may be turned, and only where it is narrower so: at bars.
+    bool Place(Attempt& attempt, const Candidate& candidate, bool upright) {
+        const DataPointLabel& label = LabelOf(candidate);
+        const bool level = label.TextLayout.Orientation == Orientation::Horizontal;
+        if (upright && (!level || !candidate.anchor.isBar)) return false;
+        const QStringList pieces = texts_.Of(label, candidate.series, candidate.category, candidate.value);
+        TextBlock block =
+            BreakLabel(pieces, label.VtFont, upright ? Orientation::Up : label.TextLayout.Orientation,
+                       LongestDataLabel, context_.measurer);
+        if (block.IsEmpty()) return true;
+        const std::optional<FoundPlace> found =
+            FindPlace(attempt.ground, candidate.anchor,
+                      PlacesFor(label.LocationType, candidate.anchor, block.Extent(),
+                                label.LineStyle != LabelLineStyle::None));
+        if (!found) return false;
+        const Box& box = found->place.box;
+        attempt.ground.Take(box);
+        if (found->place.stand == LabelStand::Away)
+            attempt.ground.Draw(LineStart(candidate.anchor, box), box.Center());
+        attempt.placed.push_back({&candidate, std::move(block), *found});
+        return true;
     }
 
-    static Point From(const LabelAnchor& anchor, const Box& label) {
-        const double x = anchor.box.Center().x;
-        return {x, label.Center().y < anchor.box.Center().y ? anchor.box.top : anchor.box.bottom};
+    void Draw(const PlacedLabel& label) {
+        const Candidate& candidate = *label.candidate;
+        const Part part{PartCode::PointLabel, candidate.series, candidate.category + 1};
+        const Box& box = label.found.place.box;
+        if (label.found.place.stand == LabelStand::Away)
+            AddLabelLine(context_.builder, part, LabelOf(candidate).LineStyle,
+                         LineStart(candidate.anchor, box), box, label.block.font.VtColor);
+        DrawLabel(context_.builder, part, label.block, label.found);
+    }
+
+    [[nodiscard]] const DataPointLabel& LabelOf(const Candidate& candidate) const {
+        return SeriesOf(candidate.series).DataPoints.Item(candidate.category + 1).DataPointLabel;
     }
 
     const PlotContext& context_;
-    Occupancy taken_;
+    Box room_;
     LabelTexts texts_;
     std::vector<Candidate> candidates_;
 };
 
 } // namespace
 
-void LayOutDataLabels(const PlotContext& context) {
-    Labeller(context).Run();
+void LayOutDataLabels(const PlotContext& context, const Box& room) {
+    Labeller(context, room).Run();
 }
 
 } // namespace QmChart6

@@ -9,13 +9,13 @@ namespace {
 
 void LayOutRuns(const PlotContext& context, int number, const Runs& runs) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     for (std::size_t run = 0; run < runs.Count(); ++run) {
         if (runs.starts[run + 1] - runs.starts[run] < 2) continue;
         for (std::size_t i = runs.starts[run]; i < runs.starts[run + 1]; ++i)
             context.builder.AddPoint(
                 {context.area.CategoryX(runs.samples[i].category), map.At(runs.samples[i].value)});
-        context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(series));
+        context.builder.AddPolyline({PartCode::Series, number}, LineStrokeOf(context.chart, series));
     }
 }
 

@@ -4,7 +4,9 @@
 #include "chartcontrol/layout/data/Statistics.h"
 #include "chartcontrol/layout/data/XYPairs.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace QmChart6 {
 
@@ -28,6 +30,10 @@ Statistics StatisticsOf(const Chart& chart, int number) {
 
 /// How much wider the rim of a statistics line is than the line, in points.
 constexpr double Rim = 1.5;
+/// A line on the edge of the plot, but for rounding.
+constexpr double OnEdge = 1e-6;
+/// A curve is drawn in so many straight pieces.
+constexpr int CurvePieces = 96;
 
 class SeriesLines {
 public:
@@ -53,23 +59,53 @@ private:
         const PlotArea& area = context_.area;
         return PairsColumns(context_.chart) ? area.across.At(x) : area.CategoryX(0) + (x - 1) * area.slot;
     }
-    void Add(Point from, Point to, PenStyle style) {
-        const Part part{PartCode::Statistics, number_};
+    /// Lines that leave the plot are cut at its edge.
+    void Add(const std::vector<Point>& points, PenStyle style) {
+        const Box& plot = context_.area.box;
+        const bool leaves =
+            !std::ranges::all_of(points, [&](Point point) { return plot.Grown(OnEdge).Contains(point); });
+        if (leaves) context_.builder.SetClip(plot);
         // On bars and areas of its own colour the line would not be seen without a rim.
         const Colour ground = context_.chart.Backdrop.Fill.Brush.FillColor;
         if (KindOf(MarkOfSeries(context_.chart, number_)).isFilled)
-            context_.builder.AddLine(part, from, to, {PenStyle::Solid, line_.Width + Rim, ground}, false);
-        context_.builder.AddLine(part, from, to, {style, line_.Width, line_.VtColor}, false);
+            AddStroke(points, {PenStyle::Solid, line_.Width + Rim, ground});
+        AddStroke(points, {style, line_.Width, line_.VtColor});
+    }
+    void AddStroke(const std::vector<Point>& points, const Stroke& stroke) {
+        for (const Point& point : points) context_.builder.AddPoint(point);
+        context_.builder.AddPolyline({PartCode::Statistics, number_}, stroke);
     }
     void Level(double value, PenStyle style) {
         const double y = context_.plot.Y(number_, value);
-        Add({context_.area.box.left, y}, {context_.area.box.right, y}, style);
+        const Box& plot = context_.area.box;
+        if (plot.Grown(OnEdge).Contains({plot.left, y})) Add({{plot.left, y}, {plot.right, y}}, style);
     }
+    [[nodiscard]] Point Fitted(double x) const {
+        return {PlaceOf(x), context_.plot.Y(number_, statistics_.Fitted(x))};
+    }
+    /// Straight on linear axes; where one is logarithmic a curve, which ends where it is no longer above
+    /// zero.
     void Regression() {
+        const AxisMap& across = context_.area.across;
+        const bool bends = context_.plot.MapOf(number_).IsLogarithmic() ||
+                           (PairsColumns(context_.chart) && across.IsLogarithmic());
+        const int pieces = bends ? CurvePieces : 1;
+        std::vector<Point> points;
+        for (int i = 0; i <= pieces; ++i) {
+            const Point point = Fitted(XAt(static_cast<double>(i) / pieces));
+            if (!std::isnan(point.x) && !std::isnan(point.y)) points.push_back(point);
+        }
+        if (points.size() > 1) Add(points, PenStyle::Solid);
+    }
+    /// The x of a part of the way from the first to the last, in even steps on the page.
+    [[nodiscard]] double XAt(double part) const {
         const double first = statistics_.FirstX();
         const double last = statistics_.LastX();
-        Add({PlaceOf(first), context_.plot.Y(number_, statistics_.Fitted(first))},
-            {PlaceOf(last), context_.plot.Y(number_, statistics_.Fitted(last))}, PenStyle::Solid);
+        const AxisMap& across = context_.area.across;
+        const bool bends = PairsColumns(context_.chart) && across.IsLogarithmic() && first > 0;
+        if (bends && part > 0 && part < 1)
+            return across.ValueAt(across.At(first) * (1 - part) + across.At(last) * part);
+        return first * (1 - part) + last * part;
     }
 
     const PlotContext& context_;

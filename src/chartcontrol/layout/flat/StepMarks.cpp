@@ -6,7 +6,7 @@ namespace QmChart6 {
 
 void LayOutStep(const PlotContext& context, int number) {
     const Series& series = context.chart.Plot.SeriesCollection(number);
-    const LinearMap& map = context.plot.MapOf(number);
+    const AxisMap& map = context.plot.MapOf(number);
     const std::shared_ptr<const Runs> collected = CollectRuns(context.plotted.Top(number), context.area);
     const Runs& runs = *collected;
     for (std::size_t run = 0; run < runs.Count(); ++run) {
@@ -16,7 +16,7 @@ void LayOutStep(const PlotContext& context, int number) {
             context.builder.AddPoint({x - context.area.slot / 2, y});
             context.builder.AddPoint({x + context.area.slot / 2, y});
         }
-        Stroke stroke = LineStrokeOf(series);
+        Stroke stroke = LineStrokeOf(context.chart, series);
         if (stroke.style == PenStyle::None) stroke.style = PenStyle::Solid;
         context.builder.AddPolyline({PartCode::Series, number}, stroke);
     }

@@ -1,9 +1,12 @@
 #include "chartcontrol/layout/pie/PieLabels.h"
 
 #include "chartcontrol/layout/text/LabelLines.h"
+#include "chartcontrol/layout/text/LabelPlaces.h"
 #include "chartcontrol/layout/text/LabelText.h"
+#include "chartcontrol/layout/text/Spread.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -16,8 +19,9 @@ constexpr double PieLabelGap = 4;
 constexpr double Apart = 1.5;
 /// With lines, labels stand this much farther out.
 constexpr double LineRoom = 9;
-/// Where labels inside stand, as a part of the radius.
-constexpr double InsideShare = 0.64;
+/// Where labels inside may stand, as parts of the radius, and how far they stay from their slice's rim.
+constexpr std::array InsideShares{0.64, 0.72, 0.56, 0.8, 0.48};
+constexpr double InsideAir = 1;
 /// A label without a line that had to move farther than this many of its heights would be taken for another
 /// slice's.
 constexpr double FarthestWithoutLine = 1.2;
@@ -30,7 +34,7 @@ Point DirectionOf(double turn) {
 
 TextBlock BlockOf(const PieLabel& label, double length, const TextMeasurer& measurer) {
     const DataPointLabel& look = label.look->DataPointLabel;
-    return BreakText(label.text, look.VtFont, look.TextLayout.Orientation, {length, 2}, measurer);
+    return BreakLabel(label.text, look.VtFont, look.TextLayout.Orientation, length, measurer);
 }
 
 LabelLineStyle LineOf(const PieLabel& label) {
@@ -46,47 +50,30 @@ struct Placed {
     double y = 0;
 };
 
-/// Moves labels, sorted by their wish, as little as can be so that none meets the next and all stay within.
-/// Neighbours that meet become one block that stands at the mean of its members' wishes.
-void Spread(std::vector<Placed>& labels, double top, double bottom) {
-    struct Block {
-        std::size_t first;
-        std::size_t count;
-        double sum; // of what each member wishes for the block's start
-        double height;
-        [[nodiscard]] double Start(double low, double high) const {
-            return std::clamp(sum / static_cast<double>(count), low, std::max(low, high - height));
-        }
-    };
-    std::vector<Block> blocks;
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        const double height = labels[i].size.height + Apart;
-        blocks.push_back({i, 1, labels[i].wished - height / 2, height});
-        while (blocks.size() > 1) {
-            Block& before = blocks[blocks.size() - 2];
-            const Block& last = blocks.back();
-            if (before.Start(top, bottom) + before.height <= last.Start(top, bottom)) break;
-            // A member's wish for the start of the joint block is its own less what stands above it.
-            before.sum += last.sum - static_cast<double>(last.count) * before.height;
-            before.count += last.count;
-            before.height += last.height;
-            blocks.pop_back();
-        }
+/// The place on a slice where all of a label lies on it: the usual one, else farther out, else nearer.
+std::optional<FoundPlace> FindOnSlice(const Ground& ground, const PieLabel& label, const Size& size,
+                                      const PieCircle& circle) {
+    const Point direction = DirectionOf(label.turn);
+    const double whole = label.share > 0.999 ? 0 : 1; // the only slice's label stands in the middle
+    for (const double share : InsideShares) {
+        const double away = circle.radius * share * whole;
+        const Point middle{circle.center.x + direction.x * away, circle.center.y + direction.y * away};
+        const Box box{middle.x - size.width / 2, middle.y - size.height / 2, middle.x + size.width / 2,
+                      middle.y + size.height / 2};
+        const Ground::Footing footing = ground.Under(box.Grown(InsideAir));
+        const bool onSlice =
+            footing.share > 0.999 && footing.lines == 0 && ground.PartOf(footing.shape) == label.slice;
+        if (footing.free && onSlice)
+            return FoundPlace{
+                {box, LabelStand::On}, footing.even ? footing.colour : ground.PlainColour(), !footing.even};
     }
-    for (const Block& block : blocks) {
-        double y = block.Start(top, bottom);
-        for (std::size_t i = block.first; i < block.first + block.count; ++i) {
-            const double height = labels[i].size.height + Apart;
-            labels[i].y = y + height / 2;
-            y += height;
-        }
-    }
+    return std::nullopt;
 }
 
 class OutsideLabels {
 public:
-    OutsideLabels(const LayoutContext& context, const PieCircle& circle, Occupancy& taken)
-        : context_(context), circle_(circle), taken_(taken) {}
+    OutsideLabels(const LayoutContext& context, const PieCircle& circle, Ground& ground)
+        : context_(context), circle_(circle), ground_(ground) {}
 
     int Side(std::vector<const PieLabel*> labels, bool right) {
         int omitted = DropWhatCannotFit(labels);
@@ -102,9 +89,13 @@ public:
         }
         std::stable_sort(side.begin(), side.end(),
                          [](const Placed& a, const Placed& b) { return a.wished < b.wished; });
-        Spread(side, circle_.cell.top, circle_.cell.bottom);
-        for (const Placed& placed : side)
-            if (!Place(placed, right)) ++omitted;
+        std::vector<SpreadPiece> pieces;
+        for (const Placed& placed : side) pieces.push_back({placed.size.height + Apart, placed.wished});
+        const std::vector<double> middles = SpreadOut(pieces, circle_.cell.top, circle_.cell.bottom);
+        for (std::size_t i = 0; i < side.size(); ++i) {
+            side[i].y = middles[i] - Apart / 2;
+            if (!Place(side[i], right)) ++omitted;
+        }
         return omitted;
     }
 
@@ -157,19 +148,26 @@ private:
             box = {right ? x : x - size.width, placed.y - size.height / 2, right ? x + size.width : x,
                    placed.y + size.height / 2};
         }
-        if (!taken_.Take(box)) return false;
+        const Ground::Footing footing = ground_.Under(box);
+        if (!footing.free || !footing.even) return false;
         const Point direction = DirectionOf(placed.label->turn);
         const Point rim{circle_.center.x + direction.x * (circle_.radius + 1),
                         circle_.center.y + direction.y * (circle_.radius + 1)};
+        if (style != LabelLineStyle::None) {
+            const Point end{right ? box.left - 1 : box.right + 1, box.Center().y};
+            if (!ground_.IsFreeWay(rim, end)) return false;
+            ground_.Draw(rim, end);
+        }
+        ground_.Take(box);
         AddLabelLine(context_.builder, placed.label->part, style, rim, box, block.font.VtColor);
-        PlaceText(context_.builder, placed.label->part, block, box,
-                  right ? HorizontalAlignment::Left : HorizontalAlignment::Right, VerticalAlignment::Center);
+        DrawLabel(context_.builder, placed.label->part, block, {{box}, footing.colour, false},
+                  right ? HorizontalAlignment::Left : HorizontalAlignment::Right);
         return true;
     }
 
     const LayoutContext& context_;
     const PieCircle& circle_;
-    Occupancy& taken_;
+    Ground& ground_;
 };
 
 } // namespace
@@ -185,38 +183,29 @@ Size OutsideReach(const std::vector<PieLabel>& labels, const TextMeasurer& measu
     return reach;
 }
 
-int PlaceInside(const LayoutContext& context, const std::vector<PieLabel>& labels, const PieCircle& circle,
-                Occupancy& taken) {
-    int omitted = 0;
+std::vector<PieLabel> PlaceInside(const LayoutContext& context, const std::vector<PieLabel>& labels,
+                                  const PieCircle& circle, Ground& ground) {
+    std::vector<PieLabel> left;
     for (const PieLabel& label : labels) {
-        TextBlock block = BlockOf(label, circle.radius, context.measurer);
-        const Size size = block.Extent();
-        const Point direction = DirectionOf(label.turn);
-        const Point middle{circle.center.x + direction.x * circle.radius * InsideShare,
-                           circle.center.y + direction.y * circle.radius * InsideShare};
-        const Box box{middle.x - size.width / 2, middle.y - size.height / 2, middle.x + size.width / 2,
-                      middle.y + size.height / 2};
-        // A label that is wider than its slice there would lie on the next one.
-        const double chord =
-            2 * circle.radius * InsideShare * std::sin(std::numbers::pi * std::min(label.share, 0.5));
-        const bool fits = label.share >= 0.5 || chord >= std::min(size.width, size.height);
-        if (!fits || !taken.Take(box)) {
-            ++omitted;
+        const TextBlock block = BlockOf(label, circle.radius, context.measurer);
+        if (block.IsEmpty()) continue;
+        const std::optional<FoundPlace> found = FindOnSlice(ground, label, block.Extent(), circle);
+        if (!found) {
+            left.push_back(label);
             continue;
         }
-        block.font = ReadableFont(block.font, label.look->Brush.FillColor);
-        PlaceText(context.builder, label.part, block, box, HorizontalAlignment::Center,
-                  VerticalAlignment::Center);
+        ground.Take(found->place.box);
+        DrawLabel(context.builder, label.part, block, *found);
     }
-    return omitted;
+    return left;
 }
 
 int PlaceOutside(const LayoutContext& context, const std::vector<PieLabel>& labels, const PieCircle& circle,
-                 Occupancy& taken) {
+                 Ground& ground) {
     std::vector<const PieLabel*> left;
     std::vector<const PieLabel*> right;
     for (const PieLabel& label : labels) (DirectionOf(label.turn).x < 0 ? left : right).push_back(&label);
-    OutsideLabels places(context, circle, taken);
+    OutsideLabels places(context, circle, ground);
     return places.Side(right, true) + places.Side(left, false);
 }
 

@@ -1,7 +1,9 @@
 #include "chartcontrol/layout/pie/PieLayout.h"
+#include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/data/Sums.h"
 #include "chartcontrol/layout/pie/PieLabels.h"
+#include "chartcontrol/layout/text/LabelPlaces.h"
 #include "chartcontrol/layout/text/LabelText.h"
-#include "chartcontrol/layout/text/Occupancy.h"
 #include "chartcontrol/layout/text/TextBlock.h"
 
 #include <algorithm>
@@ -33,7 +35,7 @@ struct PieGrid {
 class PiesLayout {
 public:
     PiesLayout(const LayoutContext& context, const Box& box)
-        : context_(context), chart_(context.chart), box_(box), texts_(context.chart), taken_(box),
+        : context_(context), chart_(context.chart), box_(box), texts_(context.chart),
           nameFont_(chart_.Plot.Axis(AxisId::X).Labels.Item(1).VtFont),
           places_(chart_.Plot.SeriesCollection.Count(), chart_.CategoryCount()) {}
 
@@ -44,7 +46,9 @@ public:
                      .arg(chart_.CategoryCount() - grid_.shown)
                      .arg(chart_.CategoryCount()));
         for (int category = 0; category < grid_.shown; ++category) Pie(category);
+        LayOutLabels();
         if (negatives_ > 0) Warn(QStringLiteral("%1 negative values have no slice").arg(negatives_));
+        if (zeros_ > 0) Warn(QStringLiteral("%1 zeros have no slice").arg(zeros_));
         if (omittedLabels_ > 0) Warn(QStringLiteral("%1 data labels have no room").arg(omittedLabels_));
         return std::move(places_);
     }
@@ -57,7 +61,7 @@ private:
     /// The labels of a category's slices, those inside or those outside.
     [[nodiscard]] std::vector<PieLabel> Labels(int category, bool inside) {
         std::vector<PieLabel> labels;
-        const double sum = SumOf(category);
+        const double sum = ScaledSumOf(category);
         if (!(sum > 0)) return labels;
         double before = 0;
         for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number) {
@@ -66,13 +70,15 @@ private:
             const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
             const LabelLocation location = look.DataPointLabel.LocationType;
             const bool isInside = location == LabelLocation::Inside || location == LabelLocation::Center;
+            const double share = ShareOf(number, category, sum);
             if (ShowsLabel(look.DataPointLabel) && isInside == inside)
                 labels.push_back({{PartCode::PointLabel, number, category + 1},
-                                  texts_.WithShare(look.DataPointLabel, number, value, value / sum),
-                                  before + value / sum / 2,
-                                  value / sum,
+                                  {PartCode::Series, number, category + 1},
+                                  texts_.WithShare(look.DataPointLabel, number, value, share),
+                                  before + share / 2,
+                                  share,
                                   &look});
-            before += value / sum;
+            before += share;
         }
         return labels;
     }
@@ -141,26 +147,53 @@ private:
         const Box cell{left, pieTop, left + grid_.cell.width, pieTop + grid_.cell.height - grid_.nameHeight};
         Slices(category, center);
         Name(category, center);
-        const PieCircle circle{center, grid_.diameter / 2, cell};
-        omittedLabels_ += PlaceInside(context_, Labels(category, true), circle, taken_);
-        omittedLabels_ += PlaceOutside(context_, Labels(category, false), circle, taken_);
+        circles_.push_back({center, grid_.diameter / 2, cell});
     }
 
-    [[nodiscard]] double SumOf(int category) const {
+    /// Once all pies and their names stand. Labels that have no room on their slice go outside.
+    void LayOutLabels() {
+        std::vector<std::vector<PieLabel>> inside;
+        std::vector<std::vector<PieLabel>> outside;
+        bool any = false;
+        for (int category = 0; category < grid_.shown; ++category) {
+            inside.push_back(Labels(category, true));
+            outside.push_back(Labels(category, false));
+            any = any || !inside.back().empty() || !outside.back().empty();
+        }
+        if (!any) return;
+        Ground ground(context_.builder.Built(), box_, chart_.Backdrop.Fill.Brush.FillColor);
+        for (std::size_t pie = 0; pie < circles_.size(); ++pie) {
+            std::vector<PieLabel>& rest = outside[pie];
+            const std::vector<PieLabel> moved = PlaceInside(context_, inside[pie], circles_[pie], ground);
+            rest.insert(rest.end(), moved.begin(), moved.end());
+            omittedLabels_ += PlaceOutside(context_, rest, circles_[pie], ground);
+        }
+    }
+
+    [[nodiscard]] double ScaledSumOf(int category) const {
         double sum = 0;
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
             const double value = chart_.SeriesValues(series)[category];
-            if (value > 0) sum += value;
+            if (value > 0) sum += value * SumUnit;
         }
         return sum;
+    }
+
+    [[nodiscard]] double ShareOf(int series, int category, double scaledSum) const {
+        return chart_.SeriesValues(series)[category] * SumUnit / scaledSum;
+    }
+
+    void Count(double value) {
+        if (value < 0) ++negatives_;
+        if (value == 0) ++zeros_;
     }
 
     void Slices(int category, Point center) {
         const double radius = std::max(1.0, grid_.diameter / 2);
         const Box round{center.x - radius, center.y - radius, center.x + radius, center.y + radius};
-        const double sum = SumOf(category);
+        const double sum = ScaledSumOf(category);
         for (int number = 1; number <= chart_.Plot.SeriesCollection.Count(); ++number)
-            if (chart_.SeriesValues(number)[category] < 0) ++negatives_;
+            Count(chart_.SeriesValues(number)[category]);
         if (!(sum > 0)) {
             // Nothing to divide: an empty ring keeps the pie's place.
             context_.builder.AddSlice({PartCode::Plot}, {round, 0, 360}, {},
@@ -172,11 +205,11 @@ private:
             const double value = chart_.SeriesValues(number)[category];
             if (!(value > 0)) continue;
             const DataPoint& look = chart_.Plot.SeriesCollection(number).DataPoints.Item(category + 1);
-            const double share = value / sum;
+            const double share = ShareOf(number, category, sum);
             const double end = before + share;
             const Slice slice{round, TurnStart - 360 * end, 360 * share};
             context_.builder.AddSlice({PartCode::Series, number, category + 1}, slice, FillOf(look.Brush),
-                                      StrokeOf(look.EdgePen));
+                                      EdgeOf(chart_, look));
             places_.Add({number, category + 1}, slice);
             before = end;
         }
@@ -195,7 +228,7 @@ private:
             context_.builder.AddPoint(
                 {center.x + radius * std::sin(angle), center.y - radius * std::cos(angle)});
             context_.builder.AddPoint(center);
-            before += value / sum;
+            before += ShareOf(number, category, sum);
             ++slices;
         }
         const double width = radius > 20 ? 1.0 : 0.5;
@@ -204,6 +237,16 @@ private:
                                          {PenStyle::Solid, width, chart_.Backdrop.Fill.Brush.FillColor});
         else
             context_.builder.DropPendingPoints();
+    }
+
+    /// What a name on the slices is read on.
+    void Plate(const TextBlock& block, Point center) {
+        if (block.IsEmpty()) return;
+        const Size half{block.Length() / 2 + PlateRim, block.Depth() / 2 + PlateRim};
+        context_.builder.AddRectangle(
+            {PartCode::Plot},
+            {center.x - half.width, center.y - half.height, center.x + half.width, center.y + half.height},
+            SolidFill(chart_.Backdrop.Fill.Brush.FillColor), {}, false);
     }
 
     void Name(int category, Point center) {
@@ -215,7 +258,10 @@ private:
         Box place{center.x, center.y - radius - depth, center.x, center.y - radius - NameGap};
         if (NamePosition() == SubPlotLabelPosition::Below)
             place = {center.x, center.y + radius + NameGap, center.x, center.y + radius + depth};
-        if (NamePosition() == SubPlotLabelPosition::Center) place = {center.x, center.y, center.x, center.y};
+        if (NamePosition() == SubPlotLabelPosition::Center) {
+            place = {center.x, center.y, center.x, center.y};
+            Plate(block, center);
+        }
         PlaceText(context_.builder, {PartCode::AxisLabel, static_cast<int>(AxisId::X), category + 1}, block,
                   place, HorizontalAlignment::Center, VerticalAlignment::Center);
     }
@@ -224,11 +270,12 @@ private:
     const Chart& chart_;
     Box box_;
     LabelTexts texts_;
-    Occupancy taken_;
     Font nameFont_;
     PieGrid grid_;
     PiePlaces places_;
+    std::vector<PieCircle> circles_;
     int negatives_ = 0;
+    int zeros_ = 0;
     int omittedLabels_ = 0;
 };
 

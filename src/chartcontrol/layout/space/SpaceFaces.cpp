@@ -52,9 +52,11 @@ void SpaceFaces::AddSheet(Part part, std::span<const SpacePoint> corners, SpaceP
 SpaceFaces::Drawn SpaceFaces::Draw(Part part, std::span<const SpacePoint> corners, SpacePoint normal,
                                    const Brush& brush) {
     Point sum;
+    Box bounds = Box::Nothing();
     for (const SpacePoint& corner : corners) {
         const Point page = plan_.Page(corner);
         builder_.AddPoint(page);
+        bounds.Include(page);
         sum = {sum.x + page.x, sum.y + page.y};
     }
     SceneFill fill = FillOf(brush);
@@ -64,7 +66,6 @@ SpaceFaces::Drawn SpaceFaces::Draw(Part part, std::span<const SpacePoint> corner
     builder_.AddPolygon(
         part, fill,
         {PenStyle::Solid, FaceEdgeWidth, Lit(Shaded(brush.FillColor, normal), open ? 1 : EdgeLight)});
-    const Box& bounds = builder_.Built().shapes.back().bounds;
     const auto count = static_cast<double>(corners.size());
     return {{sum.x / count, sum.y / count}, bounds.Width() * bounds.Height()};
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace QmChart6 {
 
@@ -16,6 +17,10 @@ constexpr double DeepestDepth = 0.6;
 constexpr double LowestHeight = 0.5;
 constexpr double GreatestHeight = 2.0;
 constexpr int HeightSteps = 24;
+/// Rooms so much wider than high may have a space that is flatter, and no deeper than this.
+constexpr double WideFrom = 2;
+constexpr double FlattestHeight = 0.12;
+constexpr double WideDepth = 0.25;
 /// Series names along the depth take at most this part of the width.
 constexpr double WidestNameShare = 0.2;
 constexpr double SpaceTitleGapShare = 0.55;
@@ -45,7 +50,7 @@ public:
             if (needed <= labelDepth_ + 0.01) break;
             labelDepth_ = needed;
         }
-        PlanValues(plan_.size.y * plan_.scale);
+        PlanValues(std::min(UprightLength(true), UprightLength(false)));
         plan_.primaryMap = plan_.primary.Map(0, plan_.size.y);
         plan_.secondaryMap = plan_.secondary.Map(0, plan_.size.y);
         return plan_;
@@ -99,16 +104,27 @@ private:
             {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
     }
 
-    [[nodiscard]] TextBlock Title(AxisId id, double length) const {
+    [[nodiscard]] bool HasTitle(AxisId id) const {
         const AxisTitle& title = AxisOf(id).AxisTitle;
-        if (plan_.furniture != Furniture::All || AxisOf(id).AxisScale.Hide || !title.Visible) return {};
-        return BreakText(title.Text, title.VtFont, title.TextLayout.Orientation, {length, 1},
-                         context_.measurer);
+        return plan_.furniture == Furniture::All && !AxisOf(id).AxisScale.Hide && title.Visible &&
+               !title.Text.isEmpty();
+    }
+    [[nodiscard]] TextBlock Title(AxisId id, double length, const QString& unit = {}) const {
+        if (!HasTitle(id)) return {};
+        const AxisTitle& title = AxisOf(id).AxisTitle;
+        return BreakText(TitleWithUnit(title.Text, unit), title.VtFont, title.TextLayout.Orientation,
+                         {length, 1}, context_.measurer);
+    }
+    [[nodiscard]] TextBlock Unit(AxisId id, const QString& unit) const {
+        if (unit.isEmpty() || HasTitle(id) || !Shown(id)) return {};
+        return ElidedLine(unit, AxisOf(id).Labels.Item(1).VtFont, box_.Width() / 2, context_.measurer);
     }
 
     [[nodiscard]] Box RoomForSpace() {
         plan_.xTitle = Title(AxisId::X, 0.6 * box_.Width());
-        plan_.yTitle = Title(AxisId::Y, box_.Height());
+        plan_.yTitle = Title(AxisId::Y, box_.Height(), plan_.primary.unit);
+        plan_.yUnit = Unit(AxisId::Y, plan_.primary.unit);
+        plan_.secondaryUnit = Unit(AxisId::SecondaryY, plan_.secondary.unit);
         plan_.zTitle = Title(AxisId::Z, 0.25 * box_.Width());
         Box room = box_;
         const auto gap = [&](AxisId id) { return AxesPlan::LabelGap(AxisOf(id)); };
@@ -125,7 +141,8 @@ private:
         if (Shown(AxisId::X)) LeaveRoomForCategories(room, gap(AxisId::X));
         room.bottom -= std::max(title(plan_.xTitle, plan_.xTitle.Extent().height),
                                 title(plan_.zTitle, plan_.zTitle.Extent().height));
-        room.top += 0.6 * AxisOf(AxisId::Y).Labels.Item(1).VtFont.Size;
+        room.top += 0.6 * AxisOf(AxisId::Y).Labels.Item(1).VtFont.Size +
+                    std::max(plan_.yUnit.Depth(), plan_.secondaryUnit.Depth());
         room.right = std::max(room.right, room.left + 1);
         room.bottom = std::max(room.bottom, room.top + 1);
         return room;
@@ -178,11 +195,9 @@ private:
     /// How far the labels of the categories reach down when they stand so far apart.
     [[nodiscard]] double LabelDepth(double pitch) const {
         const Font& font = AxisOf(AxisId::X).Labels.Item(1).VtFont;
-        const Chart& chart = context_.chart;
-        const CategoryLabelPlan labels = PlanCategoryLabels(
-            {chart.CategoryCount(), [&](int category) { return chart.CategoryName(category + 1); }, pitch,
-             LabelDepthShare * box_.Height()},
-            font, context_.measurer);
+        CategorySequence categories = CategoriesOf(context_.chart);
+        const CategoryLabelPlan labels =
+            PlanCategoryLabels({categories, pitch, LabelDepthShare * box_.Height()}, font, context_.measurer);
         return labels.Depth();
     }
 
@@ -196,18 +211,57 @@ private:
         return flat;
     }
 
+    /// How long an edge of the values is on the page.
+    [[nodiscard]] double UprightLength(bool left) const {
+        const SpacePoint low = plan_.UprightEdge(left);
+        return std::abs(plan_.Page(low).y - plan_.Page({low.x, plan_.size.y, low.z}).y);
+    }
+
+    [[nodiscard]] static bool IsTallerThan(const Box& room, const Box& flat) {
+        return flat.Height() * room.Width() > room.Height() * flat.Width();
+    }
+
     /// Halves the interval of heights until the flat picture has the room's proportions.
-    void FitHeight(const Box& room) {
-        double low = LowestHeight;
-        double high = GreatestHeight;
+    void SearchHeight(const Box& room, double low, double high) {
         for (int step = 0; step < HeightSteps; ++step) {
             plan_.size.y = (low + high) / 2;
-            const Box flat = Flat();
-            (flat.Height() * room.Width() > room.Height() * flat.Width() ? high : low) = plan_.size.y;
+            (IsTallerThan(room, Flat()) ? high : low) = plan_.size.y;
         }
+    }
+
+    void SetDepth(double depth) {
+        const double factor = depth / plan_.size.z;
+        plan_.size.z = depth;
+        plan_.rowDepth *= factor;
+        for (double& row : plan_.rows) row *= factor;
+    }
+
+    /// In wide rooms space is made less deep, and at last lower than it looks best, as long as that fills
+    /// more of the width.
+    void FitWideRoom(const Box& room) {
+        const double depth = plan_.size.z;
+        const double height = plan_.size.y;
+        const double width = Flat().Width() * ScaleIn(room);
+        SetDepth(std::max(ShallowestDepth, std::min(depth, WideDepth)));
+        SearchHeight(room, FlattestHeight, LowestHeight);
+        if (Flat().Width() * ScaleIn(room) > width) return;
+        SetDepth(depth);
+        plan_.size.y = height;
+    }
+
+    /// The scale at which the flat picture fills the room.
+    [[nodiscard]] double ScaleIn(const Box& room) {
         const Box flat = Flat();
-        plan_.scale = std::min(room.Width() / std::max(flat.Width(), 1e-9),
-                               room.Height() / std::max(flat.Height(), 1e-9));
+        return std::min(room.Width() / std::max(flat.Width(), 1e-9),
+                        room.Height() / std::max(flat.Height(), 1e-9));
+    }
+
+    void FitHeight(const Box& room) {
+        SearchHeight(room, LowestHeight, GreatestHeight);
+        plan_.size.y = std::max(plan_.size.y, LowestHeight);
+        if (room.Width() > WideFrom * room.Height() && IsTallerThan(room, Flat())) FitWideRoom(room);
+        plan_.scale = ScaleIn(room);
+        const Box flat = Flat();
         plan_.origin = {room.Center().x - flat.Center().x * plan_.scale,
                         room.Center().y - flat.Center().y * plan_.scale};
     }
@@ -241,6 +295,19 @@ double SpacePlan::RowEdgeX() const {
     const double right = Page({size.x, 0, size.z / 2}).y;
     if (std::abs(left - right) > 1e-9) return right > left ? size.x : 0;
     return View().IsBeyondX(size.x / 2) ? size.x : 0;
+}
+
+SpacePoint SpacePlan::UprightEdge(bool left) const {
+    SpacePoint best;
+    double reach = -std::numeric_limits<double>::infinity();
+    for (const double x : {0.0, size.x})
+        for (const double z : {0.0, size.z}) {
+            const double at = Page({x, size.y / 2, z}).x * (left ? -1 : 1);
+            if (!(at > reach)) continue;
+            best = {x, 0, z};
+            reach = at;
+        }
+    return best;
 }
 
 double SpacePlan::CategorySlope() const {

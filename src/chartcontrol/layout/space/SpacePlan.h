@@ -30,11 +30,14 @@ struct SpacePlan {
 
     ValueAxisPlan primary;
     ValueAxisPlan secondary;
-    LinearMap primaryMap; // values to y in space
-    LinearMap secondaryMap;
+    AxisMap primaryMap; // values to y in space
+    AxisMap secondaryMap;
     TextBlock xTitle;
     TextBlock yTitle;
     TextBlock zTitle;
+    /// What the labels of the value axes are told in, where no title tells it.
+    TextBlock yUnit;
+    TextBlock secondaryUnit;
     double zLabelWidth = 0;
     /// The widest label of a category beside a sloping edge.
     double xLabelWidth = 0;
@@ -51,11 +54,14 @@ struct SpacePlan {
     /// page.
     [[nodiscard]] double CategoryEdgeZ() const;
     [[nodiscard]] double RowEdgeX() const;
+    /// The corner of the floor whose upright edge is outermost on the page, at the left or at the right:
+    /// there the values are labelled.
+    [[nodiscard]] SpacePoint UprightEdge(bool left) const;
     /// How far the categories' edge falls to the right on the page, as a part of its width; 0 for a level
     /// one.
     [[nodiscard]] double CategorySlope() const;
 
-    [[nodiscard]] const LinearMap& MapOf(const Series& series) const {
+    [[nodiscard]] const AxisMap& MapOf(const Series& series) const {
         return series.SecondaryAxis ? secondaryMap : primaryMap;
     }
 };

@@ -49,9 +49,9 @@ private:
     [[nodiscard]] double NearX() const { return plan_.size.x - farX_; }
     [[nodiscard]] double NearZ() const { return plan_.size.z - farZ_; }
 
-    void ValueGrid(AxisId id, const ValueAxisPlan& axis, const LinearMap& map) {
-        for (int i = 0; i < axis.ticks.count; ++i) {
-            const double y = map.At(axis.ticks.At(i));
+    void ValueGrid(AxisId id, const ValueAxisPlan& axis, const AxisMap& map) {
+        for (const ValueAxisPlan::Tick& tick : axis.ticks) {
+            const double y = map.At(tick.value);
             Line(id, {farX_, y, NearZ()}, {farX_, y, farZ_}, {NearX(), y, farZ_});
         }
     }

@@ -1,5 +1,9 @@
 #include "chartcontrol/layout/text/LabelPlaces.h"
 
+#include "chartcontrol/model/ColourContrast.h"
+
+#include <algorithm>
+
 namespace QmChart6 {
 
 namespace {
@@ -8,6 +12,12 @@ namespace {
 constexpr double PlaceGap = 2.5;
 /// How many of its own heights a label may stand away from its mark.
 constexpr int FarthestAway = 3;
+/// A label on its bar stays so far from the bar's rim.
+constexpr double Air = 1.5;
+/// What part of a label's place lines may cover for a plate to be laid over them.
+constexpr double MostLines = 0.25;
+/// What part of a plate must lie on one surface: one over a bar's rim would hide where the bar ends.
+constexpr double LeastOfPlate = 0.6;
 
 Box CenteredAt(double x, double y, const Size& size) {
     return {x - size.width / 2, y - size.height / 2, x + size.width / 2, y + size.height / 2};
@@ -31,66 +41,135 @@ Box LeftOf(const Box& box, const Size& size) {
 Box RightOf(const Box& box, const Size& size) {
     return CenteredAt(box.right + PlaceGap + size.width / 2, box.Center().y, size);
 }
-
-/// A bar's end is where its value is, its base where it stands.
-std::vector<Box> PlacesAtBar(LabelLocation location, const LabelAnchor& anchor, const Size& size) {
-    const Box& box = anchor.box;
-    const Box beyond = anchor.negative ? Below(box, size) : Above(box, size);
-    const Box atEnd = anchor.negative ? AtBottomWithin(box, size) : AtTopWithin(box, size);
-    const Box atBase = anchor.negative ? AtTopWithin(box, size) : AtBottomWithin(box, size);
-    const Point middle = box.Center();
-    switch (location) {
-    case LabelLocation::BelowPoint:
-        return {atEnd, beyond};
-    case LabelLocation::Base:
-        return {atBase};
-    case LabelLocation::Center:
-    case LabelLocation::Inside:
-        return {CenteredAt(middle.x, middle.y, size)};
-    case LabelLocation::Left:
-        return {LeftOf(box, size)};
-    case LabelLocation::Right:
-        return {RightOf(box, size)};
-    case LabelLocation::None:
-    case LabelLocation::AbovePoint:
-    case LabelLocation::Outside:
-        break;
-    }
-    return {beyond};
+/// Beside an upper or lower corner.
+Box AtCorner(const Box& box, const Size& size, bool right, bool above) {
+    const double x = right ? box.right + size.width / 2 : box.left - size.width / 2;
+    return CenteredAt(x, (above ? Above(box, size) : Below(box, size)).Center().y, size);
 }
 
-std::vector<Box> PlacesAtPoint(LabelLocation location, const Box& box, const Size& size) {
-    const Box above = Above(box, size);
-    const Box below = Below(box, size);
-    const Box left = LeftOf(box, size);
-    const Box right = RightOf(box, size);
+/// A bar's end is where its value is, its base where it stands.
+std::vector<LabelPlace> PlacesAtBar(LabelLocation location, const LabelAnchor& anchor, const Size& size) {
+    const Box& box = anchor.box;
+    const LabelPlace beyond{anchor.negative ? Below(box, size) : Above(box, size)};
+    const LabelPlace atEnd{anchor.negative ? AtBottomWithin(box, size) : AtTopWithin(box, size),
+                           LabelStand::On};
+    const LabelPlace atBase{anchor.negative ? AtTopWithin(box, size) : AtBottomWithin(box, size),
+                            LabelStand::On};
+    const Point center = box.Center();
+    const LabelPlace middle{CenteredAt(center.x, center.y, size), LabelStand::On};
+    const LabelPlace left{LeftOf(box, size)};
+    const LabelPlace right{RightOf(box, size)};
     switch (location) {
     case LabelLocation::BelowPoint:
+        return {atEnd, beyond, right, left};
     case LabelLocation::Base:
-        return {below, above, right, left};
+        return {atBase, beyond, right, left};
     case LabelLocation::Center:
     case LabelLocation::Inside:
-        return {CenteredAt(box.Center().x, box.Center().y, size)};
+        return {middle, beyond, right, left};
     case LabelLocation::Left:
-        return {left, right, above, below};
+        return {left, middle, beyond};
     case LabelLocation::Right:
-        return {right, left, above, below};
+        return {right, middle, beyond};
     case LabelLocation::None:
     case LabelLocation::AbovePoint:
     case LabelLocation::Outside:
         break;
     }
-    return {above, below, right, left};
+    return {beyond, atEnd};
+}
+
+std::vector<LabelPlace> PlacesAtPoint(LabelLocation location, const Box& box, const Size& size) {
+    const LabelPlace above{Above(box, size)};
+    const LabelPlace below{Below(box, size)};
+    const LabelPlace left{LeftOf(box, size)};
+    const LabelPlace right{RightOf(box, size)};
+    std::vector<LabelPlace> places;
+    switch (location) {
+    case LabelLocation::BelowPoint:
+    case LabelLocation::Base:
+        places = {below, above, right, left};
+        break;
+    case LabelLocation::Center:
+    case LabelLocation::Inside:
+        places = {{CenteredAt(box.Center().x, box.Center().y, size)}, above, below, right, left};
+        break;
+    case LabelLocation::Left:
+        places = {left, right, above, below};
+        break;
+    case LabelLocation::Right:
+        places = {right, left, above, below};
+        break;
+    case LabelLocation::None:
+    case LabelLocation::AbovePoint:
+    case LabelLocation::Outside:
+        places = {above, below, right, left};
+        break;
+    }
+    for (const bool upper : {true, false})
+        for (const bool onRight : {true, false}) places.push_back({AtCorner(box, size, onRight, upper)});
+    return places;
+}
+
+bool IsWithin(const Box& inner, const Box& outer) {
+    return inner.left >= outer.left && inner.right <= outer.right && inner.top >= outer.top &&
+           inner.bottom <= outer.bottom;
+}
+
+/// Whether a label may stand there without a plate.
+bool IsClear(const LabelAnchor& anchor, const LabelPlace& place, const Ground::Footing& footing) {
+    if (place.stand == LabelStand::On) return IsWithin(place.box, anchor.box.Grown(-Air));
+    if (!footing.even) return false;
+    // On another's bar it would be taken for that one's.
+    return !anchor.isBar || footing.shape == Ground::Plain;
+}
+
+/// Whether the line to a label that stands away crosses no other label.
+bool IsReached(const Ground& ground, const LabelAnchor& anchor, const LabelPlace& place) {
+    if (place.stand != LabelStand::Away) return true;
+    const Point from = LineStart(anchor, place.box);
+    return ground.IsFreeWay(from, {from.x, from.y > place.box.bottom ? place.box.bottom : place.box.top});
+}
+
+std::optional<FoundPlace> FindClear(const Ground& ground, const LabelAnchor& anchor,
+                                    const std::vector<LabelPlace>& places) {
+    for (const LabelPlace& place : places) {
+        const Ground::Footing footing = ground.Under(place.box);
+        if (footing.free && IsClear(anchor, place, footing) && IsReached(ground, anchor, place))
+            return FoundPlace{place, footing.even ? footing.colour : ground.PlainColour(), !footing.even};
+    }
+    return std::nullopt;
+}
+
+std::optional<FoundPlace> FindForPlate(const Ground& ground, const LabelAnchor& anchor,
+                                       const std::vector<LabelPlace>& places) {
+    const FoundPlace* best = nullptr;
+    std::vector<FoundPlace> found;
+    found.reserve(places.size());
+    double fewest = MostLines;
+    for (const LabelPlace& place : places) {
+        const Ground::Footing footing = ground.Under(place.box.Grown(PlateRim));
+        if (!footing.free || footing.share < LeastOfPlate || footing.lines >= fewest ||
+            !IsReached(ground, anchor, place))
+            continue;
+        fewest = footing.lines;
+        found.push_back({place, footing.colour, true});
+        best = &found.back();
+    }
+    return best == nullptr ? std::nullopt : std::optional(*best);
 }
 
 } // namespace
 
+Point LineStart(const LabelAnchor& anchor, const Box& label) {
+    return {anchor.box.Center().x,
+            label.Center().y < anchor.box.Center().y ? anchor.box.top : anchor.box.bottom};
+}
+
 std::vector<LabelPlace> PlacesFor(LabelLocation location, const LabelAnchor& anchor, const Size& size,
                                   bool withLine) {
-    std::vector<LabelPlace> places;
-    for (const Box& box :
-         anchor.isBar ? PlacesAtBar(location, anchor, size) : PlacesAtPoint(location, anchor.box, size))
-        places.push_back({box, false});
+    std::vector<LabelPlace> places =
+        anchor.isBar ? PlacesAtBar(location, anchor, size) : PlacesAtPoint(location, anchor.box, size);
     if (!withLine) return places;
     for (int step = 1; step <= FarthestAway; ++step) {
         const double away = step * size.height * 1.2 + 4;
@@ -98,10 +177,24 @@ std::vector<LabelPlace> PlacesFor(LabelLocation location, const LabelAnchor& anc
             Box box = direction < 0 ? Above(anchor.box, size) : Below(anchor.box, size);
             box.top += direction * away;
             box.bottom += direction * away;
-            places.push_back({box, true});
+            places.push_back({box, LabelStand::Away});
         }
     }
     return places;
+}
+
+std::optional<FoundPlace> FindPlace(const Ground& ground, const LabelAnchor& anchor,
+                                    const std::vector<LabelPlace>& places) {
+    if (auto found = FindClear(ground, anchor, places)) return found;
+    return anchor.isBar ? std::nullopt : FindForPlate(ground, anchor, places);
+}
+
+void DrawLabel(SceneBuilder& builder, Part part, TextBlock block, const FoundPlace& found,
+               HorizontalAlignment alignment) {
+    if (found.plate)
+        builder.AddRectangle(part, found.place.box.Grown(PlateRim), SolidFill(found.ground), {}, false);
+    block.font.VtColor = ReadableOn(found.ground, block.font.VtColor);
+    PlaceText(builder, part, block, found.place.box, alignment, VerticalAlignment::Center);
 }
 
 } // namespace QmChart6

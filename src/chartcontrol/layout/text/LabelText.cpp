@@ -1,29 +1,23 @@
 #include "chartcontrol/layout/text/LabelText.h"
 
 #include "base/NumberFormat.h"
+#include "chartcontrol/layout/data/Sums.h"
+#include "chartcontrol/layout/text/DataFormat.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace QmChart6 {
 
 namespace {
 
-constexpr double LeastContrast = 4.5;
-
-/// Relative luminance of a colour, WCAG 2.1.
-double Luminance(Colour colour) {
-    const auto linear = [](std::uint8_t component) {
-        const double part = component / 255.0;
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.Red) + 0.7152 * linear(colour.Green) + 0.0722 * linear(colour.Blue);
+const QString& Separator() {
+    static const QString separator = QStringLiteral("; ");
+    return separator;
 }
 
-double Contrast(Colour one, Colour other) {
-    const double a = Luminance(one);
-    const double b = Luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+/// A number's blanks keep it together.
+QString Unbroken(QString number) {
+    return number.replace(QLatin1Char(' '), QChar(QChar::Nbsp));
 }
 
 } // namespace
@@ -32,18 +26,26 @@ bool ShowsLabel(const DataPointLabel& label) {
     return label.LocationType != LabelLocation::None && (label.Custom || label.Component != 0);
 }
 
-QString LabelTexts::Of(const DataPointLabel& label, int series, int category, double value) {
+QStringList LabelTexts::Of(const DataPointLabel& label, int series, int category, double value) {
     const bool showsShare = !label.Custom && (label.Component & LabelShowsPercent) != 0;
     return WithShare(label, series, value, showsShare ? ShareOf(category, value) : 0);
 }
 
-QString LabelTexts::WithShare(const DataPointLabel& label, int series, double value, double share) const {
-    if (label.Custom) return label.Text;
-    QStringList parts;
-    if ((label.Component & LabelShowsSeriesName) != 0) parts += chart_.SeriesName(series);
-    if ((label.Component & LabelShowsValue) != 0) parts += FormatNumber(value, label.ValueFormat);
-    if ((label.Component & LabelShowsPercent) != 0) parts += FormatNumber(share, label.PercentFormat);
-    return parts.join(QStringLiteral("; "));
+QStringList LabelTexts::WithShare(const DataPointLabel& label, int series, double value, double share) {
+    if (label.Custom) return {label.Text};
+    QStringList pieces;
+    if ((label.Component & LabelShowsSeriesName) != 0) pieces += chart_.SeriesName(series);
+    if ((label.Component & LabelShowsValue) != 0) pieces += Unbroken(ValueText(value, label.ValueFormat));
+    if ((label.Component & LabelShowsPercent) != 0)
+        pieces += Unbroken(FormatNumber(share, label.PercentFormat));
+    pieces.removeAll(QString());
+    return pieces;
+}
+
+QString LabelTexts::ValueText(double value, const QString& format) {
+    if (!format.isEmpty()) return FormatNumber(value, format);
+    if (!format_) format_ = DataFormatOf(chart_);
+    return DataText(value, *format_);
 }
 
 double LabelTexts::ShareOf(int category, double value) {
@@ -52,21 +54,27 @@ double LabelTexts::ShareOf(int category, double value) {
         for (int series = 1; series <= chart_.Plot.SeriesCollection.Count(); ++series) {
             const Values values = chart_.SeriesValues(series);
             for (int i = 0; i < values.count; ++i)
-                if (!std::isnan(values[i])) sums_[static_cast<std::size_t>(i)] += std::abs(values[i]);
+                if (!std::isnan(values[i]))
+                    sums_[static_cast<std::size_t>(i)] += std::abs(values[i]) * SumUnit;
         }
     }
     const double sum = sums_[static_cast<std::size_t>(category)];
-    return sum > 0 ? value / sum : 0;
+    return sum > 0 ? value * SumUnit / sum : 0;
 }
 
-Font ReadableFont(const Font& font, Colour background) {
-    Font readable = font;
-    if (Contrast(font.VtColor, background) < LeastContrast) {
-        constexpr Colour black{0, 0, 0};
-        constexpr Colour white{255, 255, 255};
-        readable.VtColor = Contrast(black, background) > Contrast(white, background) ? black : white;
+TextBlock BreakLabel(const QStringList& pieces, const Font& font, Orientation orientation, double length,
+                     const TextMeasurer& measurer) {
+    constexpr int mostLines = 2; // of a piece
+    TextBlock block = BreakText(pieces.join(Separator()), font, orientation, {length, 1}, measurer);
+    if (!block.elided || orientation == Orientation::Vertical) return block;
+    block.lines.clear();
+    block.elided = false;
+    for (const QString& piece : pieces) {
+        TextBlock lines = BreakText(piece, font, orientation, {length, mostLines}, measurer);
+        block.lines.insert(block.lines.end(), lines.lines.begin(), lines.lines.end());
+        block.elided = block.elided || lines.elided;
     }
-    return readable;
+    return block;
 }
 
 } // namespace QmChart6

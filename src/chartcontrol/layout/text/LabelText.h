@@ -1,7 +1,9 @@
 #pragma once
 
+#include "chartcontrol/layout/text/TextBlock.h"
 #include "chartcontrol/model/Chart.h"
 
+#include <optional>
 #include <vector>
 
 namespace QmChart6 {
@@ -9,27 +11,30 @@ namespace QmChart6 {
 /// Whether a point's label shows anything.
 bool ShowsLabel(const DataPointLabel& label);
 
-/// The text of data labels: series name, value and percent as the components say, or a text of the label's
-/// own.
+/// The texts of data labels: series name, value and percent as the components say, or a text of the label's
+/// own. Values without a format are written with as many decimals as the chart's data need.
 class LabelTexts {
 public:
     explicit LabelTexts(const Chart& chart) : chart_(chart) {}
 
-    /// Category from 0. The percent is the value's share of its category's sum of absolute values.
-    [[nodiscard]] QString Of(const DataPointLabel& label, int series, int category, double value);
+    /// What the label shows, piece by piece. Category from 0. The percent is the value's share of its
+    /// category's sum of absolute values.
+    [[nodiscard]] QStringList Of(const DataPointLabel& label, int series, int category, double value);
     /// The percent is the share that the mark shows.
-    [[nodiscard]] QString WithShare(const DataPointLabel& label, int series, double value,
-                                    double share) const;
+    [[nodiscard]] QStringList WithShare(const DataPointLabel& label, int series, double value, double share);
 
 private:
+    [[nodiscard]] QString ValueText(double value, const QString& format);
     [[nodiscard]] double ShareOf(int category, double value);
 
     const Chart& chart_;
+    std::optional<QString> format_;
     std::vector<double> sums_;
 };
 
-/// The label's font, its colour exchanged for black or white where it would not be read on a
-/// background: below 4.5 : 1 in contrast (WCAG 2.1, 1.4.3).
-Font ReadableFont(const Font& font, Colour background);
+/// The pieces in one line with "; " between them where that is short enough, else below each other. Numbers
+/// never break.
+TextBlock BreakLabel(const QStringList& pieces, const Font& font, Orientation orientation, double length,
+                     const TextMeasurer& measurer);
 
 } // namespace QmChart6

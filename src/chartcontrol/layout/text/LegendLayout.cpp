@@ -5,6 +5,8 @@
 #include "chartcontrol/layout/text/Edges.h"
 #include "chartcontrol/layout/text/TextBlock.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <cmath>
 
@@ -21,13 +23,18 @@ constexpr double SymbolGapShare = 0.5;
 constexpr double ColumnGapShare = 1.4;
 constexpr double RowShare = 1.55;
 constexpr double PlotGapShare = 1.4;
-/// A name is elided to no less than this many times the font's size.
-constexpr double ShortestNameShare = 3;
+/// Names are not elided to less than this many times the font's size while fewer entries would spare it.
+constexpr double ShortestNameShare = 9;
+/// A legend beside the plot in which names would get less than this goes below it.
+constexpr double NarrowestNameShare = 5;
+constexpr int MostMeasured = 200;
 
 struct Entry {
     int series = 0; // 0: tells how many are missing
     QString name;
     double width = 0;
+
+    [[nodiscard]] bool IsRest() const { return series == 0; }
 };
 
 struct LegendGrid {
@@ -56,9 +63,15 @@ double SymbolWidth(const Chart& chart) {
     return width + SymbolGapShare * size;
 }
 
+bool IsPiled(const Chart& chart) {
+    return chart.Stacking && KindOf(chart.chartType()).stacks;
+}
+
 class GridPlanner {
 public:
-    GridPlanner(const LayoutContext& context, const Size& room) : context_(context), room_(room) {
+    /// `beside` the plot entries stand below each other.
+    GridPlanner(const LayoutContext& context, const Size& room, bool beside)
+        : context_(context), room_(room), piled_(beside && IsPiled(context.chart)) {
         grid_.rowHeight = RowShare * Font().Size;
         grid_.symbolWidth = SymbolWidth(context.chart);
         grid_.columnGap = ColumnGapShare * Font().Size;
@@ -71,6 +84,16 @@ public:
         grid_.rows = Ceil(Count(), columns);
         FitColumns(columns);
         return grid_;
+    }
+
+    /// How long the names are that the legend has to show.
+    [[nodiscard]] double WidestName() const {
+        const Chart& chart = context_.chart;
+        double widest = 0;
+        for (int series = 1; series <= std::min(chart.Plot.SeriesCollection.Count(), MostMeasured); ++series)
+            if (IsDrawn(chart, series))
+                widest = std::max(widest, context_.measurer.Measure(NameOf(chart, series), Font()).width);
+        return widest;
     }
 
     LegendGrid AboveOrBelow() {
@@ -91,31 +114,40 @@ private:
     [[nodiscard]] int Count() const { return static_cast<int>(grid_.entries.size()); }
     static int Ceil(int value, int divisor) { return (value + divisor - 1) / divisor; }
 
-    void Collect() {
-        const Chart& chart = context_.chart;
-        int drawn = 0;
-        for (int series = 1; series <= chart.Plot.SeriesCollection.Count(); ++series)
-            drawn += IsDrawn(chart, series);
-        const int most = MostEntries();
-        const int shown = drawn > most ? std::max(0, most - 1) : drawn;
-        for (int series = 1; Count() < shown; ++series)
-            if (IsDrawn(chart, series)) Add(series, Printable(LegendName(chart, series)).simplified());
-        if (shown == drawn) return;
-        Add(0, QStringLiteral("\u2026 +%1").arg(drawn - shown));
-        context_.builder.Warn(
-            QStringLiteral("the legend has no room for %1 of %2 series").arg(drawn - shown).arg(drawn));
+    static QString NameOf(const Chart& chart, int series) {
+        return Printable(LegendName(chart, series)).simplified();
     }
 
-    /// As many entries as fit with the shortest names.
-    [[nodiscard]] int MostEntries() const {
-        const double pitch = grid_.symbolWidth + ShortestNameShare * Font().Size + grid_.columnGap;
+    /// The entries that have room, in the order in which the eye meets the series: those of a pile from its
+    /// top.
+    void Collect() {
+        const Chart& chart = context_.chart;
+        std::vector<int> drawn;
+        for (int series = 1; series <= chart.Plot.SeriesCollection.Count(); ++series)
+            if (IsDrawn(chart, series)) drawn.push_back(series);
+        if (piled_) std::reverse(drawn.begin(), drawn.end());
+        const std::size_t most = MostEntries();
+        const std::size_t shown = drawn.size() > most ? std::max<std::size_t>(1, most) - 1 : drawn.size();
+        for (std::size_t i = 0; i < shown; ++i) Add(drawn[i], NameOf(chart, drawn[i]));
+        if (shown == drawn.size()) return;
+        Add(0, QStringLiteral("\u2026 +%1").arg(drawn.size() - shown));
+        context_.builder.Warn(QStringLiteral("the legend has no room for %1 of %2 series")
+                                  .arg(drawn.size() - shown)
+                                  .arg(drawn.size()));
+    }
+
+    /// As many entries as fit with names that are whole, or long enough to be known.
+    [[nodiscard]] std::size_t MostEntries() const {
+        const double rest = context_.measurer.Measure(QStringLiteral("\u2026 +9999"), Font()).width;
+        const double name = std::max(rest, std::min(WidestName(), ShortestNameShare * Font().Size));
+        const double pitch = grid_.symbolWidth + name + grid_.columnGap;
         const int columns = std::max(1, static_cast<int>((room_.width + grid_.columnGap) / pitch));
-        return columns * std::max(1, static_cast<int>(room_.height / grid_.rowHeight));
+        return static_cast<std::size_t>(columns *
+                                        std::max(1, static_cast<int>(room_.height / grid_.rowHeight)));
     }
 
     void Add(int series, const QString& name) {
-        const QString text = Elide(name, Font(), room_.width - grid_.symbolWidth, context_.measurer);
-        grid_.entries.push_back({series, text, context_.measurer.Measure(text, Font()).width});
+        grid_.entries.push_back({series, name, context_.measurer.Measure(name, Font()).width});
     }
 
     /// Columns as wide as their widest name; all narrowed alike where they do not fit.
@@ -125,17 +157,36 @@ private:
             double& column = grid_.columnWidths[i / static_cast<std::size_t>(grid_.rows)];
             column = std::max(column, grid_.entries[i].width);
         }
-        const double names = (room_.width + grid_.columnGap) / columns - grid_.columnGap - grid_.symbolWidth;
         if (grid_.Extent().width <= room_.width) return;
+        const double names = (room_.width + grid_.columnGap) / columns - grid_.columnGap - grid_.symbolWidth;
+        Shorten(names);
+        for (double& column : grid_.columnWidths) column = std::min(column, names);
+    }
+
+    /// Names lose their ends, or their middles where they begin alike and could not be told apart.
+    void Shorten(double length) {
+        const auto shortened = [&](const Entry& entry, bool inMiddle) {
+            if (!inMiddle) return Elide(entry.name, Font(), length, context_.measurer);
+            const TextBlock block = ElidedLine(entry.name, Font(), length, context_.measurer);
+            return block.IsEmpty() ? QString() : block.lines.front().text;
+        };
+        QSet<QString> before;
+        QSet<QString> after;
+        for (const Entry& entry : grid_.entries) {
+            before.insert(entry.name);
+            after.insert(shortened(entry, false));
+        }
+        const bool alike = after.size() < before.size();
         for (Entry& entry : grid_.entries) {
-            entry.name = Elide(entry.name, Font(), names, context_.measurer);
+            if (entry.IsRest()) continue;
+            entry.name = shortened(entry, alike);
             entry.width = context_.measurer.Measure(entry.name, Font()).width;
         }
-        for (double& column : grid_.columnWidths) column = std::min(column, names);
     }
 
     const LayoutContext& context_;
     Size room_;
+    bool piled_;
     LegendGrid grid_;
 };
 
@@ -149,17 +200,17 @@ void AddSymbol(const LayoutContext& context, int number, const Box& box) {
         const double half = SwatchShare * context.chart.Legend.VtFont.Size / 2;
         const Point center = box.Center();
         builder.AddRectangle(part, {center.x - half, center.y - half, center.x + half, center.y + half},
-                             FillOf(look.Brush), StrokeOf(look.EdgePen));
+                             FillOf(look.Brush), EdgeOf(context.chart, look));
         return;
     }
     const LineLook shown = kind.hasMarkers ? LineLookOf(series) : LineLook{};
     if (shown.line)
-        builder.AddLine(part, {box.left, box.Center().y}, {box.right, box.Center().y}, LineStrokeOf(series),
-                        false);
+        builder.AddLine(part, {box.left, box.Center().y}, {box.right, box.Center().y},
+                        LineStrokeOf(context.chart, series), false);
     if (shown.markers) {
         builder.AddPoint(box.Center());
         builder.AddMarkers(part, MarkerStyleOf(series, number), std::min(look.Marker.Size, box.Width()),
-                           SolidFill(look.Brush.FillColor));
+                           SolidFill(ShownColour(context.chart, look.Brush)));
     }
 }
 
@@ -205,25 +256,43 @@ Box WithinCell(const Box& cell, const Size& extent, LocationType location) {
     return {left, top, left + extent.width, top + extent.height};
 }
 
+bool IsBeside(Side side) {
+    return side == Side::Left || side == Side::Right;
+}
+
+Size RoomAt(Side side, const Box& free) {
+    return IsBeside(side) ? Size{LargestShare * free.Width(), free.Height()}
+                          : Size{free.Width(), LargestShare * free.Height()};
+}
+
+/// The side that was asked for; in narrow charts, where names would have no room there, below the plot.
+Side SideThatFits(const LayoutContext& context, Side asked, const Box& free) {
+    if (!IsBeside(asked)) return asked;
+    const Size room = RoomAt(asked, free);
+    const double names = room.width - SymbolWidth(context.chart);
+    const double least = std::min(GridPlanner(context, room, true).WidestName(),
+                                  NarrowestNameShare * context.chart.Legend.VtFont.Size);
+    return names < least ? Side::Bottom : asked;
+}
+
 } // namespace
 
 void LayOutLegend(const LayoutContext& context, Box& free) {
     const Legend& legend = context.chart.Legend;
-    if (!context.chart.ShowLegend || context.chart.Plot.SeriesCollection.Count() == 0) return;
+    if (context.chart.Plot.SeriesCollection.Count() == 0) return;
     const LocationType location = legend.Location.LocationType;
     if (location == LocationType::Custom) {
         const CoordinateRect& rect = legend.Location.Rect;
         const Box box{rect.Min.X, rect.Min.Y, std::max(rect.Min.X, rect.Max.X),
                       std::max(rect.Min.Y, rect.Max.Y)};
         LayOutBackdrop(context.builder, {PartCode::Legend}, legend.Backdrop, box);
-        PlaceGrid(context, GridPlanner(context, {box.Width(), box.Height()}).Beside(), box);
+        PlaceGrid(context, GridPlanner(context, {box.Width(), box.Height()}, true).Beside(), box);
         return;
     }
-    const Side side = SideOf(location);
-    const bool beside = side == Side::Left || side == Side::Right;
-    const LegendGrid grid =
-        beside ? GridPlanner(context, {LargestShare * free.Width(), free.Height()}).Beside()
-               : GridPlanner(context, {free.Width(), LargestShare * free.Height()}).AboveOrBelow();
+    const Side side = SideThatFits(context, SideOf(location), free);
+    const bool beside = IsBeside(side);
+    const LegendGrid grid = beside ? GridPlanner(context, RoomAt(side, free), true).Beside()
+                                   : GridPlanner(context, RoomAt(side, free), false).AboveOrBelow();
     const Size extent = grid.Extent();
     const Box cell =
         CutOff(free, side, beside ? extent.width : extent.height, PlotGapShare * legend.VtFont.Size);
