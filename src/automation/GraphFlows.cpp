@@ -11,6 +11,7 @@
 #include "desktop/QtTexts.h"
 #include "text/Languages.h"
 #include "text/LocalText.h"
+#include "viewer/ChartWarnings.h"
 #include "viewer/GraphForm.h"
 #include "viewer/PrintChart.h"
 #include "viewer/Snapshot.h"
@@ -103,6 +104,7 @@ void MakeGraph(const ChartRequest& request, const Variant& language) {
         ApplyDefaultLook(*viewer);
     }
     viewer->SyncControlBar();
+    TellWarnings(*viewer, viewer->ChartImage());
 }
 
 void PrintGraph(const ChartRequest& request) {

@@ -5,8 +5,6 @@
 #include "config/StoredExtras.h"
 #include "database/Database.h"
 
-#include <algorithm>
-
 namespace QmChart6 {
 
 namespace {
@@ -153,14 +151,6 @@ CopiedLooks CopyLooks(const QString& from, const QString& to) {
     copied.valuesNotKept = CopyExtras(source, target);
     writing.Finish();
     return copied;
-}
-
-bool EqualNames(const QString& a, const QString& b) {
-    const auto fold = [](QChar letter) {
-        return letter >= u'A' && letter <= u'Z' ? QChar(letter.unicode() + (u'a' - u'A')) : letter;
-    };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [fold](QChar one, QChar other) { return fold(one) == fold(other); });
 }
 
 } // namespace QmChart6

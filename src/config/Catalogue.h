@@ -41,7 +41,4 @@ struct CopiedLooks {
 /// replaced record by record, what it says beyond its tables as a whole.
 CopiedLooks CopyLooks(const QString& from, const QString& to);
 
-/// Whether two names are the same key.
-[[nodiscard]] bool EqualNames(const QString& a, const QString& b);
-
 } // namespace QmChart6

@@ -3,11 +3,13 @@
 #include "config/Catalogue.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
+#include "config/LookNames.h"
 #include "config/LookOverride.h"
 #include "config/StoredLook.h"
 #include "config/Viewer.h"
 #include "desktop/ShowErrors.h"
 #include "text/LocalText.h"
+#include "text/Remarks.h"
 
 #include <optional>
 
@@ -62,8 +64,9 @@ void Capture(Viewer& viewer, LookWriter& writer) {
 }
 
 /// Binding has a message box of its own: where it fails, the look is saved all the same. Nobody waits for
-/// that box with a database open, so the failure is handed over.
-void Save(Viewer& viewer, std::optional<RuntimeError>& notBound) {
+/// that box with a database open, so the failure is handed over. Gives the number of values beyond the stored
+/// fields that the store has no place for.
+int Save(Viewer& viewer, std::optional<RuntimeError>& notBound) {
     Database database(ConfigurationFileName(), ConfigurationSchema());
     const QString name = viewer.QmConfig();
     StoredLook look(database, name);
@@ -75,6 +78,15 @@ void Save(Viewer& viewer, std::optional<RuntimeError>& notBound) {
     }
     Capture(viewer, look);
     writing.Finish();
+    return look.ValuesNotKept();
+}
+
+QString SavedText(int valuesNotKept) {
+    const QString saved = LocalText(TextKey::ConfigurationSaved);
+    if (valuesNotKept == 0) return saved;
+    return saved + QStringLiteral(", ") +
+           LocalRemark(
+               QStringLiteral("but for %1 properties that this store has no place for").arg(valuesNotKept));
 }
 
 /// False where there is no such look. Nothing runs events meanwhile: others wait for what is read.
@@ -90,14 +102,15 @@ bool Load(Viewer& viewer, const QString& name, bool loadTitles) {
 void SaveConfiguration(Viewer& viewer) {
     std::optional<RuntimeError> notBound;
     std::optional<RuntimeError> notSaved;
+    int valuesNotKept = 0;
     try {
-        Save(viewer, notBound);
+        valuesNotKept = Save(viewer, notBound);
     } catch (const RuntimeError& error) {
         notSaved = error;
     }
     for (const std::optional<RuntimeError>* failure : {&notBound, &notSaved})
         if (*failure) ShowErrors(viewer.Window(), [&] { throw RuntimeError(**failure); });
-    if (!notSaved) viewer.SetStatus(LocalText(TextKey::ConfigurationSaved));
+    if (!notSaved) viewer.SetStatus(SavedText(valuesNotKept));
 }
 
 void LoadConfiguration(Viewer& viewer, const QString& name, bool loadTitles) {

@@ -1,8 +1,8 @@
 #include "config/StoredExtras.h"
 
-#include "config/Catalogue.h"
 #include "config/ConfigurationSchema.h"
 #include "config/LookFields.h"
+#include "config/LookNames.h"
 
 namespace QmChart6 {
 

@@ -1,7 +1,7 @@
 #include "config/StoredLook.h"
 
-#include "config/Catalogue.h"
 #include "config/ConfigurationSchema.h"
+#include "config/LookNames.h"
 
 #include <utility>
 

@@ -7,6 +7,7 @@
 #include "config/Viewer.h"
 #include "dialogs/GraphConfiguration.h"
 #include "viewer/ChartTypeList.h"
+#include "viewer/ChartWarnings.h"
 #include "viewer/LookChanges.h"
 #include "viewer/PrintChart.h"
 #include "viewer/ShownLook.h"
@@ -77,8 +78,10 @@ void ControlBarCommands::ChooseType() {
         bar_.Button(BarButton::Flip)->setEnabled(false);
         SwitchSeriesInRows();
     }
-    if (chart.chartType() != before) shown_.modified = true;
+    const bool changed = chart.chartType() != before;
+    if (changed) shown_.modified = true;
     shown_.chart.Refresh();
+    if (changed) TellWarnings(viewer_, shown_.chart);
 }
 
 void ControlBarCommands::FollowChart() {

@@ -9,6 +9,7 @@
 #include "qmchart6/RuntimeError.h"
 #include "text/Languages.h"
 #include "text/LocalText.h"
+#include "viewer/ChartWarnings.h"
 #include "viewer/ControlBarCommands.h"
 #include "viewer/ElementEditing.h"
 #include "viewer/LookChanges.h"
@@ -160,6 +161,7 @@ void GraphForm::Show(const LookState& look) {
     if (look.controlBar != before.controlBar) SetControlBar(look.controlBar);
     SyncControlBar();
     chartImage_->Refresh();
+    if (look.chart.chartType() != before.chart.chartType()) TellWarnings(*this, *chartImage_);
 }
 
 int GraphForm::WindowState() const {

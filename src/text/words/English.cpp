@@ -135,12 +135,29 @@ constexpr TextRows Texts = [] {
 // clang-format on
 static_assert(IsWhole(Texts));
 
+constexpr Remarks Said{
+    u"%1 data labels have no room",
+    u"the chart is too small for its axes' labels",
+    u"the chart is too small for its plot",
+    u"the legend has no room for %1 of %2 series",
+    u"%1 of %2 pies have no room",
+    u"there is no value to show",
+    u"%1 negative value has no slice",
+    u"%1 negative values have no slice",
+    u"%1 zero has no slice",
+    u"%1 zeros have no slice",
+    u"%1 value is not above zero and has no place on a logarithmic axis",
+    u"%1 values are not above zero and have no place on a logarithmic axis",
+    u"but for %1 properties that this store has no place for",
+};
+static_assert(IsWhole(Said));
+
 ChartVocabulary ChartWords() {
     return {}; // English is what a chart speaks of itself
 }
 
 } // namespace
 
-extern const Words EnglishWords{Texts, ChartWords};
+extern const Words EnglishWords{Texts, Said, ChartWords};
 
 } // namespace QmChart6

@@ -135,6 +135,23 @@ constexpr TextRows Texts = [] {
 // clang-format on
 static_assert(IsWhole(Texts));
 
+constexpr Remarks Said{
+    u"%1 etichette dei dati non hanno spazio",
+    u"il grafico è troppo piccolo per le etichette degli assi",
+    u"il grafico è troppo piccolo per l'area del tracciato",
+    u"la legenda non ha spazio per %1 di %2 serie",
+    u"%1 di %2 torte non hanno spazio",
+    u"non c'è alcun valore da mostrare",
+    u"%1 valore negativo non ha uno spicchio",
+    u"%1 valori negativi non hanno uno spicchio",
+    u"%1 zero non ha uno spicchio",
+    u"%1 zeri non hanno uno spicchio",
+    u"%1 valore non è maggiore di zero e non ha posto su un asse logaritmico",
+    u"%1 valori non sono maggiori di zero e non hanno posto su un asse logaritmico",
+    u"tranne %1 proprietà per le quali questo archivio non ha posto",
+};
+static_assert(IsWhole(Said));
+
 ChartVocabulary ChartWords() {
     ChartVocabulary words;
     words.chart = QStringLiteral("Grafico");
@@ -159,6 +176,6 @@ ChartVocabulary ChartWords() {
 
 } // namespace
 
-extern const Words ItalianWords{Texts, ChartWords};
+extern const Words ItalianWords{Texts, Said, ChartWords};
 
 } // namespace QmChart6

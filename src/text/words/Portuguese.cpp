@@ -135,6 +135,23 @@ constexpr TextRows Texts = [] {
 // clang-format on
 static_assert(IsWhole(Texts));
 
+constexpr Remarks Said{
+    u"%1 rótulos de dados não têm espaço",
+    u"o gráfico é pequeno demais para os rótulos dos eixos",
+    u"o gráfico é pequeno demais para a área de plotagem",
+    u"a legenda não tem espaço para %1 de %2 séries",
+    u"%1 de %2 pizzas não têm espaço",
+    u"não há valor a mostrar",
+    u"%1 valor negativo não tem fatia",
+    u"%1 valores negativos não têm fatia",
+    u"%1 zero não tem fatia",
+    u"%1 zeros não têm fatia",
+    u"%1 valor não está acima de zero e não tem lugar em um eixo logarítmico",
+    u"%1 valores não estão acima de zero e não têm lugar em um eixo logarítmico",
+    u"exceto %1 propriedades para as quais este arquivo não tem lugar",
+};
+static_assert(IsWhole(Said));
+
 ChartVocabulary ChartWords() {
     ChartVocabulary words;
     words.chart = QStringLiteral("Gráfico");
@@ -159,6 +176,6 @@ ChartVocabulary ChartWords() {
 
 } // namespace
 
-extern const Words PortugueseWords{Texts, ChartWords};
+extern const Words PortugueseWords{Texts, Said, ChartWords};
 
 } // namespace QmChart6

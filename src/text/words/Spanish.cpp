@@ -135,6 +135,23 @@ constexpr TextRows Texts = [] {
 // clang-format on
 static_assert(IsWhole(Texts));
 
+constexpr Remarks Said{
+    u"%1 rótulos de datos no tienen espacio",
+    u"la gráfica es demasiado pequeña para los rótulos de los ejes",
+    u"la gráfica es demasiado pequeña para el área de trazado",
+    u"la leyenda no tiene espacio para %1 de %2 series",
+    u"%1 de %2 tortas no tienen espacio",
+    u"no hay valor que mostrar",
+    u"%1 valor negativo no tiene sector",
+    u"%1 valores negativos no tienen sector",
+    u"%1 cero no tiene sector",
+    u"%1 ceros no tienen sector",
+    u"%1 valor no es mayor que cero y no tiene lugar en un eje logarítmico",
+    u"%1 valores no son mayores que cero y no tienen lugar en un eje logarítmico",
+    u"salvo %1 propiedades para las que este archivo no tiene lugar",
+};
+static_assert(IsWhole(Said));
+
 ChartVocabulary ChartWords() {
     ChartVocabulary words;
     words.chart = QStringLiteral("Gráfico");
@@ -159,6 +176,6 @@ ChartVocabulary ChartWords() {
 
 } // namespace
 
-extern const Words SpanishWords{Texts, ChartWords};
+extern const Words SpanishWords{Texts, Said, ChartWords};
 
 } // namespace QmChart6

@@ -23,9 +23,36 @@ constexpr bool IsWhole(const TextRows& rows) {
     return true;
 }
 
+/// What may have to be remarked on a chart or a look, in the order that every language has its sentences in.
+/// %1 and %2 are filled in.
+enum class Remark {
+    NoRoomForLabels,
+    NoRoomForAxes,
+    NoRoomForPlot,
+    NoRoomInLegend,
+    NoRoomForPies,
+    NoValue,
+    NegativeHasNoSlice,
+    NegativesHaveNoSlice,
+    ZeroHasNoSlice,
+    ZerosHaveNoSlice,
+    NotAboveZero,
+    NoneAboveZero,
+    NotAllKept,
+    Count,
+};
+using Remarks = std::array<std::u16string_view, static_cast<std::size_t>(Remark::Count)>;
+
+constexpr bool IsWhole(const Remarks& remarks) {
+    for (const std::u16string_view remark : remarks)
+        if (remark.empty()) return false;
+    return true;
+}
+
 /// All that one language says.
 struct Words {
     const TextRows& texts;
+    const Remarks& remarks;
     ChartVocabulary (*chart)(); ///< what a chart is told in
 };
 

@@ -6,6 +6,7 @@
 #include "config/ConfigurationSchema.h"
 #include "config/ConfigurationStore.h"
 #include "support/TestStore.h"
+#include "viewer/ViewerStatusBar.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -13,6 +14,8 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QTemporaryDir>
+
+#include <limits>
 
 using namespace QmChart6;
 
@@ -79,6 +82,23 @@ TEST_F(GraphFlowsTest, MakingAGraphShowsItWithTitlesCaptionAndDefaultLook) {
               (Colour{200, 0, 0}));
     EXPECT_EQ(chart.DataGrid.Value(3, 2), 32);
     EXPECT_TRUE(viewer->findChild<ChartControl*>()->Repaint());
+}
+
+TEST_F(GraphFlowsTest, WhatOfAChartCannotBeShownIsToldInItsStatusInTheLanguageOfTheCall) {
+    const double none = std::numeric_limits<double>::quiet_NaN();
+    const auto told = [&](const std::vector<double>& values, std::int16_t language) {
+        charts.QmMakeGraph(QStringLiteral("a"), 1, 1, Array<double>::Table(1, 1, values, 1, 1), rowLabels,
+                           columnLabels, title, rowTitle, columnTitle, valueTitle, language);
+        const QString text = Viewer(QStringLiteral("a"))
+                                 ->findChild<ViewerStatusBar*>(QStringLiteral("sbGraph"))
+                                 ->Panel(4)
+                                 .Text();
+        charts.QmKillGraph(QStringLiteral("a"));
+        return text;
+    };
+    EXPECT_EQ(told({5}, 0), "");
+    EXPECT_EQ(told({none}, 0), "There is no value to show");
+    EXPECT_EQ(told({none}, 2), QStringLiteral("No hay valor que mostrar"));
 }
 
 TEST_F(GraphFlowsTest, ALegendStaysOnWhenAReusedViewerGetsOneSeries) {

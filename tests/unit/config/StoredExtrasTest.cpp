@@ -82,6 +82,7 @@ TEST_P(StoredExtrasTest, AStoreWithoutTheirTableKeepsTheRest) {
     viewer.Model().Title.Text = T("Kept");
     Save(viewer, "Look");
     EXPECT_TRUE(Errors().isEmpty());
+    EXPECT_EQ(viewer.status, "Configuration Saved, but for 3 properties that this store has no place for");
     EXPECT_EQ(FillConfigurationList(T("Look")).selected, 0);
     LoadConfiguration(viewer, T("Look"), true);
     EXPECT_EQ(viewer.Model().Title.Text, "Kept");

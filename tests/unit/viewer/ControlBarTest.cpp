@@ -10,6 +10,7 @@
 #include "support/ScriptedDesktop.h"
 #include "support/TestStore.h"
 #include "text/LocalText.h"
+#include "viewer/ViewerStatusBar.h"
 #include "viewer/ViewerToolBar.h"
 
 #include <QAbstractItemView>
@@ -420,4 +421,16 @@ TEST_F(ControlBarTest, IconsTakeTheTextColourOfThePaletteAndEveryPixelOfTheScree
         EXPECT_GT(countOf(text, 1), 40);
         EXPECT_GT(countOf(text, 2), 200);
     }
+}
+
+TEST_F(ControlBarTest, AKindThatCannotShowSomethingTellsSoInTheStatus) {
+    Open(3, 2);
+    Model().DataGrid.SetValue(1, 1, -5);
+    Model().DataGrid.SetValue(2, 1, -6);
+    Model().DataGrid.SetValue(3, 1, 4);
+    Model().DataGrid.SetValue(3, 2, 4);
+    const auto& status = *form->findChild<ViewerStatusBar*>(QStringLiteral("sbGraph"));
+    EXPECT_EQ(status.Panel(4).Text(), "");
+    form->SetSelected(static_cast<int>(ChartType::Pie2D));
+    EXPECT_EQ(status.Panel(4).Text().section(u';', 0, 0), "2 negative values have no slice");
 }
