@@ -16,6 +16,7 @@ namespace {
 
 constexpr QLatin1String Plain("plain");
 constexpr QLatin1String Calm("calm");
+constexpr QLatin1String Dark("dark");
 
 std::uint8_t NoTitles() {
     return static_cast<std::uint8_t>(QMChartArray().QmChNoTitles());
@@ -56,10 +57,24 @@ void NameAxes(ChosenLook& chosen, QJsonObject& look, const CommandLine& line, co
     }
 }
 
+/// What completes a look that says little: the calm one, or its like for a dark ground.
+QJsonObject BaseOf(const QJsonObject& look) {
+    const std::optional<QByteArray> base = BuiltInLook(HasDarkGround(look) ? Dark : Calm);
+    return QJsonDocument::fromJson(base.value_or(QByteArray())).object();
+}
+
+/// A look of a file that says little, completed; others as they are.
+QByteArray Completed(const QByteArray& look) {
+    const QJsonDocument document = QJsonDocument::fromJson(look);
+    if (!document.isObject() || !IsSketch(document.object())) return look;
+    return QJsonDocument(CompletedBy(document.object(), BaseOf(document.object()))).toJson();
+}
+
 /// The look that is named, or bound to the graph id, or the calm one; nothing where the component's own is
 /// asked for.
 std::optional<QByteArray> FindLook(const CommandLine& line, const QString& graphId) {
-    if (line.look) return *line.look == Plain ? std::nullopt : std::optional(NamedLook(line, *line.look));
+    if (line.look)
+        return *line.look == Plain ? std::nullopt : std::optional(Completed(NamedLook(line, *line.look)));
     if (line.useConfigGiven && line.useConfig == 0) return std::nullopt;
     if (line.configFolder)
         if (const std::optional<QString> bound = BoundName(*line.configFolder, graphId))

@@ -1,6 +1,7 @@
 #include "qmchart/FittedLook.h"
 
 #include <QJsonArray>
+#include <QMap>
 #include <QStringList>
 
 namespace QmChart6 {
@@ -93,6 +94,33 @@ void DropTitles(QJsonObject& look) {
     look.insert(Name("Axes"), axes);
 }
 
+/// What a record of a list is known by: the number of its axis, column or series, or, of what a look says
+/// beyond those, the element and the field. Without any it is that of its place. What is said of all elements
+/// comes before what is said of one.
+QString KeyOf(const QJsonArray& records, qsizetype place) {
+    const QJsonObject record = records[place].toObject();
+    if (record.contains(Name("Field")))
+        return record.value(Name("Element")).toString() + u'\n' + record.value(Name("Field")).toString();
+    for (const char* id : {"AxisId", "SeriesId", "ColumnId"})
+        if (record.contains(Name(id))) return record.value(Name(id)).toVariant().toString();
+    return QStringLiteral("place %1").arg(place);
+}
+
+/// The records of one list, each with what it leaves out taken from the one of the other of its number.
+QJsonArray CompletedRecords(const QJsonArray& mine, const QJsonArray& theirs) {
+    QMap<QString, QJsonObject> records;
+    for (qsizetype place = 0; place < theirs.size(); ++place)
+        records[KeyOf(theirs, place)] = theirs[place].toObject();
+    for (qsizetype place = 0; place < mine.size(); ++place) {
+        QJsonObject& record = records[KeyOf(mine, place)];
+        const QJsonObject own = mine[place].toObject();
+        for (auto field = own.begin(); field != own.end(); ++field) record.insert(field.key(), field.value());
+    }
+    QJsonArray complete;
+    for (const QJsonObject& record : std::as_const(records)) complete.append(record);
+    return complete;
+}
+
 } // namespace
 
 void SetKind(QJsonObject& look, int chartType) {
@@ -105,6 +133,32 @@ void SetKind(QJsonObject& look, int chartType) {
         series.append(untyped);
     }
     if (!typed.isEmpty()) look.insert(Name("Series"), series);
+}
+
+bool IsSketch(const QJsonObject& look) {
+    return !look.contains(Name("TitleFontName"));
+}
+
+bool HasDarkGround(const QJsonObject& look) {
+    constexpr int white = 255;
+    constexpr int middling = 128;
+    const auto component = [&look](const char* field) { return look.value(Name(field)).toInt(white); };
+    const int brightness = (299 * component("BackColorRed") + 587 * component("BackColorGreen") +
+                            114 * component("BackColorBlue")) /
+                           1000;
+    return brightness < middling;
+}
+
+QJsonObject CompletedBy(const QJsonObject& look, const QJsonObject& other) {
+    QJsonObject complete = other;
+    for (auto field = look.begin(); field != look.end(); ++field) {
+        const QJsonArray mine = field.value().toArray();
+        const QJsonArray theirs = other.value(field.key()).toArray();
+        complete.insert(field.key(), mine.isEmpty() || theirs.isEmpty()
+                                         ? field.value()
+                                         : QJsonValue(CompletedRecords(mine, theirs)));
+    }
+    return complete;
 }
 
 bool MakesXYChart(const QJsonObject& look) {

@@ -9,6 +9,15 @@ namespace QmChart6 {
 /// Makes every series what that kind of chart draws, as looks number them.
 void SetKind(QJsonObject& look, int chartType);
 
+/// Whether a look leaves out how texts look, as one does that was written by hand to change a few things.
+bool IsSketch(const QJsonObject& look);
+
+/// Whether the look has a ground on which dark texts would not be read.
+bool HasDarkGround(const QJsonObject& look);
+
+/// The look with what it leaves out taken from another.
+QJsonObject CompletedBy(const QJsonObject& look, const QJsonObject& other);
+
 /// Whether a look makes an XY chart.
 bool MakesXYChart(const QJsonObject& look);
 

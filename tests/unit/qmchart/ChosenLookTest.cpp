@@ -74,6 +74,31 @@ TEST(ChosenLook, IsTheCalmOneUnasked) {
     EXPECT_EQ(chosen.rowTitle, "Year");
 }
 
+TEST(ChosenLook, AFileThatSaysLittleIsCompletedByTheCalmOne) {
+    const LookFile file("sketch.json", R"({"chartType": 3, "Series": [{"SeriesId": 2, "SeriesStatLine": 1}],
+        "Beyond": [{"Element": "Chart", "Field": "XGap", "Value": 10}]})");
+    const QJsonObject look = Json(Choose({"--look", file.Path()}));
+    const QJsonObject calm = QJsonDocument::fromJson(*BuiltInLook("calm")).object();
+    EXPECT_EQ(look.value("chartType"), 3);
+    EXPECT_EQ(look.value("TitleFontSize"), calm.value("TitleFontSize"));
+    EXPECT_EQ(look.value("Series").toArray().size(), calm.value("Series").toArray().size());
+    const QJsonArray beyond = look.value("Beyond").toArray();
+    EXPECT_EQ(beyond.size(), calm.value("Beyond").toArray().size());
+    EXPECT_TRUE(beyond.contains(QJsonObject({{"Element", "Chart"}, {"Field", "XGap"}, {"Value", 10}})));
+}
+
+TEST(ChosenLook, AFileOfADarkGroundIsCompletedByTheDarkOne) {
+    const LookFile file("night.json", R"({"BackColorRed": 10, "BackColorGreen": 12, "BackColorBlue": 20})");
+    const QJsonObject look = Json(Choose({"--look", file.Path()}));
+    EXPECT_EQ(look.value("BackColorRed"), 10);
+    EXPECT_GT(look.value("TitleFontColorRed").toInt(), 150);
+}
+
+TEST(ChosenLook, AFileThatSaysHowTextsLookIsTakenAsItIs) {
+    const LookFile file("whole.json", R"({"TitleFontName": "Arial", "chartType": 3})");
+    EXPECT_FALSE(Json(Choose({"--look", file.Path()})).contains("Beyond"));
+}
+
 TEST(ChosenLook, PlainAndNoAreTheComponentsOwn) {
     for (const QStringList& options : {QStringList{"--look", "plain"}, QStringList{"--use-config", "no"}}) {
         EXPECT_EQ(Choose(options).useConfig, 0);
@@ -105,7 +130,8 @@ TEST(ChosenLook, WhatIsNoLookIsLeftForWhoReadsLooks) {
 
 TEST(ChosenLook, AnotherKindIsThatOfEverySeries) {
     const LookFile file("bars.json",
-                        R"({"chartType": 1, "Series": [{"SeriesType": 1, "SeriesColorRed": 5}]})");
+                        R"({"chartType": 1, "Series": [{"SeriesType": 1, "SeriesColorRed": 5}],
+                            "TitleFontName": "Arial"})");
     const QJsonObject look = Json(Choose({"--look", file.Path(), "--type", "step3d"}));
     EXPECT_EQ(look.value("chartType").toInt(), 6);
     EXPECT_EQ(look.value("Series").toArray().at(0).toObject(), (QJsonObject{{"SeriesColorRed", 5}}));
