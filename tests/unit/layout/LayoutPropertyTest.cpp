@@ -41,7 +41,14 @@ protected:
     static std::vector<Size> Sizes(const Samples::Sample& sample) {
         const Size own{sample.width * PointsPerPixel, sample.height * PointsPerPixel};
         if (own.width < 150) return {own};
-        return {own, {own.width * 2, own.height * 2}, {own.width, own.height * 0.7}, {300, 225}};
+        return {own,
+                {own.width * 2, own.height * 2},
+                {own.width, own.height * 0.7},
+                {300, 225},
+                {375, 525},
+                {480, 480},
+                {112, 675},
+                {1200, 300}};
     }
 };
 

@@ -35,7 +35,7 @@ public:
         if (TryAll() || TryWrapped()) return plan_;
         plan_.thinned = true;
         if (!categories_.IsNames()) {
-            if (!TryThinned(2)) plan_.labels.clear();
+            if (!TryThinned(2) && !TryEnds()) plan_.labels.clear();
             return plan_;
         }
         using Way = CategoryLabelPlan::Way;
@@ -111,6 +111,12 @@ private:
             if (!kept) return false;
             if (kept->size() >= fewest && TryKept(*kept, fewest)) return true;
         }
+    }
+
+    /// The first and the last, or the first alone.
+    bool TryEnds() {
+        const KeptCategory first{0, categories_.Text(0)};
+        return TryKept({first, {count_ - 1, categories_.Text(count_ - 1)}}, 2) || TryKept({first}, 1);
     }
 
     bool TryWrapped() {

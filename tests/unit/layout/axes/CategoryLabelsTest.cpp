@@ -68,6 +68,11 @@ TEST(CategoryLabels, WholeNumbersStayAtMultiples) {
     EXPECT_EQ(TextsOf(PlanOf(years, 6)), QStringLiteral("2005 2010 2015"));
 }
 
+TEST(CategoryLabels, WhereNoStepFitsTheEndsAreKept) {
+    EXPECT_EQ(TextsOf(Plan(5000, QStringLiteral("Row %1"), 0.02)), QStringLiteral("Row 0 Row 4999"));
+    EXPECT_EQ(TextsOf(Plan(5000, QStringLiteral("Row %1"), 0.008)), QStringLiteral("Row 0"));
+}
+
 TEST(CategoryLabels, KeepTheirOwnLineBreaks) {
     const CategoryLabelPlan plan = PlanOf({QStringLiteral("North\nand South"), QStringLiteral("East")}, 90);
     EXPECT_EQ(plan.labels[0].block.lines.size(), 2U);
