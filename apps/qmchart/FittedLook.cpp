@@ -151,6 +151,8 @@ bool HasDarkGround(const QJsonObject& look) {
 
 QJsonObject CompletedBy(const QJsonObject& look, const QJsonObject& other) {
     QJsonObject complete = other;
+    // Whoever says whether there is a legend has decided on it.
+    if (look.contains(Name("Legend"))) DropLegend(complete);
     for (auto field = look.begin(); field != look.end(); ++field) {
         const QJsonArray mine = field.value().toArray();
         const QJsonArray theirs = other.value(field.key()).toArray();

@@ -87,6 +87,14 @@ TEST(ChosenLook, AFileThatSaysLittleIsCompletedByTheCalmOne) {
     EXPECT_TRUE(beyond.contains(QJsonObject({{"Element", "Chart"}, {"Field", "XGap"}, {"Value", 10}})));
 }
 
+TEST(ChosenLook, AFileThatDecidesOnTheLegendIsNotOverruled) {
+    const LookFile file("none.json", R"({"Legend": false})");
+    const QJsonObject look = Json(Choose({"--look", file.Path()}));
+    EXPECT_EQ(look.value("Legend"), false);
+    for (const auto& record : look.value("Beyond").toArray())
+        EXPECT_NE(record.toObject().value("Field"), "LegendFollowsData");
+}
+
 TEST(ChosenLook, AFileOfADarkGroundIsCompletedByTheDarkOne) {
     const LookFile file("night.json", R"({"BackColorRed": 10, "BackColorGreen": 12, "BackColorBlue": 20})");
     const QJsonObject look = Json(Choose({"--look", file.Path()}));
