@@ -48,11 +48,12 @@ PointPlaces LayOutPlot(const LayoutContext& context, const Box& box) {
                              : PointPlaces(FlatPlaces(std::move(plot)));
 }
 
-/// A legend that is asked for; or one in place of names that do not fit at the ends of their lines.
+/// A legend that is asked for; or, while nobody decided on it, one in place of names that do not fit at the
+/// ends of their lines.
 bool NeedsLegend(const LayoutContext& context, const Box& free) {
-    if (context.chart.ShowLegend) return true;
-    const bool named = context.chart.Plot.DirectNames && context.chart.Plot.SeriesCollection.Count() > 1;
-    return named && !(DirectNamesWidth(context, free) > 0);
+    const Chart& chart = context.chart;
+    if (!chart.Plot.DirectNames || !chart.LegendFollowsData) return chart.ShowLegend;
+    return chart.Plot.SeriesCollection.Count() > 1 && !(DirectNamesWidth(context, free) > 0);
 }
 
 /// What of title, footnote and legend is drawn; a small picture does without some, so that it shows the plot.

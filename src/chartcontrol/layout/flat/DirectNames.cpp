@@ -37,7 +37,8 @@ bool IsNamedAtItsEnd(Mark mark) {
 bool AreAsked(const Chart& chart) {
     const int count = chart.Plot.SeriesCollection.Count();
     const ChartKind& kind = KindOf(chart.chartType());
-    if (!chart.Plot.DirectNames || chart.ShowLegend || count < 2 || chart.CategoryCount() < 2) return false;
+    const bool hasLegend = chart.ShowLegend && !chart.LegendFollowsData;
+    if (!chart.Plot.DirectNames || hasLegend || count < 2 || chart.CategoryCount() < 2) return false;
     if (kind.form != ChartForm::Flat || kind.pairsColumns) return false;
     for (int number = 1; number <= count; ++number)
         if (!IsNamedAtItsEnd(MarkOfSeries(chart, number)) ||
