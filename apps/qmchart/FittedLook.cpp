@@ -187,6 +187,7 @@ bool NameValueAxes(QJsonObject& look, const Table& table) {
     const bool twoSeries = table.columns == 2 && !StandsOnSecondAxis(look, 1) && StandsOnSecondAxis(look, 2);
     if (!twoSeries || MakesXYChart(look)) return false;
     DropTitles(look);
+    DropLegend(look); // the axes say it all
     SetOfAxis(look, ValueAxis, "AxisTitleText", ColumnName(table, 1));
     SetOfAxis(look, SecondValueAxis, "AxisTitleText", ColumnName(table, 2));
     return true;

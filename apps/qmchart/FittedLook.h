@@ -26,8 +26,8 @@ bool MakesXYChart(const QJsonObject& look);
 /// there is one column, and a second value axis is there for series that stand on it.
 void FitToTable(QJsonObject& look, const Table& table);
 
-/// Names each value axis after its series, in place of all titles of the look, where it gives one series of
-/// two an axis of its own. False, and nothing done, otherwise.
+/// Names each value axis after its series, in place of all titles of the look and of a legend, where it gives
+/// one series of two an axis of its own. False, and nothing done, otherwise.
 bool NameValueAxes(QJsonObject& look, const Table& table);
 
 /// The name of a column of numbers, from 1; "" where there is none.

@@ -182,6 +182,7 @@ TEST(ChosenLook, TwoValueAxesAreNamedAfterTheirSeriesUnlessSomebodyNamesThem) {
     EXPECT_EQ(chosen.useConfig, 2);
     EXPECT_EQ(axis(chosen, 1).value("AxisTitleText"), "North");
     EXPECT_EQ(axis(chosen, 2).value("AxisTitleText"), "South");
+    EXPECT_EQ(Json(chosen).value("Legend"), false);
     EXPECT_EQ(axis(chosen, 2).value("AxisScaleVisible"), true);
     EXPECT_EQ(Choose({"--look", "two-axes", "--value-title", "EUR"}).useConfig, 1);
     EXPECT_EQ(Choose({"--look", "two-axes"}, TableOf("a,b,c,d")).useConfig, 1);

@@ -1,14 +1,21 @@
 #include "chartcontrol/layout/space/SpaceWalls.h"
 
+#include "chartcontrol/model/ColourContrast.h"
+
 #include <array>
 
 namespace QmChart6 {
 
 namespace {
 
-constexpr Colour WallColour{247, 248, 250};
-constexpr Colour SideColour{240, 242, 245};
-constexpr Colour FloorColour{232, 235, 240};
+/// A wall's colour, and how much of white lies over a dark ground in its place.
+struct WallLook {
+    Colour colour;
+    double light = 0;
+};
+constexpr WallLook BackWall{{247, 248, 250}, 0.04};
+constexpr WallLook SideWall{{240, 242, 245}, 0.07};
+constexpr WallLook Floor{{232, 235, 240}, 0.1};
 
 class Walls {
 public:
@@ -20,11 +27,11 @@ public:
     void Run(const PlotDemand& demand) {
         const SpacePoint& size = plan_.size;
         Face({SpacePoint{farX_, 0, 0}, {farX_, size.y, 0}, {farX_, size.y, size.z}, {farX_, 0, size.z}},
-             SideColour);
+             SideWall);
         Face({SpacePoint{0, 0, farZ_}, {size.x, 0, farZ_}, {size.x, size.y, farZ_}, {0, size.y, farZ_}},
-             WallColour);
+             BackWall);
         Face({SpacePoint{0, farY_, 0}, {size.x, farY_, 0}, {size.x, farY_, size.z}, {0, farY_, size.z}},
-             FloorColour);
+             Floor);
         ValueGrid(AxisId::Y, plan_.primary, plan_.primaryMap);
         if (demand.usesSecondary) ValueGrid(AxisId::SecondaryY, plan_.secondary, plan_.secondaryMap);
         CategoryGrid();
@@ -32,10 +39,16 @@ public:
     }
 
 private:
-    void Face(const std::array<SpacePoint, 4>& corners, Colour colour) {
+    [[nodiscard]] Colour ColourOf(const WallLook& wall) const {
+        const Fill& ground = context_.chart.Backdrop.Fill;
+        const bool dark = ground.Style != FillStyle::None && IsDark(ground.Brush.FillColor);
+        return dark ? Mixed(ground.Brush.FillColor, {255, 255, 255}, wall.light) : wall.colour;
+    }
+
+    void Face(const std::array<SpacePoint, 4>& corners, const WallLook& wall) {
         for (const SpacePoint& corner : corners) context_.builder.AddPoint(plan_.Page(corner));
         const Pen& pen = context_.chart.Plot.Axis(AxisId::X).Pen;
-        context_.builder.AddPolygon({PartCode::Plot}, SolidFill(colour),
+        context_.builder.AddPolygon({PartCode::Plot}, SolidFill(ColourOf(wall)),
                                     {PenStyle::Solid, pen.Width / 2, pen.VtColor});
     }
 

@@ -219,5 +219,21 @@ TEST(SpaceFaces, TheFrontKeepsItsColour) {
     EXPECT_LT(Shaded(colour, {1, 0, 0}).Red, colour.Red);
 }
 
+TEST(SpaceWalls, AreNearlyAsDarkAsADarkGround) {
+    Chart chart = Bars(2, 2, Projection::Oblique, 60, 30);
+    const auto wall = [&] {
+        const Scene scene = LaidOut(chart);
+        for (const Shape& shape : scene.shapes)
+            if (shape.part.code == PartCode::Plot && std::holds_alternative<Polygon>(shape.geometry))
+                return shape.fill.colour;
+        return Colour{};
+    };
+    EXPECT_GT(wall().Red, 200);
+    chart.Backdrop.Fill.Style = FillStyle::Brush;
+    chart.Backdrop.Fill.Brush.FillColor = {30, 34, 39};
+    EXPECT_LT(wall().Red, 70);
+    EXPECT_NE(wall(), (Colour{30, 34, 39}));
+}
+
 } // namespace
 } // namespace QmChart6

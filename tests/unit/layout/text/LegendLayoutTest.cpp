@@ -100,5 +100,37 @@ TEST(Legend, IsNotShownForOneSeries) {
     EXPECT_TRUE(TextsOf(LaidOut(ChartOf(3, 1, Ramp)), PartCode::Legend).empty());
 }
 
+/// The texts of the legend, or of the names that stand in for it.
+std::size_t NamesOf(const Chart& chart) {
+    return TextsOf(LaidOut(chart), PartCode::Legend).size();
+}
+
+bool NamesAreBesideThePlot(const Chart& chart) {
+    const Scene scene = LaidOut(chart);
+    const auto names = TextsOf(scene, PartCode::Legend);
+    return !names.empty() && names.front().origin.y > BoxOfPlot(scene).Center().y;
+}
+
+TEST(Legend, GivesWayToNamesAtTheLinesUntilSomebodyAsksForIt) {
+    // Lines that end low: the legend begins at the height of its middle, their names stand where they end.
+    Chart chart = ChartOf(3, 2, [](int row, int column) { return row == 3 ? 1.0 * column : 100.0; });
+    chart.SetChartType(ChartType::Line2D);
+    chart.Legend.Location.LocationType = LocationType::TopRight;
+    chart.Plot.DirectNames = true;
+    EXPECT_TRUE(NamesAreBesideThePlot(chart));
+    chart.LegendFollowsData = false;
+    chart.ShowLegend = true;
+    EXPECT_FALSE(NamesAreBesideThePlot(chart));
+}
+
+TEST(Legend, StandsInForNamesThatHaveNoPlaceUnlessSomebodyTurnedItOff) {
+    Chart chart = ChartOf(3, 2, Ramp);
+    chart.Plot.DirectNames = true;
+    EXPECT_EQ(NamesOf(chart), 2U); // bars have no ends
+    chart.LegendFollowsData = false;
+    chart.ShowLegend = false;
+    EXPECT_EQ(NamesOf(chart), 0U);
+}
+
 } // namespace
 } // namespace QmChart6
