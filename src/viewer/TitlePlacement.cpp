@@ -42,6 +42,11 @@ Size ExtentOfText(const Title& title, Coordinate center, const Size& chartSize,
     return {extent.width + 2 * Slack, extent.height + 2 * Slack};
 }
 
+/// In single precision, as looks are stored: a chart that is loaded again is the same to the last pixel.
+double AsStored(double place) {
+    return static_cast<double>(static_cast<float>(place));
+}
+
 /// Whether the room that the text takes is what it was.
 bool TakesTheSameRoom(const Title& left, const Title& right) {
     return left.Text == right.Text && left.VtFont.Name == right.VtFont.Name &&
@@ -70,8 +75,10 @@ void PlaceTitleAround(Title& title, const CoordinateRect& before, const Title& u
     } else if (IsUpright(title) != IsUpright(unchanged)) {
         std::swap(extent.width, extent.height);
     }
-    title.Location.Rect.Min.Set(center.X - extent.width / 2, center.Y - extent.height / 2);
-    title.Location.Rect.Max.Set(center.X + extent.width / 2, center.Y + extent.height / 2);
+    title.Location.Rect.Min.Set(AsStored(center.X - extent.width / 2),
+                                AsStored(center.Y - extent.height / 2));
+    title.Location.Rect.Max.Set(AsStored(center.X + extent.width / 2),
+                                AsStored(center.Y + extent.height / 2));
     title.Location.LocationType = LocationType::Custom;
 }
 
