@@ -79,6 +79,7 @@ public:
 
     LegendGrid Beside() {
         Collect();
+        if (grid_.entries.empty()) return grid_;
         const int most = std::max(1, static_cast<int>(room_.height / grid_.rowHeight));
         const int columns = Ceil(Count(), most);
         grid_.rows = Ceil(Count(), columns);
@@ -98,6 +99,7 @@ public:
 
     LegendGrid AboveOrBelow() {
         Collect();
+        if (grid_.entries.empty()) return grid_;
         double widest = 0;
         for (const Entry& entry : grid_.entries) widest = std::max(widest, entry.width);
         const double pitch = grid_.symbolWidth + std::min(widest, room_.width / 2) + grid_.columnGap;
@@ -130,7 +132,7 @@ private:
         const std::size_t shown = drawn.size() > most ? std::max<std::size_t>(1, most) - 1 : drawn.size();
         for (std::size_t i = 0; i < shown; ++i) Add(drawn[i], NameOf(chart, drawn[i]));
         if (shown == drawn.size()) return;
-        Add(0, QStringLiteral("\u2026 +%1").arg(drawn.size() - shown));
+        AddRest(drawn.size() - shown);
         context_.builder.Warn(QStringLiteral("the legend has no room for %1 of %2 series")
                                   .arg(drawn.size() - shown)
                                   .arg(drawn.size()));
@@ -144,6 +146,15 @@ private:
         const int columns = std::max(1, static_cast<int>((room_.width + grid_.columnGap) / pitch));
         return static_cast<std::size_t>(columns *
                                         std::max(1, static_cast<int>(room_.height / grid_.rowHeight)));
+    }
+
+    /// How many are missing; nothing where there is no room even for that.
+    void AddRest(std::size_t missing) {
+        for (const char* form : {"\u2026 +%1", "+%1"}) {
+            Add(0, QString::fromUtf8(form).arg(missing));
+            if (grid_.entries.back().width <= room_.width) return;
+            grid_.entries.pop_back();
+        }
     }
 
     void Add(int series, const QString& name) {
@@ -231,15 +242,16 @@ void PlaceGrid(const LayoutContext& context, const LegendGrid& grid, const Box& 
             const Box symbol{left, top, left + grid.symbolWidth - SymbolGapShare * font.Size,
                              top + grid.rowHeight};
             if (entry.series > 0) AddSymbol(context, entry.series, symbol);
-            context.builder.AddText({PartCode::Legend, entry.series},
-                                    {entry.name,
-                                     font,
-                                     {left + grid.symbolWidth, middle + (line.ascent - line.descent) / 2},
-                                     TextAnchor::Start,
-                                     0,
-                                     entry.width,
-                                     line.ascent,
-                                     line.descent});
+            context.builder.AddText(
+                {PartCode::Legend, entry.series},
+                {entry.name,
+                 font,
+                 {entry.IsRest() ? left : left + grid.symbolWidth, middle + (line.ascent - line.descent) / 2},
+                 TextAnchor::Start,
+                 0,
+                 entry.width,
+                 line.ascent,
+                 line.descent});
         }
         left += grid.symbolWidth + grid.columnWidths[static_cast<std::size_t>(column)] + grid.columnGap;
     }
