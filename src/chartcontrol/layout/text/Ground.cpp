@@ -92,11 +92,13 @@ private:
         return Contrast(colour, ground_.PlainColour()) >= FaintContrast;
     }
 
+    [[nodiscard]] Cells Limited(const Cells& cells) const {
+        return {std::max(cells.left, limits_.left), std::max(cells.top, limits_.top),
+                std::min(cells.right, limits_.right), std::min(cells.bottom, limits_.bottom)};
+    }
     template<class Visit>
     void ForCells(const Box& box, Visit visit) {
-        Cells cells = ground_.CellsOf(box);
-        cells = {std::max(cells.left, limits_.left), std::max(cells.top, limits_.top),
-                 std::min(cells.right, limits_.right), std::min(cells.bottom, limits_.bottom)};
+        const Cells cells = Limited(ground_.CellsOf(box));
         for (int row = cells.top; row <= cells.bottom; ++row)
             for (int column = cells.left; column <= cells.right; ++column) visit(ground_.At(column, row));
     }
@@ -104,7 +106,21 @@ private:
         ForCells(box, [flag](Cell& cell) { cell |= flag; });
     }
     void Cover(const Box& box) {
-        ForCells(box, [this](Cell& cell) { Lay(cell); });
+        const Cells cells = Limited(ground_.CellsOf(box));
+        for (int row = cells.top; row <= cells.bottom; ++row) CoverRow(row, cells.left, cells.right);
+    }
+    void CoverRow(int row, int left, int right) {
+        if (left > right) return;
+        Cell* first = &ground_.At(left, row);
+        Cell* end = first + (right - left + 1);
+        if (shape_->fill.opacity < 1) {
+            for (Cell* cell = first; cell != end; ++cell) Lay(*cell);
+            return;
+        }
+        // Nothing of what lay there is seen any more.
+        Cell covering = 0;
+        Lay(covering);
+        std::fill(first, end, covering);
     }
 
     /// Lays the shape's fill over a cell; what lay there is gone, or shines through.
@@ -147,24 +163,26 @@ private:
             Cross(before, point);
             before = point;
         }
-        for (int row = 0; row < ground_.rows_; ++row) {
+        for (int row = limits_.top; row <= limits_.bottom; ++row) {
             std::vector<double>& places = crossings_[static_cast<std::size_t>(row)];
             std::sort(places.begin(), places.end());
-            for (std::size_t i = 0; i + 1 < places.size(); i += 2) {
-                const double y = ground_.room_.top + row + 0.5;
-                // From middle to middle.
-                const Box stretch{places[i] + 0.5, y, places[i + 1] - 0.5, y};
-                if (stretch.Width() > -1) Cover({stretch.left, y, std::max(stretch.left, stretch.right), y});
-            }
+            for (std::size_t i = 0; i + 1 < places.size(); i += 2)
+                CoverRow(row, std::max(limits_.left, ColumnFrom(places[i])),
+                         std::min(limits_.right, ColumnFrom(places[i + 1]) - 1));
             places.clear();
         }
+    }
+    /// The first column whose middle is at that place or to its right.
+    [[nodiscard]] int ColumnFrom(double x) const {
+        return static_cast<int>(
+            std::clamp(std::ceil(x - ground_.room_.left - 0.5), 0.0, 1.0 * ground_.columns_));
     }
     void Cross(Point from, Point to) {
         if (from.y > to.y) std::swap(from, to);
         const double top = ground_.room_.top + 0.5;
         const int first = static_cast<int>(std::clamp(std::ceil(from.y - top), 0.0, 1.0 * ground_.rows_));
         const int last = static_cast<int>(std::clamp(std::ceil(to.y - top), 0.0, 1.0 * ground_.rows_)) - 1;
-        for (int row = first; row <= last; ++row)
+        for (int row = std::max(first, limits_.top); row <= std::min(last, limits_.bottom); ++row)
             crossings_[static_cast<std::size_t>(row)].push_back(
                 from.x + (top + row - from.y) * (to.x - from.x) / (to.y - from.y));
     }
