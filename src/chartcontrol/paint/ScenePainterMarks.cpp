@@ -1,5 +1,6 @@
 #include "chartcontrol/paint/MarkerStamps.h"
 #include "chartcontrol/paint/OutlinedText.h"
+#include "chartcontrol/paint/PictureLetters.h"
 #include "chartcontrol/paint/QtColour.h"
 #include "chartcontrol/paint/ScenePainter.h"
 #include "chartcontrol/scene/Outline.h"
@@ -59,6 +60,7 @@ void ScenePainter::DrawTextAtOrigin(const TextLine& text, QPointF start) {
     if (!IsOutlined(text.font)) {
         SetPen(QPen(QtColourOf(text.font.VtColor)));
         painter_.drawText(start, text.text);
+        if (!raster_) DrawPictureLetters(painter_, start, text.text);
         return;
     }
     QPainterPath letters;
