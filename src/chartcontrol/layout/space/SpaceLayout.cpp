@@ -1,6 +1,8 @@
 #include "chartcontrol/layout/space/SpaceLayout.h"
 
 #include "chartcontrol/layout/data/SeriesLook.h"
+#include "chartcontrol/layout/space/SpaceAxes.h"
+#include "chartcontrol/layout/space/SpaceFit.h"
 #include "chartcontrol/layout/space/SpaceMarks.h"
 #include "chartcontrol/layout/space/SpaceWalls.h"
 #include "chartcontrol/layout/text/Ground.h"
@@ -14,22 +16,8 @@ namespace QmChart6 {
 
 namespace {
 
-/// A plot smaller than this on the page does without titles, and then without labels. Points.
-constexpr double SmallestWidth = 60;
-constexpr double SmallestHeight = 45;
 constexpr double LabelGap = 3;
 constexpr double LongestLabel = 120;
-
-SpacePlan PlanThatFits(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
-                       const Box& box) {
-    for (const Furniture furniture : {Furniture::All, Furniture::NoTitles}) {
-        SpacePlan plan = PlanSpace(context, demand, plotted, box, furniture);
-        const Size extent = plan.Extent();
-        if (extent.width >= SmallestWidth && extent.height >= SmallestHeight) return plan;
-    }
-    context.builder.Warn(QStringLiteral("the chart is too small for its axes' labels"));
-    return PlanSpace(context, demand, plotted, box, Furniture::None);
-}
 
 /// Data labels stand above the front of their mark, those of nearer rows first. Points that others hide have
 /// none.
@@ -132,7 +120,7 @@ SpacePlaces LayOutSpace(const LayoutContext& context, const Box& box) {
     const PlottedValues plotted(context.chart);
     const PlotDemand demand = DemandOf(context.chart, plotted);
     WarnOf(context, demand);
-    const SpacePlan plan = PlanThatFits(context, demand, plotted, box);
+    const SpacePlan plan = FitSpace(context, demand, plotted, box);
     LayOutWalls(context, demand, plan);
     SpacePlaces places = LayOutSpaceMarks(context, plan, plotted);
     LayOutSpaceAxes(context, plan, box);
