@@ -75,7 +75,8 @@ std::optional<Box> AxisTextRoom::Push(const Box& wished, Point step, double reac
         return Box{wished.left + step.x * times, wished.top + step.y * times, wished.right + step.x * times,
                    wished.bottom + step.y * times};
     };
-    for (int times = 0; times * length <= reach; ++times)
+    const int most = length > 0 ? static_cast<int>(reach / length) : 0;
+    for (int times = 0; times <= most; ++times)
         if (const Box box = moved(times); IsFree(box.Grown(air)) && IsInside(box)) return box;
     return air > 0 ? Push(wished, step, reach) : std::nullopt;
 }

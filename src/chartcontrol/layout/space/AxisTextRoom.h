@@ -42,4 +42,10 @@ inline bool Meet(const Box& one, const Box& other) {
            other.top < one.bottom;
 }
 
+/// A label with the air that keeps it apart from those at its left and right.
+inline Box WithAir(const Box& label) {
+    constexpr double air = 2.5;
+    return {label.left - air, label.top, label.right + air, label.bottom};
+}
+
 } // namespace QmChart6

@@ -23,6 +23,8 @@ struct AxisTexts {
     AxisTextRoom room;
     /// By axis, what its labels take.
     std::array<Box, 4> labels;
+    /// Where the edge is that has the names of the rows.
+    double rowEdgeX = 0;
 
     [[nodiscard]] const Axis& AxisOf(AxisId id) const { return context.chart.Plot.Axis(id); }
     [[nodiscard]] bool Shown(AxisId id) const {

@@ -13,8 +13,8 @@ constexpr double SmallestWidth = 60;
 constexpr double SmallestHeight = 45;
 /// Rounds in which labels and space are fitted to each other.
 constexpr int MostRounds = 5;
-/// Margins that lack no more than this are wide enough. Points.
-constexpr double Enough = 0.25;
+/// Margins grow by this more than they lack, so that they come to rest. Points.
+constexpr double Reserve = 0.5;
 
 struct Margins {
     double left = 0;
@@ -29,13 +29,17 @@ struct Margins {
     }
     /// Takes what is lacking; whether anything was.
     bool Grow(const Box& space, const Box& wished) {
-        const Margins before = *this;
-        left = std::max(left, space.left - wished.left);
-        top = std::max(top, space.top - wished.top);
-        right = std::max(right, wished.right - space.right);
-        bottom = std::max(bottom, wished.bottom - space.bottom);
-        return left > before.left + Enough || top > before.top + Enough || right > before.right + Enough ||
-               bottom > before.bottom + Enough;
+        bool grown = false;
+        const auto grow = [&](double& margin, double needed) {
+            if (!(needed > margin)) return;
+            margin = needed + Reserve;
+            grown = true;
+        };
+        grow(left, space.left - wished.left);
+        grow(top, space.top - wished.top);
+        grow(right, wished.right - space.right);
+        grow(bottom, wished.bottom - space.bottom);
+        return grown;
     }
 };
 

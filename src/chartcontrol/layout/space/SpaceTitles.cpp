@@ -1,6 +1,7 @@
 #include "chartcontrol/layout/space/AxisTexts.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace QmChart6 {
 
@@ -33,7 +34,7 @@ public:
         Upright(AxisId::SecondaryY, plan_.secondary, false);
         Across(AxisId::X, Middle({0, 0, plan_.CategoryEdgeZ()}, {plan_.size.x, 0, plan_.CategoryEdgeZ()}));
         if (texts_.LabelsOf(AxisId::Z) != Box::Nothing())
-            Across(AxisId::Z, Middle({plan_.RowEdgeX(), 0, 0}, {plan_.RowEdgeX(), 0, plan_.size.z}));
+            Across(AxisId::Z, Middle({texts_.rowEdgeX, 0, 0}, {texts_.rowEdgeX, 0, plan_.size.z}));
     }
 
 private:
@@ -108,6 +109,8 @@ private:
         const Size size = block.Extent();
         const Box& labels = texts_.LabelsOf(id);
         const bool aside = id == AxisId::Z && IsTurned(title);
+        const bool level = id == AxisId::X && std::abs(plan_.CategorySlope()) < LeastSlope;
+        if (level && labels != Box::Nothing()) edge.y = labels.bottom;
         const bool right = edge.x >= Middle({0, 0, 0}, plan_.size).x;
         const double x = id == AxisId::Z && !aside ? labels.Center().x : edge.x;
         const Point middle{MiddleWithin(x, size.width, box.left, box.right), edge.y + size.height / 2};
