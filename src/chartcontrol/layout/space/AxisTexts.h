@@ -5,6 +5,7 @@
 #include "chartcontrol/layout/space/SpacePlan.h"
 
 #include <array>
+#include <vector>
 
 namespace QmChart6 {
 
@@ -12,17 +13,15 @@ namespace QmChart6 {
 struct AxisTexts {
     AxisTexts(const LayoutContext& with, const SpacePlan& of, const Box& within,
               const std::optional<Box>& bounds)
-        : context(with), plan(of), box(within), room(of, bounds) {
-        labels.fill(Box::Nothing());
-    }
+        : context(with), plan(of), box(within), room(of, bounds) {}
 
     const LayoutContext& context;
     const SpacePlan& plan;
     /// The room of the whole plot.
     Box box;
     AxisTextRoom room;
-    /// By axis, what its labels take.
-    std::array<Box, 4> labels;
+    /// By axis, what each of its labels takes.
+    std::array<std::vector<Box>, 4> labels;
     /// Where the edge is that has the names of the rows.
     double rowEdgeX = 0;
 
@@ -34,7 +33,11 @@ struct AxisTexts {
     [[nodiscard]] double LineHeight(AxisId id) const {
         return context.measurer.Measure(QStringLiteral("x"), AxisOf(id).Labels.Item(1).VtFont).Height();
     }
-    [[nodiscard]] Box& LabelsOf(AxisId id) { return labels[static_cast<std::size_t>(id)]; }
+    [[nodiscard]] const std::vector<Box>& LabelsOf(AxisId id) const {
+        return labels[static_cast<std::size_t>(id)];
+    }
+    /// The direction away from an edge on the page and from the middle of the space.
+    [[nodiscard]] Point Outward(Point from, Point to) const;
 
     /// A line of a label's text with its middle height at a point.
     [[nodiscard]] TextLine LineAt(AxisId id, const QString& text, Point at, TextAnchor anchor) const;

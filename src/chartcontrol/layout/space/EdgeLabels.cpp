@@ -26,7 +26,7 @@ bool AreMost(const std::vector<EdgeLabel>& found, const std::vector<KeptCategory
 class NamesAlong {
 public:
     NamesAlong(const AxisTexts& texts, const NamedEdge& edge)
-        : texts_(texts), edge_(edge), outward_(Outward()) {}
+        : texts_(texts), edge_(edge), outward_(texts.Outward(edge.from, edge.to)) {}
 
     [[nodiscard]] std::vector<EdgeLabel> Staggered(const CategorySequence& names) const {
         AxisTextRoom room = texts_.room;
@@ -62,18 +62,6 @@ public:
     }
 
 private:
-    /// Away from the edge and from the middle of the space.
-    [[nodiscard]] Point Outward() const {
-        const Point along{edge_.to.x - edge_.from.x, edge_.to.y - edge_.from.y};
-        const double length = std::hypot(along.x, along.y);
-        if (!(length > Slack)) return {0, 1};
-        const Point across{along.y / length, -along.x / length};
-        const Point space = texts_.plan.Page(texts_.plan.size * 0.5);
-        const Point middle{(edge_.from.x + edge_.to.x) / 2, (edge_.from.y + edge_.to.y) / 2};
-        const bool inward = across.x * (middle.x - space.x) + across.y * (middle.y - space.y) < 0;
-        return inward ? Point{-across.x, -across.y} : across;
-    }
-
     /// Names stand beside the edge, just so far that they are clear of it.
     [[nodiscard]] EdgeLabel NameAt(const AxisTextRoom& room, const KeptCategory& name) const {
         const double away = texts_.Gap(edge_.id) + std::abs(outward_.y) * texts_.LineHeight(edge_.id) / 2;

@@ -163,10 +163,22 @@ TextLine AxisTexts::LineAt(AxisId id, const QString& text, Point at, TextAnchor 
             extent.descent};
 }
 
+Point AxisTexts::Outward(Point from, Point to) const {
+    constexpr double shortest = 0.01;
+    const Point along{to.x - from.x, to.y - from.y};
+    const double length = std::hypot(along.x, along.y);
+    if (!(length > shortest)) return {0, 1};
+    const Point across{along.y / length, -along.x / length};
+    const Point space = plan.Page(plan.size * 0.5);
+    const bool inward =
+        across.x * ((from.x + to.x) / 2 - space.x) + across.y * ((from.y + to.y) / 2 - space.y) < 0;
+    return inward ? Point{-across.x, -across.y} : across;
+}
+
 void AxisTexts::Place(AxisId id, int index, TextLine line) {
     const Box bounds = BoundsOf(line);
     room.Take(WithAir(bounds));
-    LabelsOf(id).Include(bounds);
+    labels[static_cast<std::size_t>(id)].push_back(bounds);
     context.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), index}, std::move(line));
 }
 

@@ -1,6 +1,7 @@
 #include "chartcontrol/layout/space/SpaceFit.h"
 
 #include "chartcontrol/layout/space/SpaceAxes.h"
+#include "chartcontrol/layout/space/SpaceLabels.h"
 
 #include <algorithm>
 
@@ -46,8 +47,8 @@ struct Margins {
 /// Each round leaves room for the texts that the round before would have had.
 SpacePlan PlanWith(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
                    const Box& box, Furniture furniture) {
-    Margins margins;
-    SpacePlan plan = PlanSpace(context, demand, plotted, box, furniture);
+    Margins margins{0, HeadRoomOfSpaceLabels(context), 0, 0};
+    SpacePlan plan = PlanSpace(context, demand, plotted, margins.Inside(box), furniture);
     for (int round = 0; round < MostRounds; ++round) {
         if (!margins.Grow(plan.Bounds(), WishedByAxes(context, plan, box))) break;
         plan = PlanSpace(context, demand, plotted, margins.Inside(box), furniture);

@@ -48,6 +48,12 @@ Box CenteredAt(double x, double y, const Size& size) {
     return {x - size.width / 2, y - size.height / 2, x + size.width / 2, y + size.height / 2};
 }
 
+/// A place for a label. On the front of its mark it comes without a plate or not at all.
+struct LabelSpot {
+    Box box;
+    bool onFront = false;
+};
+
 bool AreAsked(const Series& series) {
     return ShowsLabel(series.DataPoints.Item(DataPoints::All).DataPointLabel) || series.DataPoints.HasOwn();
 }
@@ -125,22 +131,23 @@ private:
 
     /// Where a label may stand, the best first: where its location asks for, then beyond the mark's end, at
     /// last on its front.
-    [[nodiscard]] static std::vector<Box> PlacesAt(const MarkEnd& mark, LabelLocation location,
-                                                   const Size& size) {
+    [[nodiscard]] static std::vector<LabelSpot> PlacesAt(const MarkEnd& mark, LabelLocation location,
+                                                         const Size& size) {
         const double away = (mark.negative ? 1 : -1) * (LabelGap + size.height / 2);
         const double face = mark.negative ? mark.face.bottom : mark.face.top;
-        const Box beyond = CenteredAt(mark.end.x, face + away, size);
-        const Box atEdge = CenteredAt(mark.end.x, mark.end.y + away, size);
-        const Box within = CenteredAt(mark.end.x, mark.end.y - away, size);
+        const LabelSpot beyond{CenteredAt(mark.end.x, face + away, size)};
+        const LabelSpot atEdge{CenteredAt(mark.end.x, mark.end.y + away, size)};
+        const LabelSpot within{CenteredAt(mark.end.x, mark.end.y - away, size), true};
         const bool isDeep = std::abs(face - mark.end.y) > DeepestFace * size.height;
-        std::vector<Box> places = isDeep ? std::vector{atEdge, within} : std::vector{beyond, atEdge, within};
+        std::vector<LabelSpot> places =
+            isDeep ? std::vector{atEdge, within} : std::vector{beyond, atEdge, within};
         if (!mark.isBar) places.pop_back();
         if (location == LabelLocation::Center || location == LabelLocation::Inside)
             places.insert(places.begin(),
-                          CenteredAt((mark.end.x + mark.base.x) / 2, (mark.end.y + mark.base.y) / 2, size));
+                          {CenteredAt((mark.end.x + mark.base.x) / 2, (mark.end.y + mark.base.y) / 2, size)});
         if (location == LabelLocation::Base)
-            places.insert(places.begin(), CenteredAt(mark.base.x, mark.base.y + away, size));
-        if (location == LabelLocation::BelowPoint) places.insert(places.begin(), within);
+            places.insert(places.begin(), {CenteredAt(mark.base.x, mark.base.y + away, size)});
+        if (location == LabelLocation::BelowPoint) places.insert(places.begin(), {within.box});
         return places;
     }
 
@@ -158,16 +165,24 @@ private:
         return all > 0 ? static_cast<double>(covered) / all : 1;
     }
 
+    [[nodiscard]] bool IsMark(const Ground::Footing& footing) const {
+        const std::optional<Part> part = ground_.PartOf(footing.shape);
+        return part && part->code == PartCode::Series;
+    }
+
     /// On one surface that is not another's mark; else on a plate where that hides least of others.
-    [[nodiscard]] std::optional<FoundPlace> Find(const MarkEnd& mark, const std::vector<Box>& places) const {
+    [[nodiscard]] std::optional<FoundPlace> Find(const MarkEnd& mark,
+                                                 const std::vector<LabelSpot>& places) const {
         std::optional<FoundPlace> best;
         double least = MostCovered;
-        for (const Box& box : places) {
+        for (const auto& [box, onFront] : places) {
             const Ground::Footing footing = ground_.Under(box.Grown(PlateRim));
             if (!footing.free) continue;
             const double covered = CoveredOf(mark, box);
-            if (footing.even && !(covered > 0)) return FoundPlace{{box}, footing.colour, false};
-            if (covered >= least) continue;
+            // Lines alone, such as a wall's edge, are no reason to go elsewhere.
+            if (!(covered > 0) && (footing.even || !IsMark(footing)))
+                return FoundPlace{{box}, footing.colour, !footing.even};
+            if (onFront || covered >= least) continue;
             least = covered;
             best = FoundPlace{{box}, ground_.PlainColour(), true};
         }
@@ -198,6 +213,16 @@ private:
 };
 
 } // namespace
+
+double HeadRoomOfSpaceLabels(const LayoutContext& context) {
+    double room = 0;
+    for (const Series& series : context.chart.Plot.SeriesCollection)
+        if (const DataPointLabel& label = series.DataPoints.Item(DataPoints::All).DataPointLabel;
+            ShowsLabel(label))
+            room = std::max(room, context.measurer.Measure(QStringLiteral("0"), label.VtFont).Height() +
+                                      2 * LabelGap);
+    return room;
+}
 
 void LayOutSpaceLabels(const LayoutContext& context, const SpacePlan& plan, const PlottedValues& plotted,
                        const Box& box) {

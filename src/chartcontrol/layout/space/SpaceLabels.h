@@ -11,4 +11,7 @@ namespace QmChart6 {
 void LayOutSpaceLabels(const LayoutContext& context, const SpacePlan& plan, const PlottedValues& plotted,
                        const Box& box);
 
+/// The room above the space in which the labels of the highest marks stand.
+double HeadRoomOfSpaceLabels(const LayoutContext& context);
+
 } // namespace QmChart6

@@ -32,9 +32,11 @@ public:
     void Run() {
         Upright(AxisId::Y, plan_.primary, true);
         Upright(AxisId::SecondaryY, plan_.secondary, false);
-        Across(AxisId::X, Middle({0, 0, plan_.CategoryEdgeZ()}, {plan_.size.x, 0, plan_.CategoryEdgeZ()}));
-        if (texts_.LabelsOf(AxisId::Z) != Box::Nothing())
-            Across(AxisId::Z, Middle({texts_.rowEdgeX, 0, 0}, {texts_.rowEdgeX, 0, plan_.size.z}));
+        const double z = plan_.CategoryEdgeZ();
+        Across(AxisId::X, plan_.Page({0, 0, z}), plan_.Page({plan_.size.x, 0, z}));
+        const double x = texts_.rowEdgeX;
+        if (!texts_.LabelsOf(AxisId::Z).empty())
+            Across(AxisId::Z, plan_.Page({x, 0, 0}), plan_.Page({x, 0, plan_.size.z}));
     }
 
 private:
@@ -87,8 +89,9 @@ private:
 
     /// What the labels are told in stands above them, where no title tells it.
     void Unit(AxisId id, const QString& unit, bool left) {
-        const Box& labels = texts_.LabelsOf(id);
-        if (unit.isEmpty() || labels == Box::Nothing()) return;
+        Box labels = Box::Nothing();
+        for (const Box& label : texts_.LabelsOf(id)) labels.Include(label);
+        if (unit.isEmpty() || texts_.LabelsOf(id).empty()) return;
         const TextBlock block = ElidedLine(unit, texts_.AxisOf(id).Labels.Item(1).VtFont,
                                            texts_.box.Width() / 2, texts_.context.measurer);
         const Size size = block.Extent();
@@ -98,8 +101,8 @@ private:
         Place(id, block, CenteredAt({middle, labels.top - UnitGap - size.height / 2}, size), {0, -1}, 0);
     }
 
-    /// Below its edge and the labels there; what is turned stands beside the edge along the depth.
-    void Across(AxisId id, Point edge) {
+    /// Away from an edge of the floor, beyond all of the labels there.
+    void Across(AxisId id, Point from, Point to) {
         if (!Has(id)) return;
         const Box& box = texts_.box;
         const AxisTitle& title = texts_.AxisOf(id).AxisTitle;
@@ -107,15 +110,22 @@ private:
         const TextBlock block =
             Title(id, {}, IsTurned(title) ? DeepestBelow * box.Height() : widest * box.Width());
         const Size size = block.Extent();
-        const Box& labels = texts_.LabelsOf(id);
-        const bool aside = id == AxisId::Z && IsTurned(title);
-        const bool level = id == AxisId::X && std::abs(plan_.CategorySlope()) < LeastSlope;
-        if (level && labels != Box::Nothing()) edge.y = labels.bottom;
-        const bool right = edge.x >= Middle({0, 0, 0}, plan_.size).x;
-        const double x = id == AxisId::Z && !aside ? labels.Center().x : edge.x;
-        const Point middle{MiddleWithin(x, size.width, box.left, box.right), edge.y + size.height / 2};
-        Place(id, block, CenteredAt(aside ? edge : middle, size),
-              aside ? Point{right ? 1.0 : -1.0, 0} : Point{0, 1}, TitleGapShare * title.VtFont.Size);
+        const Point middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
+        const Point outward = texts_.Outward(from, to);
+        const double away = Reach(id, middle, outward) + std::abs(outward.x) * size.width / 2 +
+                            std::abs(outward.y) * size.height / 2;
+        const Point at{middle.x + outward.x * away, middle.y + outward.y * away};
+        Place(id, block, CenteredAt({MiddleWithin(at.x, size.width, box.left, box.right), at.y}, size),
+              outward, TitleGapShare * title.VtFont.Size);
+    }
+    /// How far the labels of an axis reach in a direction.
+    [[nodiscard]] double Reach(AxisId id, Point from, Point direction) const {
+        double reach = 0;
+        for (const Box& label : texts_.LabelsOf(id))
+            reach =
+                std::max(reach, ((direction.x > 0 ? label.right : label.left) - from.x) * direction.x +
+                                    ((direction.y > 0 ? label.bottom : label.top) - from.y) * direction.y);
+        return reach;
     }
 
     AxisTexts& texts_;

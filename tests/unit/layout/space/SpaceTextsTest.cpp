@@ -52,6 +52,15 @@ Ground GroundOf(Scene& scene) {
     return {scene, {0, 0, scene.size.width, scene.size.height}, {255, 255, 255}};
 }
 
+Chart Labelled(Chart chart) {
+    for (Series& series : chart.Plot.SeriesCollection) {
+        DataPointLabel& label = series.DataPoints.Item(DataPoints::All).DataPointLabel;
+        label.LocationType = LabelLocation::AbovePoint;
+        label.Component = LabelShowsValue;
+    }
+    return chart;
+}
+
 class AxisTextsFrom : public testing::TestWithParam<std::tuple<Projection, double, double>> {};
 
 TEST_P(AxisTextsFrom, StandWithinThePictureAndClearOfTheSpaceAndEachOther) {
@@ -122,6 +131,36 @@ TEST(SpaceAxes, ATitleStandsBelowTheLabelsNotBetweenThem) {
     for (const Shape& shape : ShapesOf<TextLine>(scene, PartCode::AxisLabel))
         if (shape.part.index1 == static_cast<int>(AxisId::X)) {
             EXPECT_GE(BoundsOf(titles.front()).top, shape.bounds.bottom);
+        }
+}
+
+TEST(SpaceAxes, ATitleBesideASlopingEdgeStandsBeyondAllOfItsLabels) {
+    Chart chart = SeenFrom(Bars(6, 1), Projection::Orthogonal, 45, 35);
+    for (int row = 1; row <= 6; ++row)
+        chart.DataGrid.SetRowLabel(row, QStringLiteral("Category %1").arg(row));
+    chart.Plot.Axis(AxisId::X).AxisTitle.Text = QStringLiteral("T");
+    const Scene scene = LaidOut(chart, Picture);
+    const std::vector<TextLine> titles = TextsOf(scene, PartCode::AxisTitle);
+    ASSERT_EQ(titles.size(), 1U);
+    const Box title = BoundsOf(titles.front());
+    ASSERT_EQ(NumbersOf(scene, AxisId::X).size(), 6U);
+    // The edge falls to the right: no label is both further left and further down.
+    for (const Shape& shape : ShapesOf<TextLine>(scene, PartCode::AxisLabel))
+        if (shape.part.index1 == static_cast<int>(AxisId::X)) {
+            EXPECT_FALSE(shape.bounds.left < title.left && shape.bounds.bottom > title.bottom);
+        }
+}
+
+TEST(SpaceLabels, TheHighestBarHasItsLabelAboveItWhereTheWallEnds) {
+    Chart chart = ChartOf(4, 1, [](int row, int) { return row == 1 ? 14.0 : 3.0; });
+    chart.SetChartType(ChartType::Bar3D);
+    chart.ShowLegend = false;
+    const Scene scene = LaidOut(Labelled(chart), Picture);
+    const std::vector<Shape> labels = ShapesOf<TextLine>(scene, PartCode::PointLabel);
+    ASSERT_EQ(labels.size(), 4U);
+    for (const Shape& face : ShapesOf<Polygon>(scene, PartCode::Series))
+        if (face.part.index2 == 1) {
+            EXPECT_GE(face.bounds.top, labels.front().bounds.bottom);
         }
 }
 
@@ -199,15 +238,6 @@ TEST_F(AxisTextRoomTest, WithoutADirectionNothingIsMoved) {
     const AxisTextRoom room(plan_, std::nullopt);
     const Point middle = plan_.Bounds().Center();
     EXPECT_FALSE(room.Push({middle.x, middle.y, middle.x + 1, middle.y + 1}, {0, 0}, 50));
-}
-
-Chart Labelled(Chart chart) {
-    for (Series& series : chart.Plot.SeriesCollection) {
-        DataPointLabel& label = series.DataPoints.Item(DataPoints::All).DataPointLabel;
-        label.LocationType = LabelLocation::AbovePoint;
-        label.Component = LabelShowsValue;
-    }
-    return chart;
 }
 
 TEST(SpaceLabels, StandAboveTheTopsOfTheirBarsInTheMiddleOfTheFrontEdges) {
