@@ -1,9 +1,11 @@
-#include "chartcontrol/layout/space/SpaceWalls.h"
-#include "chartcontrol/layout/text/TextBlock.h"
+#include "chartcontrol/layout/space/SpaceAxes.h"
+
+#include "chartcontrol/layout/space/EdgeLabels.h"
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -11,230 +13,186 @@ namespace QmChart6 {
 
 namespace {
 
-/// What labels may reach beyond their room by rounding. Points.
-constexpr double Slack = 0.01;
+/// Labels below the floor take at most this part of the height.
+constexpr double LabelDepthShare = 0.25;
+/// While room is measured, labels may hang so far over the ends of their axis, as a part of the width.
+constexpr double WidestOverhangShare = 0.15;
+/// So many names may stand at unlike distances from their edge.
+constexpr int MostStaggered = 12;
 
 class SpaceAxes {
 public:
-    SpaceAxes(const LayoutContext& context, const SpacePlan& plan, const Box& box)
-        : context_(context), plan_(plan), box_(box) {}
+    explicit SpaceAxes(AxisTexts& texts) : texts_(texts), plan_(texts.plan) {}
 
-    void Run() {
-        Values(AxisId::Y, plan_.primary, plan_.primaryMap, plan_.UprightEdge(true), true);
-        Values(AxisId::SecondaryY, plan_.secondary, plan_.secondaryMap, plan_.UprightEdge(false), false);
-        Categories();
+    void Run(bool bounded) {
+        Categories(bounded);
         Rows();
-        Titles();
+        Values(AxisId::Y, plan_.primary, plan_.primaryMap, true);
+        Values(AxisId::SecondaryY, plan_.secondary, plan_.secondaryMap, false);
     }
 
 private:
-    [[nodiscard]] const Axis& AxisOf(AxisId id) const { return context_.chart.Plot.Axis(id); }
-    [[nodiscard]] bool Shown(AxisId id) const {
-        return plan_.furniture != Furniture::None && !AxisOf(id).AxisScale.Hide;
+    void PlaceAll(AxisId id, std::span<const EdgeLabel> labels) {
+        for (const EdgeLabel& label : labels) texts_.Place(id, label.index, *label.line);
     }
-    [[nodiscard]] double Gap(AxisId id) const { return AxesPlan::LabelGap(AxisOf(id)); }
 
-    /// The ticks were planned for the length that the edge has on the page: no label meets another.
-    void Values(AxisId id, const ValueAxisPlan& axis, const AxisMap& map, SpacePoint corner, bool left) {
-        if (!Shown(id)) return;
+    /// The labels of the values along the upright edge that is outermost, thinned by steps until most of them
+    /// have a place.
+    void Values(AxisId id, const ValueAxisPlan& axis, const AxisMap& map, bool left) {
+        if (!texts_.Shown(id)) return;
+        const SpacePoint corner = plan_.UprightEdge(left);
+        const double gap = left ? -texts_.Gap(id) : texts_.Gap(id);
+        std::vector<EdgeLabel> all;
         int index = 0;
         for (const ValueAxisPlan::Tick& tick : axis.ticks) {
             ++index;
             if (tick.text.isEmpty()) continue;
-            Point at = plan_.Page({corner.x, map.At(tick.value), corner.z});
-            at.x += left ? -Gap(id) : Gap(id);
-            Place(id, index, LineAt(id, tick.text, at, left ? TextAnchor::End : TextAnchor::Start));
+            const Point at = plan_.Page({corner.x, map.At(tick.value), corner.z});
+            const TextLine line =
+                texts_.LineAt(id, tick.text, {at.x + gap, at.y}, left ? TextAnchor::End : TextAnchor::Start);
+            all.push_back(Pushed(texts_, texts_.room, id, index, line, {left ? -1.0 : 1.0, 0}));
         }
-    }
-
-    /// A line of text with its middle height at a point.
-    [[nodiscard]] TextLine LineAt(AxisId id, const QString& text, Point at, TextAnchor anchor) const {
-        const Font& font = AxisOf(id).Labels.Item(1).VtFont;
-        const TextExtent extent = context_.measurer.Measure(text, font);
-        return {text,
-                font,
-                {at.x, at.y + (extent.ascent - extent.descent) / 2},
-                anchor,
-                0,
-                extent.width,
-                extent.ascent,
-                extent.descent};
-    }
-
-    void Place(AxisId id, int index, TextLine line) {
-        taken_.push_back(BoundsOf(line));
-        context_.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), index}, std::move(line));
-    }
-
-    [[nodiscard]] static bool Meet(const Box& one, const Box& other) {
-        return one.left < other.right && other.left < one.right && one.top < other.bottom &&
-               other.top < one.bottom;
-    }
-    [[nodiscard]] bool IsFree(const Box& wanted) const {
-        return std::ranges::none_of(taken_, [&](const Box& taken) { return Meet(taken, wanted); });
-    }
-    [[nodiscard]] bool IsInside(const Box& wanted) const {
-        const Box allowed = box_.Grown(Slack);
-        return allowed.Contains({wanted.left, wanted.top}) && allowed.Contains({wanted.right, wanted.bottom});
-    }
-
-    /// An edge of the floor with names along it: where each stands, and how wide they may be.
-    struct NamedEdge {
-        AxisId id;
-        Point from;
-        Point to;
-        double width = 0;
-        std::function<Point(int)> place;
-    };
-
-    /// Names stand beside the edge, away from the middle of the floor, just so far that they are clear of it.
-    [[nodiscard]] TextLine NameAt(const NamedEdge& edge, const KeptCategory& name) const {
-        const Font& font = AxisOf(edge.id).Labels.Item(1).VtFont;
-        const Point along{edge.to.x - edge.from.x, edge.to.y - edge.from.y};
-        const double length = std::max(std::hypot(along.x, along.y), 1e-9);
-        Point outward{along.y / length, -along.x / length};
-        const Point floor = plan_.Page({plan_.size.x / 2, 0, plan_.size.z / 2});
-        const Point middle{(edge.from.x + edge.to.x) / 2, (edge.from.y + edge.to.y) / 2};
-        if (outward.x * (middle.x - floor.x) + outward.y * (middle.y - floor.y) < 0)
-            outward = {-outward.x, -outward.y};
-        const double height = context_.measurer.Measure(QStringLiteral("x"), font).Height();
-        const double away = Gap(edge.id) + std::abs(outward.y) * height / 2;
-        const Point at = edge.place(name.category);
-        const TextBlock block = ElidedLine(name.text, font, edge.width + Slack, context_.measurer);
-        return LineAt(edge.id, block.IsEmpty() ? QString() : block.lines.front().text,
-                      {at.x + outward.x * away, at.y + outward.y * away},
-                      outward.x < 0 ? TextAnchor::End : TextAnchor::Start);
-    }
-
-    /// Places the names if none of them covers another; those that would leave the box or cover the labels of
-    /// other axes go without. False, and nothing placed, where fewer than `fewest` are left.
-    bool TryNames(const NamedEdge& edge, const std::vector<KeptCategory>& names, std::size_t fewest = 2) {
-        std::vector<std::pair<int, TextLine>> lines;
-        for (const KeptCategory& name : names) {
-            TextLine line = NameAt(edge, name);
-            if (line.text.isEmpty()) continue;
-            const Box bounds = BoundsOf(line);
-            if (!lines.empty() && Meet(BoundsOf(lines.back().second), bounds)) return false;
-            if (IsInside(bounds) && IsFree(bounds)) lines.emplace_back(name.category, std::move(line));
+        std::vector<EdgeLabel> best;
+        for (std::size_t stride = 1; stride <= all.size(); ++stride) {
+            std::vector<EdgeLabel> some;
+            for (std::size_t i = 0; i < all.size(); i += stride) some.push_back(all[i]);
+            const auto run = LongestRun(some);
+            if (run.size() > best.size()) best.assign(run.begin(), run.end());
         }
-        if (lines.size() < fewest) return false;
-        for (auto& [category, line] : lines) Place(edge.id, category + 1, std::move(line));
-        return true;
-    }
-
-    /// The names along an edge, thinned until none covers another.
-    void Names(const NamedEdge& edge, CategorySequence names) {
-        const double height =
-            context_.measurer.Measure(QStringLiteral("x"), AxisOf(edge.id).Labels.Item(1).VtFont).Height();
-        const double rise = std::abs(edge.to.y - edge.from.y);
-        const double run = std::abs(edge.to.x - edge.from.x);
-        const double most = std::max(2.0, (rise + run) / height);
-        std::vector<KeptCategory> all;
-        for (int i = 0; i < names.Count() && names.Count() <= most; ++i) all.push_back({i, names.Text(i)});
-        if (!all.empty() && TryNames(edge, all)) return;
-        for (int step = 0;; ++step) {
-            const auto kept = names.Kept(step, most);
-            if (!kept) break;
-            if (!kept->empty() && TryNames(edge, *kept)) return;
-        }
-        if (names.Count() > 0) TryNames(edge, {{0, names.Text(0)}}, 1);
+        PlaceAll(id, best);
     }
 
     [[nodiscard]] Point CategoryPlace(double category) const {
-        const double count = std::max(1, context_.chart.CategoryCount());
+        const double count = std::max(1, texts_.context.chart.CategoryCount());
         return plan_.Page({category / count * plan_.size.x, 0, plan_.CategoryEdgeZ()});
     }
 
-    void Categories() {
-        if (!Shown(AxisId::X) || plan_.columns.empty()) return;
-        if (std::abs(plan_.CategorySlope()) < LeastSlope)
-            CategoriesBelow();
-        else
-            CategoriesBeside();
+    void Categories(bool bounded) {
+        if (!texts_.Shown(AxisId::X) || plan_.columns.empty()) return;
+        if (std::abs(plan_.CategorySlope()) < LeastSlope && CategoriesBelow(bounded)) return;
+        const int count = texts_.context.chart.CategoryCount();
+        PlaceAll(AxisId::X, ThinnedNames(texts_,
+                                         {AxisId::X, CategoryPlace(0), CategoryPlace(count),
+                                          [this](int category) { return CategoryPlace(category + 0.5); }},
+                                         CategoriesOf(texts_.context.chart)));
     }
 
-    void CategoriesBelow() {
-        const Chart& chart = context_.chart;
+    /// The shortest way from one category to the next on the page.
+    [[nodiscard]] double CategoryPitch(int count) const {
+        const double first = std::abs(CategoryPlace(1).x - CategoryPlace(0).x);
+        const double last = std::abs(CategoryPlace(count).x - CategoryPlace(count - 1).x);
+        return std::max(std::min(first, last), 1e-3);
+    }
+
+    /// Below a level edge labels stand as those of flat charts do; false where not all of them are clear.
+    bool CategoriesBelow(bool bounded) {
+        const Chart& chart = texts_.context.chart;
         const int count = chart.CategoryCount();
-        const double pitch = std::abs(CategoryPlace(count).x - CategoryPlace(0).x) / count;
-        const double top = std::max(CategoryPlace(0).y, CategoryPlace(count).y) + Gap(AxisId::X);
         const auto x = [&](int category) { return CategoryPlace(category + 0.5).x; };
+        const double upright = texts_.Shown(AxisId::Y) ? texts_.LineHeight(AxisId::Y) / 2 : 0;
+        const double top =
+            std::max(CategoryPlace(0).y, CategoryPlace(count).y) + std::max(texts_.Gap(AxisId::X), upright);
+        const double overhang = WidestOverhangShare * texts_.box.Width();
         CategorySequence categories = CategoriesOf(chart);
         const CategoryLabelPlan labels =
-            PlanCategoryLabels({categories, std::max(pitch, 1e-3),
-                                std::max(12.0, box_.bottom - top - plan_.xTitle.Extent().height),
-                                x(0) - box_.left, box_.right - x(count - 1)},
-                               AxisOf(AxisId::X).Labels.Item(1).VtFont, context_.measurer);
-        PlaceCategoryLabels(context_.builder, labels, x, top);
-        taken_.push_back({box_.left, top,
-                          std::max(CategoryPlace(0).x, CategoryPlace(count).x) + Gap(AxisId::X),
-                          std::min(box_.bottom, top + labels.Depth())});
+            PlanCategoryLabels({categories, CategoryPitch(count), LabelDepthShare * texts_.box.Height(),
+                                bounded ? std::min(x(0), x(count - 1)) - texts_.box.left : overhang,
+                                bounded ? texts_.box.right - std::max(x(0), x(count - 1)) : overhang},
+                               texts_.AxisOf(AxisId::X).Labels.Item(1).VtFont, texts_.context.measurer);
+        Scene scene;
+        SceneBuilder builder(scene);
+        PlaceCategoryLabels(builder, labels, x, top);
+        if (!std::ranges::all_of(scene.shapes,
+                                 [this](const Shape& shape) { return texts_.room.IsClear(shape.bounds); }))
+            return false;
+        for (const Shape& shape : scene.shapes)
+            texts_.Place(AxisId::X, shape.part.index2, std::get<TextLine>(shape.geometry));
+        return true;
     }
 
-    void CategoriesBeside() {
-        const int count = context_.chart.CategoryCount();
-        Names({AxisId::X, CategoryPlace(0), CategoryPlace(count), plan_.xLabelWidth,
-               [this](int category) { return CategoryPlace(category + 0.5); }},
-              CategoriesOf(context_.chart));
-    }
-
-    [[nodiscard]] bool RowsAtRight() const {
-        return plan_.Page({plan_.RowEdgeX(), 0, plan_.size.z / 2}).x >=
-               plan_.Page({plan_.size.x / 2, 0, plan_.size.z / 2}).x;
-    }
-
+    /// Along the edge of the floor that gives a place to most of the names.
     void Rows() {
-        if (!Shown(AxisId::Z) || !(plan_.zLabelWidth > 0)) return;
-        const auto place = [this](double z) { return plan_.Page({plan_.RowEdgeX(), 0, z}); };
-        Names({AxisId::Z, place(0), place(plan_.size.z), plan_.zLabelWidth,
-               [&](int row) { return place(plan_.rows[static_cast<std::size_t>(row)]); }},
-              {static_cast<int>(plan_.rows.size()),
-               [this](int row) { return context_.chart.SeriesName(row + 1); }});
+        if (!texts_.Shown(AxisId::Z) || !plan_.hasNamedRows) return;
+        const double lower = plan_.RowEdgeX();
+        std::vector<EdgeLabel> best;
+        for (const double x : {lower, plan_.size.x - lower}) {
+            std::vector<EdgeLabel> names = RowNames(x);
+            if (names.size() <= best.size()) continue;
+            best = std::move(names);
+            texts_.rowEdgeX = x;
+        }
+        PlaceAll(AxisId::Z, best);
     }
 
-    void Titles() {
-        const Point first = CategoryPlace(0);
-        const Point last = CategoryPlace(context_.chart.CategoryCount());
-        Title(AxisId::X, plan_.xTitle, (first.x + last.x) / 2, box_.bottom - plan_.xTitle.Extent().height);
-        const Point left =
-            plan_.Page({plan_.UprightEdge(true).x, plan_.size.y / 2, plan_.UprightEdge(true).z});
-        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::Y), 1}, plan_.yTitle,
-                  {box_.left, left.y, box_.right, left.y}, HorizontalAlignment::Left,
-                  VerticalAlignment::Center);
-        const Box above{box_.left, box_.top, box_.right, box_.top};
-        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::Y), 1}, plan_.yUnit, above,
-                  HorizontalAlignment::Left, VerticalAlignment::Top);
-        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(AxisId::SecondaryY), 1},
-                  plan_.secondaryUnit, above, HorizontalAlignment::Right, VerticalAlignment::Top);
-        if (!(plan_.zLabelWidth > 0)) return;
-        const double middle = plan_.Page({plan_.RowEdgeX(), 0, plan_.size.z / 2}).x +
-                              (RowsAtRight() ? plan_.zLabelWidth / 2 : -plan_.zLabelWidth / 2);
-        Title(AxisId::Z, plan_.zTitle, middle, box_.bottom - plan_.zTitle.Extent().height);
+    [[nodiscard]] std::vector<EdgeLabel> RowNames(double x) const {
+        const auto place = [this, x](double z) { return plan_.Page({x, 0, z}); };
+        const NamedEdge edge{AxisId::Z, place(0), place(plan_.size.z),
+                             [&](int row) { return place(plan_.rows[static_cast<std::size_t>(row)]); }};
+        const CategorySequence names(static_cast<int>(plan_.rows.size()),
+                                     [this](int row) { return texts_.context.chart.SeriesName(row + 1); });
+        std::vector<EdgeLabel> even = ThinnedNames(texts_, edge, names);
+        // One name of several would be taken for that of all.
+        if (names.Count() > 1 && even.size() < 2) return {};
+        if (names.Count() > MostStaggered) return even;
+        std::vector<EdgeLabel> staggered = StaggeredNames(texts_, edge, names);
+        return staggered.size() > even.size() ? staggered : even;
     }
 
-    /// Centres a title at x as far as the box allows; none where it would cover a label.
-    void Title(AxisId id, const TextBlock& block, double x, double top) {
-        const Size extent = block.Extent();
-        const double left =
-            std::clamp(x - extent.width / 2, box_.left, std::max(box_.left, box_.right - extent.width));
-        const Box place{left, top, left + extent.width, top + extent.height};
-        if (block.IsEmpty() || !IsFree(place)) return;
-        taken_.push_back(place);
-        PlaceText(context_.builder, {PartCode::AxisTitle, static_cast<int>(id), 1}, block, place,
-                  HorizontalAlignment::Center, VerticalAlignment::Center);
-    }
-
-    const LayoutContext& context_;
+    AxisTexts& texts_;
     const SpacePlan& plan_;
-    Box box_;
-    /// By labels and titles.
-    std::vector<Box> taken_;
 };
+
+void LayOutTexts(const LayoutContext& context, const SpacePlan& plan, const Box& box, bool bounded) {
+    AxisTexts texts(context, plan, box, bounded ? std::optional(box) : std::nullopt);
+    SpaceAxes(texts).Run(bounded);
+    LayOutSpaceTitles(texts);
+}
 
 } // namespace
 
+TextLine AxisTexts::LineAt(AxisId id, const QString& text, Point at, TextAnchor anchor) const {
+    const Font& font = AxisOf(id).Labels.Item(1).VtFont;
+    const TextExtent extent = context.measurer.Measure(text, font);
+    return {text,
+            font,
+            {at.x, at.y + (extent.ascent - extent.descent) / 2},
+            anchor,
+            0,
+            extent.width,
+            extent.ascent,
+            extent.descent};
+}
+
+Point AxisTexts::Outward(Point from, Point to) const {
+    constexpr double shortest = 0.01;
+    const Point along{to.x - from.x, to.y - from.y};
+    const double length = std::hypot(along.x, along.y);
+    if (!(length > shortest)) return {0, 1};
+    const Point across{along.y / length, -along.x / length};
+    const Point space = plan.Page(plan.size * 0.5);
+    const bool inward =
+        across.x * ((from.x + to.x) / 2 - space.x) + across.y * ((from.y + to.y) / 2 - space.y) < 0;
+    return inward ? Point{-across.x, -across.y} : across;
+}
+
+void AxisTexts::Place(AxisId id, int index, TextLine line) {
+    const Box bounds = BoundsOf(line);
+    room.Take(WithAir(bounds));
+    labels[static_cast<std::size_t>(id)].push_back(bounds);
+    context.builder.AddText({PartCode::AxisLabel, static_cast<int>(id), index}, std::move(line));
+}
+
 void LayOutSpaceAxes(const LayoutContext& context, const SpacePlan& plan, const Box& box) {
-    SpaceAxes(context, plan, box).Run();
+    LayOutTexts(context, plan, box, true);
+}
+
+Box WishedByAxes(const LayoutContext& context, const SpacePlan& plan, const Box& box) {
+    Scene scene;
+    SceneBuilder builder(scene);
+    LayOutTexts({context.chart, context.request, context.measurer, builder}, plan, box, false);
+    Box wished = plan.Bounds();
+    for (const Shape& shape : scene.shapes) wished.Include(shape.bounds);
+    return wished;
 }
 
 } // namespace QmChart6

@@ -14,8 +14,6 @@ namespace QmChart6 {
 
 namespace {
 
-/// How much of its row a mark fills in depth, the rest being gap.
-constexpr double BarDepthShare = 0.5;
 /// How much of its slot a piece of tape takes whose value stands alone between missing ones.
 constexpr double LoneTapeShare = 0.3;
 
@@ -84,7 +82,7 @@ private:
     [[nodiscard]] std::vector<int> Columns() const { return plan.View().FarToNearX(plan.columns); }
 
     void Bars() {
-        const double half = plan.slot / (1 + std::max(0.0, context.chart.Plot.XGap / 100)) / 2;
+        const double half = BarWidthShare(context.chart) * plan.slot / 2;
         for (const int place : Columns()) {
             const auto column = static_cast<std::size_t>(place);
             for (SpaceTrack* track : Piled(column)) {

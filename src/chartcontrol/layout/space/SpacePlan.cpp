@@ -21,14 +21,6 @@ constexpr int HeightSteps = 24;
 constexpr double WideFrom = 2;
 constexpr double FlattestHeight = 0.12;
 constexpr double WideDepth = 0.25;
-/// Series names along the depth take at most this part of the width.
-constexpr double WidestNameShare = 0.2;
-constexpr double SpaceTitleGapShare = 0.55;
-/// Room for the labels of the categories below the plot, as a part of the height.
-constexpr double LabelDepthShare = 0.25;
-/// Rounds in which labels and space are fitted to each other.
-constexpr int MostRounds = 3;
-
 class SpacePlanner {
 public:
     SpacePlanner(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
@@ -42,15 +34,9 @@ public:
         PlaceColumns();
         const double depth = plan_.rowDepth * static_cast<double>(plan_.rows.size());
         plan_.size = {1, 1, depth};
-        PlanValues(0.6 * box_.Height());
-        labelDepth_ = LabelDepth(0.7 * box_.Width() / std::max(1, context_.chart.CategoryCount()));
-        for (int round = 0; round < MostRounds; ++round) {
-            FitHeight(RoomForSpace());
-            const double needed = LabelDepth(CategoryPitch());
-            if (needed <= labelDepth_ + 0.01) break;
-            labelDepth_ = needed;
-        }
+        FitHeight(box_);
         PlanValues(std::min(UprightLength(true), UprightLength(false)));
+        plan_.hasNamedRows = plan_.rows.size() > 1 && !plotted_.IsStacked();
         plan_.primaryMap = plan_.primary.Map(0, plan_.size.y);
         plan_.secondaryMap = plan_.secondary.Map(0, plan_.size.y);
         return plan_;
@@ -58,9 +44,6 @@ public:
 
 private:
     [[nodiscard]] const Axis& AxisOf(AxisId id) const { return context_.chart.Plot.Axis(id); }
-    [[nodiscard]] bool Shown(AxisId id) const {
-        return plan_.furniture != Furniture::None && !AxisOf(id).AxisScale.Hide;
-    }
 
     /// Each series has a row of its own; piled ones share a row by axis and kind of mark.
     void PlaceRows() {
@@ -106,103 +89,6 @@ private:
         plan_.secondary = PlanValueAxis(
             context_, AxisOf(AxisId::SecondaryY),
             {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
-    }
-
-    [[nodiscard]] bool HasTitle(AxisId id) const {
-        const AxisTitle& title = AxisOf(id).AxisTitle;
-        return plan_.furniture == Furniture::All && !AxisOf(id).AxisScale.Hide && title.Visible &&
-               !title.Text.isEmpty();
-    }
-    [[nodiscard]] TextBlock Title(AxisId id, double length, const QString& unit = {}) const {
-        if (!HasTitle(id)) return {};
-        const AxisTitle& title = AxisOf(id).AxisTitle;
-        return BreakText(TitleWithUnit(title.Text, unit), title.VtFont, title.TextLayout.Orientation,
-                         {length, 1}, context_.measurer);
-    }
-    [[nodiscard]] TextBlock Unit(AxisId id, const QString& unit) const {
-        if (unit.isEmpty() || HasTitle(id) || !Shown(id)) return {};
-        return ElidedLine(unit, AxisOf(id).Labels.Item(1).VtFont, box_.Width() / 2, context_.measurer);
-    }
-
-    [[nodiscard]] Box RoomForSpace() {
-        plan_.xTitle = Title(AxisId::X, 0.6 * box_.Width());
-        plan_.yTitle = Title(AxisId::Y, box_.Height(), plan_.primary.unit);
-        plan_.yUnit = Unit(AxisId::Y, plan_.primary.unit);
-        plan_.secondaryUnit = Unit(AxisId::SecondaryY, plan_.secondary.unit);
-        plan_.zTitle = Title(AxisId::Z, 0.25 * box_.Width());
-        Box room = box_;
-        const auto gap = [&](AxisId id) { return AxesPlan::LabelGap(AxisOf(id)); };
-        const auto title = [&](const TextBlock& block, double extent) {
-            return block.IsEmpty() ? 0 : extent + SpaceTitleGapShare * block.font.Size;
-        };
-        room.left += title(plan_.yTitle, plan_.yTitle.Extent().width);
-        if (Shown(AxisId::Y)) room.left += plan_.primary.LabelWidth() + gap(AxisId::Y);
-        if (Shown(AxisId::SecondaryY)) room.right -= plan_.secondary.LabelWidth() + gap(AxisId::SecondaryY);
-        if (Shown(AxisId::Z) && plan_.rows.size() > 1 && !plotted_.IsStacked()) {
-            plan_.zLabelWidth = NameWidth();
-            room.right -= plan_.zLabelWidth + gap(AxisId::Z);
-        }
-        if (Shown(AxisId::X)) LeaveRoomForCategories(room, gap(AxisId::X));
-        room.bottom -= std::max(title(plan_.xTitle, plan_.xTitle.Extent().height),
-                                title(plan_.zTitle, plan_.zTitle.Extent().height));
-        room.top += 0.6 * AxisOf(AxisId::Y).Labels.Item(1).VtFont.Size +
-                    std::max(plan_.yUnit.Depth(), plan_.secondaryUnit.Depth());
-        room.right = std::max(room.right, room.left + 1);
-        room.bottom = std::max(room.bottom, room.top + 1);
-        return room;
-    }
-
-    /// Labels below a level edge take height; beside a sloping one they reach to the side that it falls from.
-    void LeaveRoomForCategories(Box& room, double gap) {
-        plan_.view.emplace(context_.chart.Plot, plan_.size);
-        const double slope = plan_.CategorySlope();
-        if (std::abs(slope) < LeastSlope) {
-            room.bottom -= labelDepth_ + gap;
-            return;
-        }
-        plan_.xLabelWidth = CategoryWidth();
-        room.bottom -=
-            context_.measurer.Measure(QStringLiteral("x"), AxisOf(AxisId::X).Labels.Item(1).VtFont).Height() +
-            gap;
-        if (slope > 0)
-            room.left = std::max(room.left, box_.left + plan_.xLabelWidth + gap);
-        else
-            room.right = std::min(room.right, box_.right - plan_.xLabelWidth - gap);
-    }
-
-    [[nodiscard]] double CategoryWidth() const {
-        double width = 0;
-        const Font& font = AxisOf(AxisId::X).Labels.Item(1).VtFont;
-        const int count = context_.chart.CategoryCount();
-        for (int category = 1; category <= count; category += std::max(1, count / 100))
-            width =
-                std::max(width, context_.measurer.Measure(context_.chart.CategoryName(category), font).width);
-        return std::min(width, WidestNameShare * box_.Width());
-    }
-
-    [[nodiscard]] double NameWidth() const {
-        double width = 0;
-        const Font& font = AxisOf(AxisId::Z).Labels.Item(1).VtFont;
-        const int count = std::min(context_.chart.Plot.SeriesCollection.Count(), 100);
-        for (int number = 1; number <= count; ++number)
-            width = std::max(width, context_.measurer.Measure(context_.chart.SeriesName(number), font).width);
-        return std::min(width, WidestNameShare * box_.Width());
-    }
-
-    /// From one category to the next along their edge on the page.
-    [[nodiscard]] double CategoryPitch() const {
-        const double z = plan_.CategoryEdgeZ();
-        const double length = std::abs(plan_.Page({plan_.size.x, 0, z}).x - plan_.Page({0, 0, z}).x);
-        return length / std::max(1, context_.chart.CategoryCount());
-    }
-
-    /// How far the labels of the categories reach down when they stand so far apart.
-    [[nodiscard]] double LabelDepth(double pitch) const {
-        const Font& font = AxisOf(AxisId::X).Labels.Item(1).VtFont;
-        CategorySequence categories = CategoriesOf(context_.chart);
-        const CategoryLabelPlan labels =
-            PlanCategoryLabels({categories, pitch, LabelDepthShare * box_.Height()}, font, context_.measurer);
-        return labels.Depth();
     }
 
     /// The flat picture's box for the present height.
@@ -274,18 +160,17 @@ private:
     const PlotDemand& demand_;
     const PlottedValues& plotted_;
     Box box_;
-    double labelDepth_ = 0; // of the categories, below a level edge
     SpacePlan plan_;
 };
 
 } // namespace
 
-Size SpacePlan::Extent() const {
+Box SpacePlan::Bounds() const {
     Box box = Box::Nothing();
     for (const double x : {0.0, size.x})
         for (const double y : {0.0, size.y})
             for (const double z : {0.0, size.z}) box.Include(Page({x, y, z}));
-    return {box.Width(), box.Height()};
+    return box;
 }
 
 double SpacePlan::CategoryEdgeZ() const {

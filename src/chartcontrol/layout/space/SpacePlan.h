@@ -32,15 +32,8 @@ struct SpacePlan {
     ValueAxisPlan secondary;
     AxisMap primaryMap; // values to y in space
     AxisMap secondaryMap;
-    TextBlock xTitle;
-    TextBlock yTitle;
-    TextBlock zTitle;
-    /// What the labels of the value axes are told in, where no title tells it.
-    TextBlock yUnit;
-    TextBlock secondaryUnit;
-    double zLabelWidth = 0;
-    /// The widest label of a category beside a sloping edge.
-    double xLabelWidth = 0;
+    /// Each row is one series', and there are several.
+    bool hasNamedRows = false;
     Furniture furniture = Furniture::All;
 
     [[nodiscard]] const SpaceView& View() const { return *view; }
@@ -48,8 +41,8 @@ struct SpacePlan {
         const Point flat = View().Flat(point);
         return {origin.x + flat.x * scale, origin.y + flat.y * scale};
     }
-    /// How large the whole space is on the page.
-    [[nodiscard]] Size Extent() const;
+    /// What the whole space takes on the page.
+    [[nodiscard]] Box Bounds() const;
     /// The edges of the floor that carry the labels of the categories and of the rows: those lowest on the
     /// page.
     [[nodiscard]] double CategoryEdgeZ() const;
@@ -69,6 +62,7 @@ struct SpacePlan {
 /// From so much slope on, labels stand beside the edge of the categories, not below it.
 inline constexpr double LeastSlope = 0.08;
 
+/// The space as large as it can be within a box, without room for the texts of its axes.
 SpacePlan PlanSpace(const LayoutContext& context, const PlotDemand& demand, const PlottedValues& plotted,
                     const Box& box, Furniture furniture);
 

@@ -8,30 +8,33 @@ namespace QmChart6 {
 
 namespace {
 
-/// A wall's colour, and how much of white lies over a dark ground in its place.
-struct WallLook {
-    Colour colour;
-    double light = 0;
-};
-constexpr WallLook BackWall{{247, 248, 250}, 0.04};
-constexpr WallLook SideWall{{240, 242, 245}, 0.07};
-constexpr WallLook Floor{{232, 235, 240}, 0.1};
+/// How much of the tint walls and floor have over the chart's ground, and the tints.
+constexpr double WallShare = 0.05;
+constexpr double SideShare = 0.095;
+constexpr double FloorShare = 0.145;
+constexpr Colour DarkTint{95, 116, 155};
+constexpr Colour LightTint{170, 190, 220};
+
+Colour GroundOf(const Backdrop& backdrop) {
+    return backdrop.Fill.Style == FillStyle::None ? Colour{255, 255, 255} : backdrop.Fill.Brush.FillColor;
+}
 
 class Walls {
 public:
     Walls(const LayoutContext& context, const SpacePlan& plan)
-        : context_(context), plan_(plan), farX_(plan.View().IsBeyondX(plan.size.x / 2) ? 0 : plan.size.x),
+        : context_(context), plan_(plan), ground_(GroundOf(context.chart.Backdrop)),
+          farX_(plan.View().IsBeyondX(plan.size.x / 2) ? 0 : plan.size.x),
           farY_(plan.View().IsBeyondY(plan.size.y / 2) ? 0 : plan.size.y),
           farZ_(plan.View().IsBeyondZ(plan.size.z / 2) ? 0 : plan.size.z) {}
 
     void Run(const PlotDemand& demand) {
         const SpacePoint& size = plan_.size;
         Face({SpacePoint{farX_, 0, 0}, {farX_, size.y, 0}, {farX_, size.y, size.z}, {farX_, 0, size.z}},
-             SideWall);
+             SideShare);
         Face({SpacePoint{0, 0, farZ_}, {size.x, 0, farZ_}, {size.x, size.y, farZ_}, {0, size.y, farZ_}},
-             BackWall);
+             WallShare);
         Face({SpacePoint{0, farY_, 0}, {size.x, farY_, 0}, {size.x, farY_, size.z}, {0, farY_, size.z}},
-             Floor);
+             FloorShare);
         ValueGrid(AxisId::Y, plan_.primary, plan_.primaryMap);
         if (demand.usesSecondary) ValueGrid(AxisId::SecondaryY, plan_.secondary, plan_.secondaryMap);
         CategoryGrid();
@@ -39,16 +42,11 @@ public:
     }
 
 private:
-    [[nodiscard]] Colour ColourOf(const WallLook& wall) const {
-        const Fill& ground = context_.chart.Backdrop.Fill;
-        const bool dark = ground.Style != FillStyle::None && IsDark(ground.Brush.FillColor);
-        return dark ? Mixed(ground.Brush.FillColor, {255, 255, 255}, wall.light) : wall.colour;
-    }
-
-    void Face(const std::array<SpacePoint, 4>& corners, const WallLook& wall) {
+    void Face(const std::array<SpacePoint, 4>& corners, double share) {
         for (const SpacePoint& corner : corners) context_.builder.AddPoint(plan_.Page(corner));
         const Pen& pen = context_.chart.Plot.Axis(AxisId::X).Pen;
-        context_.builder.AddPolygon({PartCode::Plot}, SolidFill(ColourOf(wall)),
+        context_.builder.AddPolygon({PartCode::Plot},
+                                    SolidFill(Mixed(ground_, IsDark(ground_) ? LightTint : DarkTint, share)),
                                     {PenStyle::Solid, pen.Width / 2, pen.VtColor});
     }
 
@@ -84,6 +82,7 @@ private:
 
     const LayoutContext& context_;
     const SpacePlan& plan_;
+    Colour ground_;
     // Where the walls stand: the sides that the viewer looks at from within.
     double farX_;
     double farY_;
