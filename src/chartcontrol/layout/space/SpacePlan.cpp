@@ -82,12 +82,13 @@ private:
     void PlanValues(double length) {
         plan_.primary =
             PlanValueAxis(context_, AxisOf(AxisId::Y), {demand_.primary, demand_.keepZero, length, false});
-        if (!demand_.usesSecondary && !Shown(AxisId::SecondaryY)) {
+        const Axis& secondary = AxisOf(AxisId::SecondaryY);
+        if (!demand_.usesSecondary && (secondary.AxisScale.Hide || plan_.furniture == Furniture::None)) {
             plan_.secondary = plan_.primary;
             return;
         }
         plan_.secondary = PlanValueAxis(
-            context_, AxisOf(AxisId::SecondaryY),
+            context_, secondary,
             {demand_.usesSecondary ? demand_.secondary : demand_.primary, demand_.keepZero, length, false});
     }
 

@@ -166,9 +166,12 @@ private:
         for (int row = limits_.top; row <= limits_.bottom; ++row) {
             std::vector<double>& places = crossings_[static_cast<std::size_t>(row)];
             std::sort(places.begin(), places.end());
-            for (std::size_t i = 0; i + 1 < places.size(); i += 2)
-                CoverRow(row, std::max(limits_.left, ColumnFrom(places[i])),
-                         std::min(limits_.right, ColumnFrom(places[i + 1]) - 1));
+            for (std::size_t i = 0; i + 1 < places.size(); i += 2) {
+                const int left = ColumnFrom(places[i]);
+                // What is thinner than a cell lies in one.
+                const int right = std::max(left, ColumnFrom(places[i + 1]) - 1);
+                CoverRow(row, std::max(limits_.left, left), std::min(limits_.right, right));
+            }
             places.clear();
         }
     }
