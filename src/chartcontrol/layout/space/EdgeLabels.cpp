@@ -95,15 +95,19 @@ private:
 } // namespace
 
 std::span<const EdgeLabel> LongestRun(const std::vector<EdgeLabel>& labels) {
-    const auto joins = [&](std::size_t i) {
-        return labels[i - 1].line && labels[i].line &&
-               !Meet(WithAir(BoundsOf(*labels[i - 1].line)), BoundsOf(*labels[i].line));
+    const auto meet = [&](std::size_t i, std::size_t j) {
+        return Meet(WithAir(BoundsOf(*labels[i].line)), BoundsOf(*labels[j].line));
     };
     std::span<const EdgeLabel> longest;
     std::size_t begin = 0;
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        if (i > begin && !joins(i)) begin = i;
-        if (!labels[i].line) continue;
+        if (!labels[i].line) {
+            begin = i + 1;
+            continue;
+        }
+        // Those that were pushed aside leave the ones on both sides of them to meet.
+        for (std::size_t before = begin; before < i; ++before)
+            if (meet(before, i)) begin = before + 1;
         if (i + 1 - begin > longest.size()) longest = std::span(labels).subspan(begin, i + 1 - begin);
     }
     return longest;

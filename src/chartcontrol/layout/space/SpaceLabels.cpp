@@ -92,8 +92,8 @@ private:
         const AxisMap& map = plan_.MapOf(context_.chart.Plot.SeriesCollection(number));
         const int category = plan_.categories[column];
         const Values bases = plotted_.Base(number);
-        const double top = map.At(plotted_.Top(number)[category]);
-        const double base = bases.first == nullptr ? map.Base() : map.StandAt(bases[category]);
+        const double top = plan_.Within(map.At(plotted_.Top(number)[category]));
+        const double base = plan_.Within(bases.first == nullptr ? map.Base() : map.StandAt(bases[category]));
         const bool isBar = plotted_.MarkOf(number) == Mark::Bar;
         const double half = isBar ? BarWidthShare(context_.chart) * plan_.slot / 2 : 0;
         const double deep = (isBar ? BarDepthShare : TapeDepthShare) * plan_.rowDepth / 2;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace QmChart6 {
@@ -50,6 +51,12 @@ private:
         return farthest;
     }
 
+    /// Bars and areas end where the space does; a tape is only where its values are.
+    [[nodiscard]] double TopAt(Mark mark, double y) const {
+        if (mark == Mark::Bar || mark == Mark::Area || plan.IsWithin(y)) return plan.Within(y);
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+
     [[nodiscard]] SpaceTrack TrackOf(int number) const {
         const AxisMap& map = plan.MapOf(context.chart.Plot.SeriesCollection(number));
         const Values tops = plotted_.Top(number);
@@ -58,8 +65,9 @@ private:
         for (std::size_t column = 0; column < plan.columns.size(); ++column) {
             const int category = Farthest(tops, column);
             track.category.push_back(category);
-            track.top.push_back(map.At(tops[category]));
-            track.base.push_back(bases.first == nullptr ? map.Base() : map.StandAt(bases[category]));
+            track.top.push_back(TopAt(track.mark, map.At(tops[category])));
+            track.base.push_back(
+                plan.Within(bases.first == nullptr ? map.Base() : map.StandAt(bases[category])));
         }
         track.middle.resize(plan.columns.size());
         return track;

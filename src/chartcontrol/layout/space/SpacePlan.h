@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/axes/AxesPlan.h"
 #include "chartcontrol/layout/space/SpaceView.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -54,6 +55,12 @@ struct SpacePlan {
     /// one.
     [[nodiscard]] double CategorySlope() const;
 
+    /// A height, cut to the space: a fixed axis may leave values outside.
+    [[nodiscard]] double Within(double y) const { return std::clamp(y, 0.0, size.y); }
+    [[nodiscard]] bool IsWithin(double y) const {
+        constexpr double slack = 1e-6;
+        return y >= -slack && y <= size.y + slack;
+    }
     [[nodiscard]] const AxisMap& MapOf(const Series& series) const {
         return series.SecondaryAxis ? secondaryMap : primaryMap;
     }

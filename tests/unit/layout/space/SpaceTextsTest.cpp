@@ -164,6 +164,23 @@ TEST(SpaceLabels, TheHighestBarHasItsLabelAboveItWhereTheWallEnds) {
         }
 }
 
+TEST(SpaceMarks, OfValuesBeyondAFixedAxisDoNotLeaveTheSpace) {
+    for (const ChartType type : {ChartType::Bar3D, ChartType::Line3D, ChartType::Area3D, ChartType::Step3D}) {
+        Chart chart = Bars(6, 2);
+        chart.SetChartType(type);
+        chart.Plot.Axis(AxisId::Y).ValueScale = {false, 3, 6, 3};
+        const Scene scene = LaidOut(Labelled(chart), Picture);
+        Box walls = Box::Nothing();
+        for (const Shape& wall : ShapesOf<Polygon>(scene, PartCode::Plot)) walls.Include(wall.bounds);
+        const std::vector<Shape> marks = ShapesOf<Polygon>(scene, PartCode::Series);
+        EXPECT_FALSE(marks.empty());
+        for (const Shape& mark : marks) {
+            EXPECT_GE(mark.bounds.top, walls.top);
+            EXPECT_LE(mark.bounds.bottom, walls.bottom);
+        }
+    }
+}
+
 TEST(SpaceWalls, AreTintsOfADarkGround) {
     Chart chart = Bars(3, 2);
     chart.Backdrop.Fill.Brush.FillColor = {30, 34, 39};
@@ -194,6 +211,12 @@ TEST(LongestRun, EndsWhereALabelHasNoPlaceOrMeetsTheNext) {
     EXPECT_EQ(LongestRun(LabelsAt({0, 20, -1, 60, 80, 100})).front().index, 3);
     EXPECT_EQ(LongestRun(LabelsAt({0, 20, 25, 60, 80})).size(), 3U);
     EXPECT_EQ(LongestRun(LabelsAt({0, 11})).size(), 1U);
+}
+
+TEST(LongestRun, EndsWhereLabelsMeetBesideOneThatWasPushedAside) {
+    std::vector<EdgeLabel> labels = LabelsAt({0, 6, 8});
+    labels[1].line->origin.y = 30;
+    EXPECT_EQ(LongestRun(labels).size(), 2U);
 }
 
 class AxisTextRoomTest : public testing::Test {
