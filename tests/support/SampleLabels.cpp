@@ -122,7 +122,7 @@ std::vector<Sample> Labels() {
         {"bar-stacked-above", 480, 300, [] { return Piled(T::Bar2D, L::AbovePoint); }},
         {"bar-stacked-center", 480, 300, [] { return Piled(T::Bar2D, L::Center); }},
         {"bar-stacked-base", 480, 300, [] { return Piled(T::Bar2D, L::Base); }},
-        {"bar-shares-center", 480, 300, [] { return Piled(T::Bar2D, L::Center, true); }},
+        {"bar-shares-center", 720, 300, [] { return Piled(T::Bar2D, L::Center, true); }},
         {"bar-patterns-center", 480, 300, [] { return OnPatterns(L::Center); }},
         {"bar-labels-dark", 480, 300, [] { return Dark(Piled(T::Bar2D, L::Center)); }},
         {"line-labels-below", 400, 260, [] { return Labelled(T::Line2D, L::BelowPoint); }},

@@ -43,7 +43,7 @@ Chart Outlined(Chart chart, BrushStyle style, int step) {
         DataPoint& look = LookOf(chart, series);
         look.Brush = {style, step * (series - 1), {235, 240, 248}, PaletteColour(series)};
         if (style == BrushStyle::Solid) look.Brush.FillColor = PaletteColour(series);
-        look.EdgePen = {PenStyle::Solid, 1, PaletteColour(series)};
+        look.EdgePen = {PenStyle::Solid, 1, Colour{40, 44, 52}};
     }
     return chart;
 }

@@ -36,6 +36,14 @@ bool Overlap(const TextLine& one, const TextLine& other) {
     return true;
 }
 
+/// What of a shape is seen.
+Box SeenOf(const Scene& scene, const Shape& shape) {
+    if (shape.clip == NoClip) return shape.bounds;
+    const Box& clip = scene.clips[static_cast<std::size_t>(shape.clip)];
+    return {std::max(shape.bounds.left, clip.left), std::max(shape.bounds.top, clip.top),
+            std::min(shape.bounds.right, clip.right), std::min(shape.bounds.bottom, clip.bottom)};
+}
+
 class EverySample : public testing::TestWithParam<Samples::Sample> {
 protected:
     static std::vector<Size> Sizes(const Samples::Sample& sample) {
@@ -72,8 +80,9 @@ TEST_P(EverySample, NothingLeavesTheChart) {
         for (const Shape& shape : scene.shapes) {
             const Box allowed = Box{0, 0, size.width, size.height}.Grown(Slack);
             const auto* text = std::get_if<TextLine>(&shape.geometry);
-            EXPECT_TRUE(shape.bounds.left >= allowed.left && shape.bounds.top >= allowed.top &&
-                        shape.bounds.right <= allowed.right && shape.bounds.bottom <= allowed.bottom)
+            const Box seen = SeenOf(scene, shape);
+            EXPECT_TRUE(seen.left >= allowed.left && seen.top >= allowed.top && seen.right <= allowed.right &&
+                        seen.bottom <= allowed.bottom)
                 << "part " << static_cast<int>(shape.part.code) << ' '
                 << (text != nullptr ? text->text.toStdString() : std::string()) << " at " << size.width;
         }
@@ -105,7 +114,7 @@ TEST_P(EverySample, KeepsItsPlotInSmallPictures) {
         Box drawn = Box::Nothing();
         for (const Shape& shape : scene.shapes)
             if (shape.part.code == PartCode::Plot || shape.part.code == PartCode::Series)
-                drawn.Include(shape.bounds);
+                drawn.Include(SeenOf(scene, shape));
         if (chart.CategoryCount() == 0 && KindOf(chart.chartType()).form != ChartForm::Flat) continue;
         EXPECT_GE(drawn.Width(), 0.25 * size.width) << size.width;
         EXPECT_GE(drawn.Height(), 0.2 * size.height) << size.width;

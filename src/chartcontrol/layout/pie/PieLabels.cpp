@@ -22,6 +22,8 @@ constexpr double LineRoom = 9;
 /// Where labels inside may stand, as parts of the radius, and how far they stay from their slice's rim.
 constexpr std::array InsideShares{0.64, 0.72, 0.56, 0.8, 0.48};
 constexpr double InsideAir = 1;
+/// How long the lines of labels inside are, as parts of the radius.
+constexpr std::array LineShares{1.0, 0.6};
 /// A label without a line that had to move farther than this many of its heights would be taken for another
 /// slice's.
 constexpr double FarthestWithoutLine = 1.2;
@@ -68,6 +70,22 @@ std::optional<FoundPlace> FindOnSlice(const Ground& ground, const PieLabel& labe
                 {box, LabelStand::On}, footing.even ? footing.colour : ground.PlainColour(), !footing.even};
     }
     return std::nullopt;
+}
+
+/// In lines that are as long as a slice allows, else in shorter ones; no word is broken. False without room.
+bool PlaceOnSlice(const LayoutContext& context, const PieLabel& label, const PieCircle& circle,
+                  Ground& ground) {
+    for (const double share : LineShares) {
+        const TextBlock block = BlockOf(label, share * circle.radius, context.measurer);
+        if (block.IsEmpty()) return true;
+        if (block.splitsWord) return false;
+        const std::optional<FoundPlace> found = FindOnSlice(ground, label, block.Extent(), circle);
+        if (!found) continue;
+        ground.Take(found->place.box);
+        DrawLabel(context.builder, label.part, block, *found);
+        return true;
+    }
+    return false;
 }
 
 class OutsideLabels {
@@ -131,6 +149,11 @@ private:
         return std::max(away < reach ? std::sqrt(reach * reach - away * away) : 0, std::min(wished, reach));
     }
 
+    /// A word that is whole elsewhere is not broken here.
+    [[nodiscard]] bool SplitsInVain(const TextBlock& block, const PieLabel& label) const {
+        return block.splitsWord && !BlockOf(label, LongestPieLabel, context_.measurer).splitsWord;
+    }
+
     bool Place(const Placed& placed, bool right) {
         const LabelLineStyle style = LineOf(*placed.label);
         const bool moved = std::abs(placed.y - placed.wished) > FarthestWithoutLine * placed.size.height;
@@ -148,6 +171,7 @@ private:
             box = {right ? x : x - size.width, placed.y - size.height / 2, right ? x + size.width : x,
                    placed.y + size.height / 2};
         }
+        if (SplitsInVain(block, *placed.label)) return false;
         const Ground::Footing footing = ground_.Under(box);
         if (!footing.free || !footing.even) return false;
         const Point direction = DirectionOf(placed.label->turn);
@@ -186,17 +210,8 @@ Size OutsideReach(const std::vector<PieLabel>& labels, const TextMeasurer& measu
 std::vector<PieLabel> PlaceInside(const LayoutContext& context, const std::vector<PieLabel>& labels,
                                   const PieCircle& circle, Ground& ground) {
     std::vector<PieLabel> left;
-    for (const PieLabel& label : labels) {
-        const TextBlock block = BlockOf(label, circle.radius, context.measurer);
-        if (block.IsEmpty()) continue;
-        const std::optional<FoundPlace> found = FindOnSlice(ground, label, block.Extent(), circle);
-        if (!found) {
-            left.push_back(label);
-            continue;
-        }
-        ground.Take(found->place.box);
-        DrawLabel(context.builder, label.part, block, *found);
-    }
+    for (const PieLabel& label : labels)
+        if (!PlaceOnSlice(context, label, circle, ground)) left.push_back(label);
     return left;
 }
 

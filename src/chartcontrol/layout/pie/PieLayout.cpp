@@ -20,7 +20,14 @@ constexpr double NameGap = 4;
 constexpr double SmallestPie = 14;
 /// Labels outside take at most this part of a pie's cell on each side.
 constexpr double LargestReachShare = 0.28;
+/// Labels outside do not make a pie smaller than this; those that then have no room are left out.
+constexpr double SmallestLabelledPie = 36;
 constexpr double TurnStart = 90;
+
+/// The room on each side of a pie for labels that reach so far, in a cell's width or height.
+double ReachWithin(double wished, double cell, double free) {
+    return std::min({wished, LargestReachShare * cell, std::max(0.0, (free - SmallestLabelledPie) / 2)});
+}
 
 struct PieGrid {
     int columns = 1;
@@ -109,10 +116,10 @@ private:
         grid.cell = {(box_.Width() + PieGap) / grid.columns - PieGap,
                      (box_.Height() + PieGap) / grid.rows - PieGap};
         grid.nameHeight = nameHeight;
-        grid.reach = {std::min(reach.width, LargestReachShare * grid.cell.width),
-                      std::min(reach.height, LargestReachShare * grid.cell.height)};
-        grid.diameter = std::min(grid.cell.width - 2 * grid.reach.width,
-                                 grid.cell.height - nameHeight - 2 * grid.reach.height);
+        const double free = grid.cell.height - nameHeight;
+        grid.reach = {ReachWithin(reach.width, grid.cell.width, grid.cell.width),
+                      ReachWithin(reach.height, grid.cell.height, free)};
+        grid.diameter = std::min(grid.cell.width - 2 * grid.reach.width, free - 2 * grid.reach.height);
         return grid;
     }
 

@@ -73,6 +73,7 @@ TextBlock BreakLabel(const QStringList& pieces, const Font& font, Orientation or
         TextBlock lines = BreakText(piece, font, orientation, {length, mostLines}, measurer);
         block.lines.insert(block.lines.end(), lines.lines.begin(), lines.lines.end());
         block.elided = block.elided || lines.elided;
+        block.splitsWord = block.splitsWord || lines.splitsWord;
     }
     return block;
 }

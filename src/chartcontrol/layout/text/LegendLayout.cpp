@@ -45,6 +45,8 @@ struct LegendGrid {
     std::vector<double> columnWidths; // of the names
     double columnGap = 0;
 
+    /// It would name a single series, and say only that there are others.
+    [[nodiscard]] bool TellsLittle() const { return entries.size() == 2 && entries.back().IsRest(); }
     [[nodiscard]] int Columns() const { return static_cast<int>(columnWidths.size()); }
     [[nodiscard]] Size Extent() const {
         double width = std::max(0, Columns() - 1) * columnGap;
@@ -305,6 +307,10 @@ void LayOutLegend(const LayoutContext& context, Box& free) {
     const bool beside = IsBeside(side);
     const LegendGrid grid = beside ? GridPlanner(context, RoomAt(side, free), true).Beside()
                                    : GridPlanner(context, RoomAt(side, free), false).AboveOrBelow();
+    if (grid.TellsLittle()) {
+        context.builder.Warn(QStringLiteral("the chart is too small for a legend"));
+        return;
+    }
     const Size extent = grid.Extent();
     const Box cell =
         CutOff(free, side, beside ? extent.width : extent.height, PlotGapShare * legend.VtFont.Size);

@@ -119,6 +119,7 @@ private:
             const QString text = word.left(fits);
             block_.lines.push_back({text, measurer_.Measure(text, block_.font).width});
             word = word.mid(fits);
+            block_.splitsWord = true;
         }
         return word;
     }

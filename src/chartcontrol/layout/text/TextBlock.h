@@ -29,6 +29,8 @@ struct TextBlock {
     double leading = 0;
     /// Whether some of the text had to be left out.
     bool elided = false;
+    /// Whether a word had to go on in the next line.
+    bool splitsWord = false;
 
     [[nodiscard]] bool IsEmpty() const { return lines.empty(); }
     /// The widest line, and the lines' height together.

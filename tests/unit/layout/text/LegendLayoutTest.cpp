@@ -96,6 +96,15 @@ TEST(Legend, InANarrowChartGoesBelowAndKeepsItsNames) {
     }
 }
 
+TEST(Legend, NamesMoreThanOneOfThreeOrNone) {
+    Chart chart = ChartOf(3, 3, Ramp);
+    chart.SetChartType(ChartType::Line2D);
+    for (double width = 90; width <= 240; width += 6)
+        for (double height = 80; height <= 160; height += 8)
+            EXPECT_NE(TextsOf(LaidOut(chart, {width, height}), PartCode::Legend).size(), 2U)
+                << width << " by " << height;
+}
+
 TEST(Legend, IsNotShownForOneSeries) {
     EXPECT_TRUE(TextsOf(LaidOut(ChartOf(3, 1, Ramp)), PartCode::Legend).empty());
 }
