@@ -1,6 +1,6 @@
 #include "chartcontrol/layout/Layout.h"
 
-#include "chartcontrol/layout/data/DarkGround.h"
+#include "chartcontrol/layout/data/DressedChart.h"
 #include "chartcontrol/layout/data/LayoutContext.h"
 #include "chartcontrol/layout/flat/CartesianLayout.h"
 #include "chartcontrol/layout/flat/DirectNames.h"
@@ -96,7 +96,7 @@ std::optional<LaidOutChart> LayOutWith(const Chart& chart, const LayoutRequest& 
 
 LaidOutChart LayOut(const Chart& chart, const LayoutRequest& request, const TextMeasurer& measurer) {
     if (!(request.size.width >= 1 && request.size.height >= 1)) return {{request.size, {}, {}, {}, {}}, {}};
-    const std::optional<Chart> dressed = DressedForDark(chart);
+    const std::optional<Chart> dressed = DressedForGround(chart);
     const Chart& drawn = dressed ? *dressed : chart;
     for (const Surroundings around : {Surroundings::All, Surroundings::NoLegend})
         if (auto laidOut = LayOutWith(drawn, request, measurer, around)) return std::move(*laidOut);

@@ -114,6 +114,13 @@ TEST(Markers, OfCrowdedPointsAreHollowAndOfOthersFilled) {
     EXPECT_EQ(ShapesOf<MarkerRun>(LaidOut(apart), PartCode::Series).front().fill.style, BrushStyle::Solid);
 }
 
+TEST(MiddlingGround, TextsThatNobodyColouredAreBlack) {
+    Chart chart = ChartOf(3, 2, [](int row, int) { return row * 1.0; });
+    chart.Backdrop.Fill.Brush.FillColor = {128, 128, 128};
+    for (const TextLine& text : TextsOf(LaidOut(chart), PartCode::AxisLabel))
+        EXPECT_EQ(text.font.VtColor, (Colour{0, 0, 0}));
+}
+
 TEST(DarkGround, TextsThatNobodyColouredAreLightAndOthersStay) {
     Chart chart = ChartOf(3, 2, [](int row, int) { return row * 1.0; });
     chart.Title.Text = QStringLiteral("Title");
