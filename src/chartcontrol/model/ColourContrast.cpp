@@ -38,8 +38,8 @@ bool IsDark(Colour ground) {
     return Contrast(White, ground) > Contrast(Black, ground);
 }
 
-Colour ReadableOn(Colour ground, Colour colour) {
-    if (Contrast(colour, ground) >= TextContrast) return colour;
+Colour ReadableOn(Colour ground, Colour colour, double contrast) {
+    if (Contrast(colour, ground) >= contrast) return colour;
     return IsDark(ground) ? White : Black;
 }
 

@@ -14,8 +14,9 @@ double Contrast(Colour one, Colour other);
 /// A colour laid over another, with an opacity from 0 to 1.
 Colour Mixed(Colour ground, Colour over, double opacity);
 
-/// The colour itself where it is read on that ground, else black or white, whichever is read better.
-Colour ReadableOn(Colour ground, Colour colour);
+/// The colour itself where it has that contrast on that ground, else black or white, whichever is read
+/// better.
+Colour ReadableOn(Colour ground, Colour colour, double contrast = TextContrast);
 
 /// The colour, moved towards black or white as little as gives it that contrast against the ground.
 Colour WithContrast(Colour colour, Colour ground, double contrast);

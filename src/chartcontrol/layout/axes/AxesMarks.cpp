@@ -115,11 +115,11 @@ void Titles(const LayoutContext& context, const AxesPlan& plan, const Box& box) 
     const double x = MiddleWithin(area.Center().x, plan.xTitle.Extent().width, box.left, box.right);
     PlaceText(context.builder, part(AxisId::X), plan.xTitle, {x, area.bottom, x, box.bottom},
               HorizontalAlignment::Center, VerticalAlignment::Bottom);
-    const double y = MiddleWithin(area.Center().y, plan.yTitle.Extent().height, box.top, box.bottom);
+    const double bottom = box.bottom - plan.xTitle.Extent().height;
+    const double y = MiddleWithin(area.Center().y, plan.yTitle.Extent().height, box.top, bottom);
     PlaceText(context.builder, part(AxisId::Y), plan.yTitle, {box.left, y, area.left, y},
               HorizontalAlignment::Left, VerticalAlignment::Center);
-    const double second =
-        MiddleWithin(area.Center().y, plan.secondaryTitle.Extent().height, box.top, box.bottom);
+    const double second = MiddleWithin(area.Center().y, plan.secondaryTitle.Extent().height, box.top, bottom);
     PlaceText(context.builder, part(AxisId::SecondaryY), plan.secondaryTitle,
               {area.right, second, box.right, second}, HorizontalAlignment::Right, VerticalAlignment::Center);
     // Units stand above the labels, and reach over the plot where they are wider.

@@ -77,7 +77,7 @@ private:
         const bool across = id == AxisId::X;
         const bool upright = title.TextLayout.Orientation != Orientation::Horizontal;
         // A title that runs along its axis may be as long as the box; one across it only takes a third.
-        const double along = across ? box_.Width() : box_.Height();
+        const double along = across ? box_.Width() : box_.Height() - plan_.xTitle.Extent().height;
         const double aside = (across ? box_.Height() : box_.Width()) / 3;
         const double length = across == upright ? aside : along;
         return BreakText(TitleWithUnit(title.Text, unit), title.VtFont, title.TextLayout.Orientation,

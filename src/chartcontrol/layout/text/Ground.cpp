@@ -13,8 +13,8 @@ namespace QmChart6 {
 namespace {
 
 /// What touches a cell by less than this, in points, does not lie in it.
-constexpr double Touch = 0.05;
-/// Lines that stand out less than this from the ground, as grid lines do, disturb no text.
+constexpr double Touch = 0.01;
+/// Lines of an axis that stand out less than this from the ground, as those of a grid do, disturb no text.
 constexpr double FaintContrast = 1.7;
 
 /// Cuts one end of a line to where a coordinate is at least `least`, times `sign`; false where none of it is.
@@ -192,7 +192,7 @@ private:
 
     void Chain(std::span<const Point> points) {
         const Stroke& stroke = shape_->stroke;
-        if (stroke.style == PenStyle::None || !IsSeen(stroke.colour)) return;
+        if (stroke.style == PenStyle::None || (!IsOfPlot() && !IsSeen(stroke.colour))) return;
         const double half = stroke.width / 2;
         for (std::size_t i = 1; i < points.size(); ++i)
             ground_.ForPlaces(points[i - 1], points[i], [&](Point place) {

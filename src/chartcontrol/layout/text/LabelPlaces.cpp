@@ -12,6 +12,10 @@ namespace {
 constexpr double PlaceGap = 2.5;
 /// How many of its own heights a label may stand away from its mark.
 constexpr int FarthestAway = 3;
+/// What a label's own colour needs on a mark: more than elsewhere, for a grid line may shine through.
+constexpr double ContrastOnMarks = 6;
+/// An edge may lie so much farther than the cells of the ground tell, in points.
+constexpr double Coarseness = 0.5;
 /// A label on its bar stays so far from the bar's rim.
 constexpr double Air = 1.5;
 /// What part of a label's place lines may cover for a plate to be laid over them.
@@ -134,9 +138,10 @@ bool IsReached(const Ground& ground, const LabelAnchor& anchor, const LabelPlace
 std::optional<FoundPlace> FindClear(const Ground& ground, const LabelAnchor& anchor,
                                     const std::vector<LabelPlace>& places) {
     for (const LabelPlace& place : places) {
-        const Ground::Footing footing = ground.Under(place.box);
+        const Ground::Footing footing = ground.Under(place.box.Grown(Coarseness));
         if (footing.free && IsClear(anchor, place, footing) && IsReached(ground, anchor, place))
-            return FoundPlace{place, footing.even ? footing.colour : ground.PlainColour(), !footing.even};
+            return FoundPlace{place, footing.even ? footing.colour : ground.PlainColour(), !footing.even,
+                              footing.even && footing.shape != Ground::Plain};
     }
     return std::nullopt;
 }
@@ -193,7 +198,8 @@ void DrawLabel(SceneBuilder& builder, Part part, TextBlock block, const FoundPla
                HorizontalAlignment alignment) {
     if (found.plate)
         builder.AddRectangle(part, found.place.box.Grown(PlateRim), SolidFill(found.ground), {}, false);
-    block.font.VtColor = ReadableOn(found.ground, block.font.VtColor);
+    const double contrast = found.onMark ? ContrastOnMarks : TextContrast;
+    block.font.VtColor = ReadableOn(found.ground, block.font.VtColor, contrast);
     PlaceText(builder, part, block, found.place.box, alignment, VerticalAlignment::Center);
 }
 

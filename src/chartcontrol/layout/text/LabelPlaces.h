@@ -41,6 +41,8 @@ struct FoundPlace {
     LabelPlace place;
     Colour ground;
     bool plate = false;
+    /// It stands on a mark: what shines through it takes some of the contrast.
+    bool onMark = false;
 };
 
 /// The first place where all of a label is read: on its bar with air around it, else on one plain surface,
