@@ -48,9 +48,9 @@ PointPlaces LayOutPlot(const LayoutContext& context, const Box& box) {
                              : PointPlaces(FlatPlaces(std::move(plot)));
 }
 
-/// Names at the ends of lines make a legend needless that nobody asked for.
-bool NeedsLegend(const LayoutContext& context, const Box& free) {
-    return context.chart.ShowLegend && !(DirectNamesWidth(context, free) > 0);
+/// Names at the ends of lines, where they fit beside the plot, make a legend needless that nobody asked for.
+bool NeedsLegend(const LayoutContext& context, const Box& plot) {
+    return context.chart.ShowLegend && !(DirectNamesWidth(context, plot) > 0);
 }
 
 /// What of title, footnote and legend is drawn; a small picture does without some, so that it shows the plot.
@@ -76,7 +76,8 @@ std::optional<LaidOutChart> LayOutWith(const Chart& chart, const LayoutRequest& 
         LayOutTitle(context, chart.Title, PartCode::Title, free);
         LayOutTitle(context, chart.Footnote, PartCode::Footnote, free);
     }
-    if (around == Surroundings::All && NeedsLegend(context, free)) LayOutLegend(context, free);
+    if (around == Surroundings::All && NeedsLegend(context, PlotBox(chart, free, whole)))
+        LayOutLegend(context, free);
     const Box box = PlotBox(chart, free, whole);
     const bool isSmall =
         chart.Plot.AutoLayout && (box.Width() < std::max(LeastPlot.width, LeastShare * whole.Width()) ||

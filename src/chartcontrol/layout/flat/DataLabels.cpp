@@ -162,8 +162,7 @@ private:
         if (!found) return false;
         const Box& box = found->place.box;
         attempt.ground.Take(box);
-        if (found->place.stand == LabelStand::Away)
-            attempt.ground.Draw(LineStart(candidate.anchor, box), box.Center());
+        if (found->place.stand == LabelStand::Away) attempt.ground.Draw(LineTo(candidate, box));
         attempt.placed.push_back({&candidate, std::move(block), *found});
         return true;
     }
@@ -173,11 +172,13 @@ private:
         const Part part{PartCode::PointLabel, candidate.series, candidate.category + 1};
         const Box& box = label.found.place.box;
         if (label.found.place.stand == LabelStand::Away)
-            AddLabelLine(context_.builder, part, LabelOf(candidate).LineStyle,
-                         LineStart(candidate.anchor, box), box, label.block.font.VtColor);
+            AddLabelLine(context_.builder, part, LineTo(candidate, box), label.block.font.VtColor);
         DrawLabel(context_.builder, part, label.block, label.found);
     }
 
+    [[nodiscard]] std::vector<Point> LineTo(const Candidate& candidate, const Box& box) const {
+        return LabelLine(LabelOf(candidate).LineStyle, LineStart(candidate.anchor, box), box);
+    }
     [[nodiscard]] const DataPointLabel& LabelOf(const Candidate& candidate) const {
         return SeriesOf(candidate.series).DataPoints.Item(candidate.category + 1).DataPointLabel;
     }

@@ -177,13 +177,11 @@ private:
         const Point direction = DirectionOf(placed.label->turn);
         const Point rim{circle_.center.x + direction.x * (circle_.radius + 1),
                         circle_.center.y + direction.y * (circle_.radius + 1)};
-        if (style != LabelLineStyle::None) {
-            const Point end{right ? box.left - 1 : box.right + 1, box.Center().y};
-            if (!ground_.IsFreeWay(rim, end)) return false;
-            ground_.Draw(rim, end);
-        }
+        const std::vector<Point> way = LabelLine(style, rim, box);
+        if (!ground_.IsFreeWay(way)) return false;
+        ground_.Draw(way);
         ground_.Take(box);
-        AddLabelLine(context_.builder, placed.label->part, style, rim, box, block.font.VtColor);
+        AddLabelLine(context_.builder, placed.label->part, way, block.font.VtColor);
         DrawLabel(context_.builder, placed.label->part, block, {{box}, footing.colour, false},
                   right ? HorizontalAlignment::Left : HorizontalAlignment::Right);
         return true;

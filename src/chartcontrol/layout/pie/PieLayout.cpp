@@ -78,10 +78,13 @@ private:
             const LabelLocation location = look.DataPointLabel.LocationType;
             const bool isInside = location == LabelLocation::Inside || location == LabelLocation::Center;
             const double share = ShareOf(number, category, sum);
-            if (ShowsLabel(look.DataPointLabel) && isInside == inside)
+            const bool isWanted = ShowsLabel(look.DataPointLabel) && isInside == inside;
+            const QStringList pieces =
+                isWanted ? texts_.WithShare(look.DataPointLabel, number, value, share) : QStringList();
+            if (!pieces.isEmpty())
                 labels.push_back({{PartCode::PointLabel, number, category + 1},
                                   {PartCode::Series, number, category + 1},
-                                  texts_.WithShare(look.DataPointLabel, number, value, share),
+                                  pieces,
                                   before + share / 2,
                                   share,
                                   &look});

@@ -275,21 +275,22 @@ void Ground::Take(const Box& box) {
         for (int column = cells.left; column <= cells.right; ++column) At(column, row) |= Text;
 }
 
-bool Ground::IsFreeWay(Point from, Point to) const {
-    bool free = room_.Contains(from) && room_.Contains(to);
-    if (!free) return false;
-    ForPlaces(from, to, [&](Point place) {
-        const Cells cells = CellsOf({place.x, place.y, place.x, place.y});
-        free = free && (At(cells.left, cells.top) & Text) == 0;
-    });
+bool Ground::IsFreeWay(std::span<const Point> way) const {
+    bool free = std::all_of(way.begin(), way.end(), [this](Point place) { return room_.Contains(place); });
+    for (std::size_t i = 1; free && i < way.size(); ++i)
+        ForPlaces(way[i - 1], way[i], [&](Point place) {
+            const Cells cells = CellsOf({place.x, place.y, place.x, place.y});
+            free = free && (At(cells.left, cells.top) & Text) == 0;
+        });
     return free;
 }
 
-void Ground::Draw(Point from, Point to) {
-    ForPlaces(from, to, [this](Point place) {
-        const Cells cells = CellsOf({place.x, place.y, place.x, place.y});
-        if (cells.left <= cells.right && cells.top <= cells.bottom) At(cells.left, cells.top) |= Line;
-    });
+void Ground::Draw(std::span<const Point> way) {
+    for (std::size_t i = 1; i < way.size(); ++i)
+        ForPlaces(way[i - 1], way[i], [this](Point place) {
+            const Cells cells = CellsOf({place.x, place.y, place.x, place.y});
+            if (cells.left <= cells.right && cells.top <= cells.bottom) At(cells.left, cells.top) |= Line;
+        });
 }
 
 std::optional<Part> Ground::PartAt(Point place) const {

@@ -36,10 +36,10 @@ public:
     [[nodiscard]] Footing Under(const Box& box) const;
     /// From now on text stands there.
     void Take(const Box& box);
-    /// Whether a line from one place to another meets no text, and does not leave the room.
-    [[nodiscard]] bool IsFreeWay(Point from, Point to) const;
+    /// Whether a line through these places meets no text, and does not leave the room.
+    [[nodiscard]] bool IsFreeWay(std::span<const Point> way) const;
     /// From now on a line runs there.
-    void Draw(Point from, Point to);
+    void Draw(std::span<const Point> way);
     /// What the shape on top at a place shows; nothing on the plain ground or outside.
     [[nodiscard]] std::optional<Part> PartAt(Point place) const;
     /// What a footing's shape shows.

@@ -13,36 +13,20 @@ constexpr double LineGap = 1.5;
 
 } // namespace
 
-void AddLabelLine(SceneBuilder& builder, Part part, LabelLineStyle style, Point from, const Box& label,
-                  Colour colour) {
-    const Stroke stroke{PenStyle::Solid, Width, colour};
-    const double y = label.Center().y;
+std::vector<Point> LabelLine(LabelLineStyle style, Point from, const Box& label) {
+    if (style == LabelLineStyle::None) return {};
     const bool beside = from.x < label.left || from.x > label.right;
-    switch (style) {
-    case LabelLineStyle::None:
-        return;
-    case LabelLineStyle::Straight: {
-        const Point to =
-            beside ? Point{from.x < label.left ? label.left - LineGap : label.right + LineGap, y}
-                   : Point{from.x, from.y < label.top ? label.top - LineGap : label.bottom + LineGap};
-        builder.AddLine(part, from, to, stroke, false);
-        return;
-    }
-    case LabelLineStyle::Bent: {
-        const bool toLeft = label.Center().x < from.x;
-        const Point end{toLeft ? label.right + LineGap : label.left - LineGap, y};
-        const double elbow = toLeft ? std::min(end.x + LevelEnd, from.x) : std::max(end.x - LevelEnd, from.x);
-        builder.AddPoint(from);
-        if (beside) {
-            builder.AddPoint({elbow, y});
-            builder.AddPoint(end);
-        } else {
-            builder.AddPoint({from.x, from.y < label.top ? label.top - LineGap : label.bottom + LineGap});
-        }
-        builder.AddPolyline(part, stroke);
-        return;
-    }
-    }
+    if (!beside) return {from, {from.x, from.y < label.top ? label.top - LineGap : label.bottom + LineGap}};
+    const bool toLeft = label.right < from.x;
+    const Point end{toLeft ? label.right + LineGap : label.left - LineGap, label.Center().y};
+    if (style == LabelLineStyle::Straight) return {from, end};
+    const double elbow = toLeft ? std::min(end.x + LevelEnd, from.x) : std::max(end.x - LevelEnd, from.x);
+    return {from, {elbow, end.y}, end};
+}
+
+void AddLabelLine(SceneBuilder& builder, Part part, std::span<const Point> way, Colour colour) {
+    for (const Point& point : way) builder.AddPoint(point);
+    builder.AddPolyline(part, {PenStyle::Solid, Width, colour});
 }
 
 } // namespace QmChart6

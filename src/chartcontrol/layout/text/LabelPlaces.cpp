@@ -1,5 +1,6 @@
 #include "chartcontrol/layout/text/LabelPlaces.h"
 
+#include "chartcontrol/layout/text/LabelLines.h"
 #include "chartcontrol/model/ColourContrast.h"
 
 #include <algorithm>
@@ -131,8 +132,8 @@ bool IsClear(const LabelAnchor& anchor, const LabelPlace& place, const Ground::F
 /// Whether the line to a label that stands away crosses no other label.
 bool IsReached(const Ground& ground, const LabelAnchor& anchor, const LabelPlace& place) {
     if (place.stand != LabelStand::Away) return true;
-    const Point from = LineStart(anchor, place.box);
-    return ground.IsFreeWay(from, {from.x, from.y > place.box.bottom ? place.box.bottom : place.box.top});
+    // Straight or bent, the line to a label above or below its mark runs the same way.
+    return ground.IsFreeWay(LabelLine(LabelLineStyle::Straight, LineStart(anchor, place.box), place.box));
 }
 
 std::optional<FoundPlace> FindClear(const Ground& ground, const LabelAnchor& anchor,

@@ -51,6 +51,13 @@ TEST(DirectNames, WhereTheyDoNotFitTheLegendTellsThem) {
     EXPECT_EQ(ShapesOf<Rectangle>(LaidOut(bars), PartCode::Legend).size(), 4U); // samples and the whole
 }
 
+TEST(DirectNames, BesideAPlotThatAPersonMadeNarrowGiveWayToTheLegend) {
+    Chart chart = Named(ChartType::Line2D);
+    chart.Plot.AutoLayout = false;
+    chart.Plot.LocationRect = {{20, 40}, {80, 200}};
+    EXPECT_EQ(ShapesOf<Polyline>(LaidOut(chart), PartCode::Legend).size(), 3U);
+}
+
 TEST(DirectNames, ThatWouldMeetAreMovedApart) {
     Chart chart = ChartOf(5, 4, [](int row, int column) { return 100.0 * row + column * 0.1; });
     chart.SetChartType(ChartType::Line2D);

@@ -32,6 +32,18 @@ TEST(PieLabels, LeaveASmallPieItsSize) {
     EXPECT_GE(DiameterIn(LaidOut(chart, {90, 67.5})), 30);
 }
 
+TEST(PieLabels, WithoutAnyTextHaveNoLineEither) {
+    Chart chart = Named(LabelLocation::Outside);
+    for (int series = 1; series <= 6; ++series) {
+        chart.DataGrid.SetColumnLabel(series, QString());
+        DataPointLabel& label =
+            chart.Plot.SeriesCollection(series).DataPoints.Item(DataPoints::All).DataPointLabel;
+        label.Component = LabelShowsSeriesName;
+        label.LineStyle = LabelLineStyle::Bent;
+    }
+    EXPECT_TRUE(ShapesOf<Polyline>(LaidOut(chart), PartCode::PointLabel).empty());
+}
+
 TEST(PieLabels, AreNeverBrokenWithinAWord) {
     for (const LabelLocation location : {LabelLocation::Inside, LabelLocation::Outside})
         for (double width = 80; width <= 400; width += 10)
