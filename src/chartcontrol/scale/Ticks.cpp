@@ -86,8 +86,15 @@ struct Search {
         }
     }
 
+    /// Steps of 1 to 5, or of 25. Two ticks alone may tell more precisely where the data ends.
+    static bool IsRound(double multiple, int count) {
+        if (count == 2 || multiple == 2.5 || multiple == 25) return true;
+        return multiple <= 5 ? std::fmod(multiple, 1) == 0 : std::fmod(multiple, 10) == 0 && multiple <= 50;
+    }
+
     void TryPowers(std::size_t preference, int skip, int count) {
         const double multiple = skip * NiceSteps[preference];
+        if (!IsRound(multiple, count)) return;
         const double exponent = std::ceil(std::log10((high - low) / (count + 1) / multiple));
         for (double power = exponent; power < exponent + 4; ++power) {
             const double step = multiple * std::pow(10.0, power);

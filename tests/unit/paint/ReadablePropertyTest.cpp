@@ -18,10 +18,10 @@
 #include <cstdlib>
 #include <map>
 
-// Over random tables, looks and sizes of every kind: whatever stands in a picture can be read, and nothing
-// that has a value is missing. QMCHART6_CASES says how many are tried (10,000 in the long form),
-// QMCHART6_FIRST_CASE from which on, and QMCHART6_TEST_PICTURES into which folder pictures of those that fail
-// are put.
+// Over random tables, looks and sizes of every kind: whatever stands in a picture can be read, nothing that
+// has a value is missing, and axes tell round numbers. QMCHART6_CASES says how many are tried (10,000 in the
+// long form), QMCHART6_FIRST_CASE from which on, and QMCHART6_TEST_PICTURES into which folder pictures of
+// those that fail are put.
 
 namespace QmChart6 {
 namespace {
@@ -232,6 +232,46 @@ void ExpectBarsToBeSeen(const Case& tried, Complaints& complaints) {
     }
 }
 
+/// The numbers that a linear value axis tells, in order; empty where they are told in another way.
+std::vector<double> TickNumbers(const Scene& scene, AxisId axis) {
+    std::vector<double> numbers;
+    for (const Shape& shape : scene.shapes) {
+        const auto* text = std::get_if<TextLine>(&shape.geometry);
+        if (text == nullptr || shape.part.code != PartCode::AxisLabel ||
+            shape.part.index1 != static_cast<int>(axis))
+            continue;
+        QString digits = text->text;
+        bool isNumber = false;
+        numbers.push_back(
+            digits.remove(QLatin1Char(',')).remove(QLatin1Char('%')).trimmed().toDouble(&isNumber));
+        if (!isNumber) return {};
+    }
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    return numbers;
+}
+
+/// Steps between ticks are equal and of one digit, or 2.5, and where zero lies among them it is a tick.
+void ExpectRoundTicks(const Case& tried, Complaints& complaints) {
+    for (const AxisId id : {AxisId::Y, AxisId::SecondaryY}) {
+        if (tried.GetChart().Plot.Axis(id).AxisScale.Type == ScaleType::Logarithmic) continue;
+        const std::vector<double> ticks = TickNumbers(tried.scene, id);
+        if (ticks.size() < 2) continue;
+        const double step = ticks[1] - ticks[0];
+        const double ofOne = step / std::pow(10, std::floor(std::log10(step) + 1e-9));
+        const std::string told = std::to_string(ticks[0]) + ", " + std::to_string(ticks[1]) + " ...";
+        // Two alone tell where the data ends, in two digits.
+        const double precise = ticks.size() == 2 ? 10 * ofOne : ofOne;
+        complaints.Require(std::abs(ofOne - 2.5) < 1e-6 || std::abs(precise - std::round(precise)) < 1e-6,
+                           "ticks are not round: " + told);
+        for (std::size_t i = 1; i < ticks.size(); ++i)
+            complaints.Require(std::abs(ticks[i] - ticks[i - 1] - step) < 1e-6 * step,
+                               "ticks are not even: " + told);
+        const double toZero = ticks[0] / step;
+        complaints.Require(std::abs(toZero - std::round(toZero)) < 1e-6, "ticks pass zero: " + told);
+    }
+}
+
 void ExpectFiniteNumbers(const Scene& scene, Complaints& complaints) {
     const auto isFinite = [](const Box& box) {
         return std::isfinite(box.left) && std::isfinite(box.top) && std::isfinite(box.right) &&
@@ -257,6 +297,7 @@ TEST(EveryPicture, CanBeReadAndShowsEveryValue) {
         ExpectTextsToBeRead(tried, complaints);
         ExpectNoneToBeCovered(tried, complaints);
         ExpectBarsToBeSeen(tried, complaints);
+        ExpectRoundTicks(tried, complaints);
         if (const char* folder = std::getenv("QMCHART6_TEST_PICTURES"))
             if (complaints.OfCase() > 0)
                 tried.Painted(tried.scene)

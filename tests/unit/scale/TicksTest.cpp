@@ -26,6 +26,17 @@ TEST(Ticks, HundredInSteps) {
     ExpectTicks(ChooseTicks(0, 1, {.count = 6}), 0, 0.2, 6);
 }
 
+TEST(Ticks, MoreThanTwoHaveStepsOfOneDigitOrOf25) {
+    for (int count = 3; count <= 12; ++count)
+        for (double high = 1; high < 100; high += 0.1) {
+            const Ticks ticks = ChooseTicks(0, high, {.count = count});
+            const double digits = ticks.step / std::pow(10, std::floor(std::log10(ticks.step) + 1e-9));
+            const bool isRound =
+                std::abs(digits - 2.5) < 1e-9 || std::abs(digits - std::round(digits)) < 1e-9;
+            EXPECT_TRUE(ticks.count == 2 || isRound) << "0 to " << high << " by " << ticks.step;
+        }
+}
+
 TEST(Ticks, NegativeAndPositiveMeetZero) {
     const Ticks ticks = ChooseTicks(-37, 82, {.count = 6});
     bool zero = false;

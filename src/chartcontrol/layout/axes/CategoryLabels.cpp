@@ -1,5 +1,9 @@
 #include "chartcontrol/layout/axes/CategoryLabels.h"
 
+#include "chartcontrol/layout/text/AlikeNames.h"
+
+#include <QSet>
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -145,24 +149,45 @@ private:
     const CategoryLabelPlan& SetTurned(CategoryLabelPlan::Way way, int stride) {
         plan_.way = way;
         plan_.thinned = stride > 1;
-        plan_.labels.clear();
         const double length = way == CategoryLabelPlan::Way::Upright
                                   ? wish_.mostDepth
                                   : wish_.mostDepth / Sine45 - plan_.line.Height();
-        for (int category = 0; category < count_; category += stride)
-            plan_.labels.push_back(
-                {category, ElidedLine(categories_.Text(category), font_, length, measurer_)});
+        names_.clear();
+        for (int category = 0; category < count_; category += stride) names_ += categories_.Text(category);
+        AddTurned(stride, length);
+        if (!AreToldApart()) {
+            names_ = WithoutCommonEnds(names_);
+            AddTurned(stride, length);
+        }
         return plan_;
+    }
+
+    void AddTurned(int stride, double length) {
+        plan_.labels.clear();
+        for (qsizetype i = 0; i < names_.size(); ++i)
+            plan_.labels.push_back(
+                {static_cast<int>(i) * stride, ElidedLine(names_[i], font_, length, measurer_)});
+    }
+
+    /// Whether names that differ still do where some of them were elided.
+    [[nodiscard]] bool AreToldApart() const {
+        if (std::ranges::none_of(plan_.labels, [](const auto& label) { return label.block.elided; }))
+            return true;
+        QSet<QString> shown;
+        for (const CategoryLabelPlan::Label& label : plan_.labels)
+            shown.insert(label.block.IsEmpty() ? QString() : label.block.lines.front().text);
+        return shown.size() == QSet<QString>(names_.begin(), names_.end()).size();
     }
 
     /// False where labels would have to lose too much so as not to leave the picture at its left.
     bool TryTurned(int stride) {
         SetTurned(CategoryLabelPlan::Way::Turned, stride);
-        for (CategoryLabelPlan::Label& label : plan_.labels) {
+        for (std::size_t i = 0; i < plan_.labels.size(); ++i) {
+            CategoryLabelPlan::Label& label = plan_.labels[i];
             if (plan_.ReachLeft(label) <= RoomLeft(label.category)) continue;
             const double length = RoomLeft(label.category) / Sine45 - plan_.line.Height() / 2;
             if (length < LeastTurnedShare * label.block.Length()) return false;
-            label.block = ElidedLine(categories_.Text(label.category), font_, length, measurer_);
+            label.block = ElidedLine(names_[static_cast<qsizetype>(i)], font_, length, measurer_);
         }
         return true;
     }
@@ -173,6 +198,8 @@ private:
     const Font& font_;
     const TextMeasurer& measurer_;
     CategoryLabelPlan plan_;
+    /// What is written at turned labels where there is room.
+    QStringList names_;
 };
 
 /// A turned or upright line ends below its category's middle.

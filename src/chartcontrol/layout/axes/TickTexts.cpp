@@ -146,7 +146,9 @@ TickTexts TextsOfEvenTicks(const std::vector<double>& ticks) {
 }
 
 TickTexts TextsOfLogarithmicTicks(const std::vector<double>& ticks) {
+    constexpr double decade = 10;
     const bool plain = ticks.front() >= SmallestShort && ticks.back() <= LargestShort;
+    if (plain && ticks.back() < decade * ticks.front()) return TextsOfEvenTicks(ticks);
     TickTexts texts;
     for (const double tick : ticks)
         texts.labels += plain ? PlainText(tick, DecimalsOf(tick), tick >= GroupingFrom) : TextOfPower(tick);

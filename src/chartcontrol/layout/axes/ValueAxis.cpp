@@ -108,12 +108,11 @@ ValueAxisPlan PlanWith(const LayoutContext& context, const Axis& axis, const Val
     return plan;
 }
 
-/// Whether the labels of every stride-th tick meet, counted from `start`.
-bool LabelsMeet(const ValueAxisPlan& plan, const ValueAxisWish& wish, double gap, int start, int stride) {
+/// Whether the labels of every stride-th tick meet.
+bool LabelsMeet(const ValueAxisPlan& plan, const ValueAxisWish& wish, double gap, std::size_t stride) {
     const AxisMap map = plan.Map(0, wish.length);
-    const auto step = static_cast<std::size_t>(stride);
-    for (auto i = static_cast<std::size_t>(start) + step; i < plan.ticks.size(); i += step) {
-        const ValueAxisPlan::Tick& before = plan.ticks[i - step];
+    for (std::size_t i = plan.FirstOf(stride) + stride; i < plan.ticks.size(); i += stride) {
+        const ValueAxisPlan::Tick& before = plan.ticks[i - stride];
         const ValueAxisPlan::Tick& tick = plan.ticks[i];
         const double needed = wish.across ? (before.width + tick.width) / 2 + gap : plan.line.Height();
         if (needed > map.At(tick.value) - map.At(before.value)) return true;
@@ -121,19 +120,20 @@ bool LabelsMeet(const ValueAxisPlan& plan, const ValueAxisWish& wish, double gap
     return false;
 }
 
-/// The first tick of every stride-th that meets zero, or the first of all.
-int StartOf(const ValueAxisPlan& plan, int stride) {
-    const auto zero = std::ranges::find(plan.ticks, 0.0, &ValueAxisPlan::Tick::value);
-    return zero == plan.ticks.end() ? 0 : static_cast<int>(zero - plan.ticks.begin()) % stride;
+/// Where the ticks are given and their labels meet: only every second, fourth, fifth and so on has one.
+void ThinLabels(ValueAxisPlan& plan, const ValueAxisWish& wish, double gap) {
+    const std::size_t count = plan.ticks.size();
+    std::size_t stride = 1;
+    while (stride < count && (!plan.IsRound(stride) || LabelsMeet(plan, wish, gap, stride))) ++stride;
+    for (std::size_t i = 0; i < count; ++i)
+        if (i % stride != plan.FirstOf(stride)) plan.ticks[i].text.clear();
 }
 
-/// Where the ticks are given and their labels meet: only every second, third and so on has one.
-void ThinLabels(ValueAxisPlan& plan, const ValueAxisWish& wish, double gap) {
-    const int count = static_cast<int>(plan.ticks.size());
-    int stride = 1;
-    while (stride < count && LabelsMeet(plan, wish, gap, StartOf(plan, stride), stride)) ++stride;
-    for (int i = 0; i < count; ++i)
-        if (i % stride != StartOf(plan, stride)) plan.ticks[static_cast<std::size_t>(i)].text.clear();
+/// Whether a step has one digit, or two that are 25.
+bool IsRoundStep(double step) {
+    constexpr double exact = 1e-6;
+    const double digits = step / std::pow(10.0, std::floor(std::log10(step) + exact));
+    return std::abs(digits - 2.5) < exact || std::abs(digits - std::round(digits)) < exact;
 }
 
 } // namespace
@@ -144,13 +144,29 @@ double ValueAxisPlan::LabelWidth() const {
     return width;
 }
 
+std::size_t ValueAxisPlan::FirstOf(std::size_t stride) const {
+    const auto zero = std::ranges::find(ticks, 0.0, &Tick::value);
+    if (zero != ticks.end()) return static_cast<std::size_t>(zero - ticks.begin()) % stride;
+    if (logarithmic) return 0;
+    const double steps = std::ceil(ticks[0].value / (ticks[1].value - ticks[0].value) - 1e-6);
+    const auto length = static_cast<double>(stride);
+    const double past = std::fmod(std::fmod(steps, length) + length, length);
+    return static_cast<std::size_t>(length - past) % stride;
+}
+
+bool ValueAxisPlan::IsRound(std::size_t stride) const {
+    if (logarithmic) return true;
+    const double step = ticks[1].value - ticks[0].value;
+    return !IsRoundStep(step) || IsRoundStep(step * static_cast<double>(stride));
+}
+
 ValueAxisPlan PlanValueAxis(const LayoutContext& context, const Axis& axis, const ValueAxisWish& wish) {
     const Font& font = axis.Labels.Item(1).VtFont;
     const double room = (wish.across ? TickRoomAcross : TickRoomUpright) * std::max(1.0, font.Size);
     int count = std::clamp(static_cast<int>(std::lround(wish.length / room)) + 1, 2, MostTicks);
     const double gap = ValueGapShare * font.Size;
     ValueAxisPlan plan = PlanWith(context, axis, wish, count);
-    while (count > 2 && LabelsMeet(plan, wish, gap, 0, 1)) plan = PlanWith(context, axis, wish, --count);
+    while (count > 2 && LabelsMeet(plan, wish, gap, 1)) plan = PlanWith(context, axis, wish, --count);
     ThinLabels(plan, wish, gap);
     return plan;
 }

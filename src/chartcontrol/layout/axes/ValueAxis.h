@@ -26,6 +26,11 @@ struct ValueAxisPlan {
     TextExtent line;
 
     [[nodiscard]] double LabelWidth() const;
+    /// Of every stride-th tick (from 1) the first that has a label, so that multiples of the longer step have
+    /// them, zero among these.
+    [[nodiscard]] std::size_t FirstOf(std::size_t stride) const;
+    /// Whether every stride-th tick stands at a round step, or none would.
+    [[nodiscard]] bool IsRound(std::size_t stride) const;
     /// Maps the axis' values onto a stretch of the picture.
     [[nodiscard]] AxisMap Map(double from, double to) const { return {low, high, from, to, logarithmic}; }
 };

@@ -20,6 +20,10 @@ public:
     [[nodiscard]] bool IsInside(const Box& wanted) const;
     /// Beside the space and clear of all that was taken.
     [[nodiscard]] bool IsFree(const Box& wanted) const;
+    /// Beside the space.
+    [[nodiscard]] bool IsBeside(Point place) const {
+        return !MeetsSpace({place.x, place.y, place.x, place.y});
+    }
     void Take(const Box& taken) { taken_.push_back(taken); }
 
     /// A box moved by `step` until it is clear and, where there is so much room, `air` apart from all else;

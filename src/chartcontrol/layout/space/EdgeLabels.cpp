@@ -10,11 +10,13 @@ namespace {
 
 /// Names take at most this part of the width.
 constexpr double WidestNameShare = 0.2;
+/// A name that would keep fewer characters is left out.
+constexpr qsizetype FewestCharacters = 8;
 /// Labels move at most so many of their heights away from their edge.
 constexpr double FarthestPush = 2;
 /// Edges that are steeper than this have their names at their side, not below.
 constexpr double SteepShare = 0.3;
-constexpr double Slack = 0.01;
+constexpr double NameSlack = 0.01;
 
 /// Whether no more than one in eight of those that were wanted is lost.
 bool AreMost(const std::vector<EdgeLabel>& found, const std::vector<KeptCategory>& wanted) {
@@ -33,7 +35,7 @@ public:
         std::vector<EdgeLabel> placed;
         for (int i = 0; i < names.Count(); ++i) {
             EdgeLabel name = NameAt(room, {i, names.Text(i)});
-            if (!name.line) continue;
+            if (!name.line || (!placed.empty() && !IsBehind(*placed.back().line, *name.line))) continue;
             room.Take(WithAir(BoundsOf(*name.line)));
             placed.push_back(std::move(name));
         }
@@ -62,13 +64,23 @@ public:
     }
 
 private:
+    /// Whether the second stands farther along the edge.
+    [[nodiscard]] bool IsBehind(const TextLine& first, const TextLine& second) const {
+        const Point from = BoundsOf(first).Center();
+        const Point to = BoundsOf(second).Center();
+        return (to.x - from.x) * (edge_.to.x - edge_.from.x) + (to.y - from.y) * (edge_.to.y - edge_.from.y) >
+               0;
+    }
+
     /// Names stand beside the edge, just so far that they are clear of it.
     [[nodiscard]] EdgeLabel NameAt(const AxisTextRoom& room, const KeptCategory& name) const {
         const double away = texts_.Gap(edge_.id) + std::abs(outward_.y) * texts_.LineHeight(edge_.id) / 2;
         const Point at = edge_.place(name.category);
         const TextBlock block =
             ElidedLine(name.text, texts_.AxisOf(edge_.id).Labels.Item(1).VtFont,
-                       WidestNameShare * texts_.box.Width() + Slack, texts_.context.measurer);
+                       WidestNameShare * texts_.box.Width() + NameSlack, texts_.context.measurer);
+        if (block.elided && !block.IsEmpty() && block.lines.front().text.size() < FewestCharacters)
+            return {name.category + 1, {}};
         const TextAnchor anchor = std::abs(outward_.x) < SteepShare ? TextAnchor::Middle
                                   : outward_.x < 0                  ? TextAnchor::End
                                                                     : TextAnchor::Start;

@@ -26,9 +26,9 @@ public:
 
     void Run(bool bounded) {
         Categories(bounded);
-        Rows();
         Values(AxisId::Y, plan_.primary, plan_.primaryMap, true);
         Values(AxisId::SecondaryY, plan_.secondary, plan_.secondaryMap, false);
+        Rows();
     }
 
 private:
@@ -42,20 +42,22 @@ private:
         if (!texts_.Shown(id)) return;
         const SpacePoint corner = plan_.UprightEdge(left);
         const double gap = left ? -texts_.Gap(id) : texts_.Gap(id);
-        std::vector<EdgeLabel> all;
-        int index = 0;
-        for (const ValueAxisPlan::Tick& tick : axis.ticks) {
-            ++index;
-            if (tick.text.isEmpty()) continue;
+        const auto labelAt = [&](std::size_t number) {
+            const ValueAxisPlan::Tick& tick = axis.ticks[number];
             const Point at = plan_.Page({corner.x, map.At(tick.value), corner.z});
             const TextLine line =
                 texts_.LineAt(id, tick.text, {at.x + gap, at.y}, left ? TextAnchor::End : TextAnchor::Start);
-            all.push_back(Pushed(texts_, texts_.room, id, index, line, {left ? -1.0 : 1.0, 0}));
-        }
+            return Pushed(texts_, texts_.room, id, static_cast<int>(number) + 1, line,
+                          {left ? -1.0 : 1.0, 0});
+        };
+        std::vector<EdgeLabel> all;
+        for (std::size_t i = 0; i < axis.ticks.size(); ++i) all.push_back(labelAt(i));
         std::vector<EdgeLabel> best;
         for (std::size_t stride = 1; stride <= all.size(); ++stride) {
+            if (!axis.IsRound(stride)) continue;
             std::vector<EdgeLabel> some;
-            for (std::size_t i = 0; i < all.size(); i += stride) some.push_back(all[i]);
+            for (std::size_t i = axis.FirstOf(stride); i < all.size(); i += stride)
+                if (!axis.ticks[i].text.isEmpty()) some.push_back(all[i]);
             const auto run = LongestRun(some);
             if (run.size() > best.size()) best.assign(run.begin(), run.end());
         }
@@ -124,8 +126,14 @@ private:
         PlaceAll(AxisId::Z, best);
     }
 
+    /// None along an edge that has part of the space on both of its sides.
     [[nodiscard]] std::vector<EdgeLabel> RowNames(double x) const {
         const auto place = [this, x](double z) { return plan_.Page({x, 0, z}); };
+        constexpr double beside = 2;
+        const Point middle = place(plan_.size.z / 2);
+        const Point outward = texts_.Outward(place(0), place(plan_.size.z));
+        const Point outside{middle.x + beside * outward.x, middle.y + beside * outward.y};
+        if (!texts_.room.IsBeside(outside)) return {};
         const NamedEdge edge{AxisId::Z, place(0), place(plan_.size.z),
                              [&](int row) { return place(plan_.rows[static_cast<std::size_t>(row)]); }};
         const CategorySequence names(static_cast<int>(plan_.rows.size()),

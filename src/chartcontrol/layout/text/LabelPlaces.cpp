@@ -15,6 +15,8 @@ constexpr double PlaceGap = 2.5;
 constexpr int FarthestAway = 3;
 /// What a label's own colour needs on a mark: more than elsewhere, for a grid line may shine through.
 constexpr double ContrastOnMarks = 6;
+/// With less than this a grid line that shines through is hidden under the label.
+constexpr double ContrastOverLines = 5.4;
 /// An edge may lie so much farther than the cells of the ground tell, in points.
 constexpr double Coarseness = 0.5;
 /// A label on its bar stays so far from the bar's rim.
@@ -197,10 +199,12 @@ std::optional<FoundPlace> FindPlace(const Ground& ground, const LabelAnchor& anc
 
 void DrawLabel(SceneBuilder& builder, Part part, TextBlock block, const FoundPlace& found,
                HorizontalAlignment alignment) {
-    if (found.plate)
-        builder.AddRectangle(part, found.place.box.Grown(PlateRim), SolidFill(found.ground), {}, false);
     const double contrast = found.onMark ? ContrastOnMarks : TextContrast;
     block.font.VtColor = ReadableOn(found.ground, block.font.VtColor, contrast);
+    const bool hidesLines = found.onMark && Contrast(found.ground, block.font.VtColor) < ContrastOverLines;
+    if (found.plate || hidesLines)
+        builder.AddRectangle(part, found.place.box.Grown(found.plate ? PlateRim : Coarseness),
+                             SolidFill(found.ground), {}, false);
     PlaceText(builder, part, block, found.place.box, alignment, VerticalAlignment::Center);
 }
 

@@ -1,5 +1,7 @@
 #include "chartcontrol/layout/text/LegendLayout.h"
 
+#include "chartcontrol/layout/text/AlikeNames.h"
+
 #include "chartcontrol/layout/data/SeriesLook.h"
 #include "chartcontrol/layout/text/BackdropLayout.h"
 #include "chartcontrol/layout/text/Edges.h"
@@ -176,25 +178,36 @@ private:
         for (double& column : grid_.columnWidths) column = std::min(column, names);
     }
 
-    /// Names lose their ends, or their middles where they begin alike and could not be told apart.
+    /// Names lose their ends, or their middles where they begin alike and could not be told apart, or else
+    /// the words that all of them begin and end with.
     void Shorten(double length) {
-        const auto shortened = [&](const Entry& entry, bool inMiddle) {
-            if (!inMiddle) return Elide(entry.name, Font(), length, context_.measurer);
-            const TextBlock block = ElidedLine(entry.name, Font(), length, context_.measurer);
-            return block.IsEmpty() ? QString() : block.lines.front().text;
-        };
-        QSet<QString> before;
-        QSet<QString> after;
-        for (const Entry& entry : grid_.entries) {
-            before.insert(entry.name);
-            after.insert(shortened(entry, false));
-        }
-        const bool alike = after.size() < before.size();
-        for (Entry& entry : grid_.entries) {
-            if (entry.IsRest()) continue;
-            entry.name = shortened(entry, alike);
+        QStringList names;
+        for (const Entry& entry : grid_.entries)
+            if (!entry.IsRest()) names += entry.name;
+        const QSet<QString> all(names.begin(), names.end());
+        QStringList shown = Shortened(names, length, false);
+        if (QSet<QString>(shown.begin(), shown.end()).size() < all.size())
+            shown = Shortened(names, length, true);
+        if (QSet<QString>(shown.begin(), shown.end()).size() < all.size())
+            shown = Shortened(WithoutCommonEnds(names), length, true);
+        for (qsizetype i = 0; i < shown.size(); ++i) {
+            Entry& entry = grid_.entries[static_cast<std::size_t>(i)];
+            entry.name = shown[i];
             entry.width = context_.measurer.Measure(entry.name, Font()).width;
         }
+    }
+
+    [[nodiscard]] QStringList Shortened(const QStringList& names, double length, bool inMiddle) const {
+        QStringList shown;
+        for (const QString& name : names) {
+            if (!inMiddle) {
+                shown += Elide(name, Font(), length, context_.measurer);
+                continue;
+            }
+            const TextBlock block = ElidedLine(name, Font(), length, context_.measurer);
+            shown += block.IsEmpty() ? QString() : block.lines.front().text;
+        }
+        return shown;
     }
 
     const LayoutContext& context_;

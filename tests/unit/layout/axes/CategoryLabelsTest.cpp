@@ -99,6 +99,14 @@ TEST(CategoryLabels, ElidedOnesKeepTheirEnds) {
     EXPECT_LE(block.lines[0].width, 60);
 }
 
+TEST(CategoryLabels, ElidedOnesThatWouldBeAlikeLoseWhatTheyShare) {
+    QStringList names;
+    for (const char* word : {"Red", "Green", "Blue"})
+        names += QStringLiteral("Administration and management of %1 products of every kind")
+                     .arg(QString::fromLatin1(word));
+    EXPECT_EQ(TextsOf(PlanOf(names, 20)), QStringLiteral("…Red… …Green… …Blue…"));
+}
+
 TEST(CategoryLabels, WithoutTextTakeNoRoom) {
     EXPECT_EQ(Plan(5, QString(), 50).Depth(), 0);
 }

@@ -66,6 +66,7 @@ TEST(TickTexts, OfLogarithmicTicksArePlainOrPowers) {
     EXPECT_EQ(Joined(TextsOfLogarithmicTicks({0.01, 1, 100, 10000})), QStringLiteral("0.01 1 100 10,000|"));
     EXPECT_EQ(Joined(TextsOfLogarithmicTicks({1, 1e4, 1e8})), QStringLiteral("1 10⁴ 10⁸|"));
     EXPECT_EQ(Joined(TextsOfLogarithmicTicks({1e7, 2e7, 5e7})), QStringLiteral("10⁷ 2×10⁷ 5×10⁷|"));
+    EXPECT_EQ(Joined(TextsOfLogarithmicTicks({99.9, 99.95, 100})), QStringLiteral("99.90 99.95 100.00|"));
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 namespace QmChart6 {
@@ -104,6 +105,35 @@ TEST(SpaceAxes, AllNamesOfRowsStandAtAnEdgeThatHardlySlopes) {
 TEST(SpaceAxes, RowsSeenFromBelowAreNamedAtTheEdgeThatIsFree) {
     const Scene scene = LaidOut(SeenFrom(Bars(6, 4), Projection::Oblique, 300, -30), Picture);
     EXPECT_EQ(NumbersOf(scene, AxisId::Z).size(), 4U);
+}
+
+/// From a view that shows the rows one behind the other: each name lies on the same side of the one before.
+TEST(SpaceAxes, NamesOfRowsKeepTheOrderOfTheRows) {
+    for (const Projection projection : {Projection::Oblique, Projection::Orthogonal, Projection::Perspective})
+        for (double rotation = 0; rotation < 360; rotation += 10) {
+            const Scene scene = LaidOut(SeenFrom(Bars(5, 3), projection, rotation, 25), {300, 225});
+            std::vector<Point> places;
+            for (const Shape& shape : ShapesOf<TextLine>(scene, PartCode::AxisLabel))
+                if (shape.part.index1 == static_cast<int>(AxisId::Z)) places.push_back(shape.bounds.Center());
+            if (places.size() < 3) continue;
+            const Point first{places[1].x - places[0].x, places[1].y - places[0].y};
+            const Point second{places[2].x - places[1].x, places[2].y - places[1].y};
+            EXPECT_GT(first.x * second.x + first.y * second.y, 0) << rotation;
+        }
+}
+
+TEST(SpaceAxes, NamesThatWouldLoseMostOfTheirLettersAreLeftOut) {
+    Chart chart = SeenFrom(Bars(6, 3), Projection::Oblique, 60, 25);
+    chart.Plot.Axis(AxisId::Z).Labels.Item(1).VtFont.Size = 16;
+    for (const Shape& shape : ShapesOf<TextLine>(LaidOut(chart, {160, 120}), PartCode::AxisLabel))
+        EXPECT_NE(shape.part.index1, static_cast<int>(AxisId::Z));
+}
+
+TEST(SpaceAxes, ValuesKeepTheirLabelsBesideNamesOfRows) {
+    Chart chart = ChartOf(9, 2, [](int row, int) { return std::pow(4.0, row); });
+    chart.SetChartType(ChartType::Bar3D);
+    chart.Plot.Axis(AxisId::Y).AxisScale.Type = ScaleType::Logarithmic;
+    EXPECT_TRUE(NumbersOf(LaidOut(chart, Picture), AxisId::Y).contains(1));
 }
 
 TEST(SpaceAxes, RowsSeenStraightFromTheFrontHaveNoNames) {
