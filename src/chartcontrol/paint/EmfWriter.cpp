@@ -141,7 +141,7 @@ private:
         const bool plainStroke = stroke.style != PenStyle::None && !IsDashed(stroke.style);
         if (patterned) Pieces(PiecesOf(fill, outline), outline);
         if (!none && !patterned && fill.opacity < 1) {
-            Translucent(outline);
+            Translucent(outline, fill.colour);
             Stroked(outline, true);
             return;
         }
@@ -153,10 +153,10 @@ private:
         if (IsDashed(stroke.style)) Stroked(outline, true);
     }
 
-    void Translucent(std::span<const Point> outline) {
+    void Translucent(std::span<const Point> outline, Colour colour) {
         file_.Save();
         file_.ClipTo(outline);
-        file_.Blend(Box::Around(outline), shape_->fill.colour, shape_->fill.opacity);
+        file_.Blend(Box::Around(outline), colour, shape_->fill.opacity);
         file_.Restore();
         pen_ = brush_ = font_ = 0;
     }
@@ -170,9 +170,12 @@ private:
     }
 
     void Pieces(const HatchPieces& pieces, std::span<const Point> outline) {
+        if (shape_->fill.opacity < 1) Translucent(outline, pieces.ground);
         SelectPen(EmfRecords::StockNoPen);
-        SelectBrush(BrushOf(pieces.ground));
-        file_.Polygon(outline);
+        if (shape_->fill.opacity == 1) {
+            SelectBrush(BrushOf(pieces.ground));
+            file_.Polygon(outline);
+        }
         Gathered areas;
         for (const Box& box : pieces.boxes) areas.Add(BoxOutline(box));
         for (const PointRun& run : pieces.polygons) areas.Add(pieces.PointsOf(run));

@@ -78,8 +78,8 @@ void ScenePainter::SetSolid(const QColor& colour) {
     brush_ = colour;
 }
 
-QColor ScenePainter::FillColour() const {
-    QColor colour = QtColourOf(shape_->fill.colour);
+QColor ScenePainter::Translucent(Colour of) const {
+    QColor colour = QtColourOf(of);
     colour.setAlphaF(static_cast<float>(shape_->fill.opacity));
     return colour;
 }
@@ -251,7 +251,7 @@ void ScenePainter::operator()(const Polygon& polygon) {
     if (patterned) {
         const HatchPieces pieces = PiecesOf(shape_->fill, points);
         SetNoPen();
-        SetSolid(QtColourOf(pieces.ground));
+        SetSolid(Translucent(pieces.ground));
         painter_.drawPolygon(buffer_.data(), static_cast<int>(buffer_.size()), Qt::OddEvenFill);
         DrawPieces(pieces, RectOf(shape_->bounds));
         if (!Strokes()) return;
@@ -260,7 +260,7 @@ void ScenePainter::operator()(const Polygon& polygon) {
     if (patterned || shape_->fill.style == BrushStyle::None) {
         SetNoBrush();
     } else {
-        SetSolid(FillColour());
+        SetSolid(Translucent(shape_->fill.colour));
     }
     if (Strokes()) {
         SetPen(PenOf(shape_->stroke, Qt::RoundJoin));
@@ -273,7 +273,7 @@ void ScenePainter::operator()(const Polygon& polygon) {
 void ScenePainter::operator()(const Rectangle& rectangle) {
     const QRectF rect = Snaps() ? SnappedRect(rectangle.box) : RectOf(rectangle.box);
     if (shape_->fill.style == BrushStyle::Solid) {
-        painter_.fillRect(rect, FillColour());
+        painter_.fillRect(rect, Translucent(shape_->fill.colour));
     } else if (shape_->fill.style != BrushStyle::None) {
         const Box box{rect.left() / scale_, rect.top() / scale_, rect.right() / scale_,
                       rect.bottom() / scale_};
@@ -329,12 +329,12 @@ void ScenePainter::operator()(const Slice& slice) {
 
 void ScenePainter::FillPath(const QPainterPath& path, std::span<const Point> outline) {
     if (shape_->fill.style == BrushStyle::Solid) {
-        SetSolid(FillColour());
+        SetSolid(Translucent(shape_->fill.colour));
     } else {
         if (shape_->fill.style != BrushStyle::None) {
             const HatchPieces pieces = PiecesOf(shape_->fill, outline);
             SetNoPen();
-            SetSolid(QtColourOf(pieces.ground));
+            SetSolid(Translucent(pieces.ground));
             painter_.drawPath(path);
             DrawPieces(pieces, path.boundingRect());
         }

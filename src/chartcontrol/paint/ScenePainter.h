@@ -40,7 +40,7 @@ private:
     void SetPen(const QPen& pen);
     void SetNoPen();
     void SetSolid(const QColor& colour);
-    [[nodiscard]] QColor FillColour() const;
+    [[nodiscard]] QColor Translucent(Colour of) const;
     void SetNoBrush();
     void ForgetState();
     void SetFont(const Font& font);

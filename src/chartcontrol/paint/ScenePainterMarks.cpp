@@ -78,7 +78,7 @@ void ScenePainter::operator()(const MarkerRun& run) {
     const QPen pen = Strokes() ? PenOf(shape_->stroke, Qt::RoundJoin) : QPen(Qt::NoPen);
     const std::span<const Point> points = scene_.PointsOf(run.points);
     if (snaps_ && points.size() >= ManyMarkers) {
-        const QBrush brush = filled ? QBrush(FillColour()) : QBrush(Qt::NoBrush);
+        const QBrush brush = filled ? QBrush(Translucent(shape_->fill.colour)) : QBrush(Qt::NoBrush);
         MarkerStamps stamps(shape, brush, pen, painter_.deviceTransform().m11());
         if (pixels_ && points.size() >= VeryManyMarkers && stamps.IsSmall())
             for (const Point point : points)
@@ -92,7 +92,7 @@ void ScenePainter::operator()(const MarkerRun& run) {
     }
     SetPen(pen);
     if (filled) {
-        SetSolid(FillColour());
+        SetSolid(Translucent(shape_->fill.colour));
     } else {
         SetNoBrush();
     }

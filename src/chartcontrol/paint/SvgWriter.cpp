@@ -237,7 +237,7 @@ private:
             return;
         }
         const HatchPieces pieces = PiecesOf(fill, outline);
-        Element(name, geometry + Fill(false, pieces.ground) + crisp);
+        Element(name, geometry + Fill(false, pieces.ground) + Opacity() + crisp);
         Pieces(pieces);
         if (shape_->stroke.style != PenStyle::None)
             Element(name, geometry + Fill(true, {}) + Strokes() + crisp);

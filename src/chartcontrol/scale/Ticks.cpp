@@ -36,8 +36,8 @@ struct Search {
     double low;
     double high;
     TickWish wish;
-    double bestScore = -2;
-    std::optional<Ticks> best;
+    double bestScore = -std::numeric_limits<double>::infinity();
+    std::optional<Ticks> best{};
 
     static double Simplicity(std::size_t preference, int skip, bool meetsZero) {
         return 1 - static_cast<double>(preference) / (NiceSteps.size() - 1) - skip + (meetsZero ? 1 : 0);
@@ -164,7 +164,7 @@ Ticks ChooseTicks(double low, double high, const TickWish& wish) {
         return {ticks.first * VastUnit, ticks.step * VastUnit, ticks.count};
     }
     GiveExtent(low, high, wish.unit);
-    Search search{low, high, {std::max(2, wish.count), wish.unit}, -2, {}};
+    Search search{.low = low, .high = high, .wish = {std::max(2, wish.count), wish.unit}};
     search.Run();
     return search.best ? *search.best : Fallback(low, high, search.wish);
 }

@@ -112,7 +112,7 @@ struct SceneFill {
     int index = 0;
     Colour colour;
     Colour patternColour;
-    /// From 0 to 1; of solid fills alone.
+    /// From 0 to 1; of a pattern or hatch it is that of the ground.
     double opacity = 1;
 
     friend bool operator==(const SceneFill&, const SceneFill&) = default;

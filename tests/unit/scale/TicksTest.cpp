@@ -37,6 +37,10 @@ TEST(Ticks, MoreThanTwoHaveStepsOfOneDigitOrOf25) {
         }
 }
 
+TEST(Ticks, FewThatFitBadlyAreRoundStill) {
+    ExpectTicks(ChooseTicks(18.27, 44.09, {.count = 2}), 10, 10, 5);
+}
+
 TEST(Ticks, NegativeAndPositiveMeetZero) {
     const Ticks ticks = ChooseTicks(-37, 82, {.count = 6});
     bool zero = false;

@@ -57,7 +57,7 @@ void AddRun(const PlotContext& context, int number, const Runs& runs, std::size_
 SceneFill FillOfArea(const Brush& brush, bool alone) {
     constexpr double translucent = 0.5;
     SceneFill fill = FillOf(brush);
-    if (!alone && brush.Style == BrushStyle::Solid) fill.opacity = translucent;
+    if (!alone && brush.Style != BrushStyle::None) fill.opacity = translucent;
     return fill;
 }
 

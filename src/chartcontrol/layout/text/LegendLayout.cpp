@@ -225,8 +225,11 @@ void AddSymbol(const LayoutContext& context, int number, const Box& box) {
     if (kind.isFilled) {
         const double half = SwatchShare * context.chart.Legend.VtFont.Size / 2;
         const Point center = box.Center();
+        DataPoint shown = look;
+        // Areas of flat charts have no edges but those of their patterns.
+        if (MarkOfSeries(context.chart, number) == Mark::Area) shown.EdgePen.Style = PenStyle::None;
         builder.AddRectangle(part, {center.x - half, center.y - half, center.x + half, center.y + half},
-                             FillOf(look.Brush), EdgeOf(context.chart, look));
+                             FillOf(look.Brush), EdgeOf(context.chart, shown));
         return;
     }
     const LineLook shown = kind.hasMarkers ? LineLookOf(series) : LineLook{};
