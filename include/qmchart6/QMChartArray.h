@@ -20,10 +20,11 @@ namespace QmChart6 {
 /// elements are taken from each array's own lower bound. An Empty or not-a-number cell is a missing value.
 ///
 /// All members are called on one thread, the first that called any; another raises error 5. Where the host
-/// has no QApplication, one is made at first use and kept. Every failure is a RuntimeError: 9 (an array too
-/// small), 13 (a cell or an argument that is no number), 94 (a Null cell), 326 (a language that has no
-/// texts), 380 (a negative number of rows or columns), and those of files (53, 61, 70, 75, 76) and printers
-/// (482).
+/// has no QApplication, one is made at first use and kept. When the host's own ends, all viewers go with it
+/// unasked; from then on QmKillGraph finds none, and what needs an application raises error 5. Every failure
+/// is a RuntimeError: 9 (an array too small), 13 (a cell or an argument that is no number), 94 (a Null cell),
+/// 326 (a language that has no texts), 380 (a negative number of rows or columns), and those of files (53,
+/// 61, 70, 75, 76) and printers (482).
 class QMCHART6_EXPORT QMChartArray {
 public:
     /// The folder of the configuration database: the text that "QmConfig.mdb" is put behind, so it ends in a

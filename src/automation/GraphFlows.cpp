@@ -115,13 +115,13 @@ void PrintGraph(const ChartRequest& request) {
     else
         PrintChart(viewer->ChartImage(), HostPrinter());
     viewer->update();
-    CloseViewer(viewer->GraphId());
+    CloseViewer(viewer);
 }
 
 void SaveGraph(const ChartRequest& request, QString& fileName) {
     const ViewerPointer viewer = ViewerForOutput(request);
     SaveChartSnapshot(*viewer, viewer->ChartImage(), fileName, SizeOfPicture(*viewer));
-    CloseViewer(viewer->GraphId());
+    CloseViewer(viewer);
 }
 
 void KillGraph(const QString& graphId) {

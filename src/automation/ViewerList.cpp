@@ -2,6 +2,7 @@
 
 #include "base/ProcessState.h"
 #include "chartcontrol/widget/ChartControl.h"
+#include "desktop/Application.h"
 #include "qmchart6/RuntimeError.h"
 #include "viewer/GraphForm.h"
 
@@ -64,6 +65,26 @@ int PlaceOf(const QString& normalizedId) {
     return place;
 }
 
+/// The place of that very viewer, whatever others have its id, or one past the last.
+int PlaceOf(const GraphForm& wanted) {
+    const ViewerList viewers = Viewers();
+    int place = viewers.LowerBound();
+    while (place <= viewers.UpperBound() && viewers.At(place).get() != &wanted) ++place;
+    return place;
+}
+
+void CloseAt(int place) {
+    if (place > Viewers().UpperBound()) return;
+    // Out of the list first: closing tells the list, which must not find the viewer again.
+    const ViewerPointer viewer = Viewers().Release(place);
+    viewer->close();
+}
+
+/// Windows cannot outlive their application; nobody is left to be asked about them.
+void ForgetAll() {
+    for (ViewerPointer& viewer : Process().viewers) viewer.reset();
+}
+
 } // namespace
 
 ViewerPointer FindViewer(QString& graphId) {
@@ -76,17 +97,21 @@ ViewerPointer CreateViewer(const QString& graphId) {
     ViewerPointer viewer(new GraphForm, Dispose);
     Viewers().Append(viewer);
     viewer->SetGraphId(Normalized(graphId));
-    GraphForm& form = *viewer;
-    QObject::connect(&form, &GraphForm::Closed, &form, [&form] { CloseViewer(form.GraphId()); });
+    const GraphForm& form = *viewer;
+    QObject::connect(&form, &GraphForm::Closed, &form, [&form] {
+        const int place = PlaceOf(form);
+        if (place <= Viewers().UpperBound()) Viewers().Release(place);
+    });
+    WhenApplicationEnds(ForgetAll);
     return viewer;
 }
 
 void CloseViewer(const QString& graphId) {
-    const int place = PlaceOf(Normalized(graphId));
-    if (place > Viewers().UpperBound()) return;
-    // Out of the list first: closing tells the list, which must not find the viewer again.
-    const ViewerPointer viewer = Viewers().Release(place);
-    viewer->close();
+    CloseAt(PlaceOf(Normalized(graphId)));
+}
+
+void CloseViewer(const ViewerPointer& viewer) {
+    CloseAt(PlaceOf(*viewer));
 }
 
 bool AnyViewerShown() {

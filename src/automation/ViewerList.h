@@ -41,6 +41,9 @@ ViewerPointer CreateViewer(const QString& graphId);
 /// Closes the first viewer of that id, if there is one, and releases its slot.
 void CloseViewer(const QString& graphId);
 
+/// Closes that viewer, unless it is closed already, and releases its slot.
+void CloseViewer(const ViewerPointer& viewer);
+
 /// Whether a reference holds no viewer.
 [[nodiscard]] inline bool IsViewerMissing(const ViewerPointer& viewer) {
     return viewer == nullptr;

@@ -1,5 +1,7 @@
 #include "config/FieldBuilder.h"
 
+#include <utility>
+
 namespace QmChart6 {
 
 namespace {
@@ -43,7 +45,15 @@ std::vector<LookField> LocationFields(const char* prefix, const std::function<Lo
     std::vector<LookField> fields{Enumeration(
         Name(prefix, "LocationType").c_str(),
         [location](Part part) -> auto& { return location(part).LocationType; }, ToLocationType)};
-    Append(fields, RectFields(prefix, [location](Part part) -> auto& { return location(part).Rect; }));
+    std::vector<LookField> rect =
+        RectFields(prefix, [location](Part part) -> auto& { return location(part).Rect; });
+    // What is kept is told for a chart as large as the look makes it, whatever this one's was told for.
+    for (LookField& field : rect)
+        field.set = [location, set = field.set](Part part, const FieldValue& value) {
+            set(part, value);
+            location(part).Within = {};
+        };
+    Append(fields, std::move(rect));
     return fields;
 }
 

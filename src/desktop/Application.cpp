@@ -51,10 +51,45 @@ void MakeApplication() {
     application->setQuitOnLastWindowClosed(false);
 }
 
+/// What is known of the application's end, and who else wants to.
+struct ApplicationEnd {
+    bool watched = false;
+    bool seen = false;
+    void (*tell)() = nullptr;
+};
+
+ApplicationEnd& TheEnd() {
+    static ApplicationEnd end;
+    return end;
+}
+
+void ApplicationEnds() {
+    TheEnd().watched = false;
+    TheEnd().seen = true;
+    if (TheEnd().tell != nullptr) TheEnd().tell();
+}
+
+void WatchForTheEnd() {
+    if (TheEnd().watched) return;
+    TheEnd().watched = true;
+    qAddPostRoutine(ApplicationEnds); // which Qt forgets once it was called
+}
+
 } // namespace
 
+void WhenApplicationEnds(void (*tell)()) {
+    TheEnd().tell = tell;
+}
+
 void EnsureAnyApplication() {
-    if (QCoreApplication::instance() == nullptr) MakeApplication();
+    if (QCoreApplication::instance() == nullptr) {
+        // A second one beside what is left of the host's would find much of Qt in pieces.
+        if (TheEnd().seen)
+            throw RuntimeError(ErrorNumber::InvalidProcedureCall,
+                               QStringLiteral("the host's application object has ended"));
+        MakeApplication();
+    }
+    WatchForTheEnd();
 }
 
 void EnsureApplication() {

@@ -1,6 +1,7 @@
 #include "viewer/GraphForm.h"
 
 #include "base/Units.h"
+#include "chartcontrol/model/Places.h"
 #include "chartcontrol/widget/AccessibleChart.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationStore.h"
@@ -13,6 +14,7 @@
 #include "viewer/ControlBarCommands.h"
 #include "viewer/ElementEditing.h"
 #include "viewer/LookChanges.h"
+#include "viewer/RestoredSize.h"
 #include "viewer/ViewerCommands.h"
 #include "viewer/ViewerLayout.h"
 #include "viewer/ViewerMenu.h"
@@ -32,6 +34,13 @@ namespace {
 constexpr int ChartWidth = 760;
 constexpr int ChartHeight = 480;
 constexpr int StatusTime = 2000; // milliseconds
+
+/// Tells the places that were chosen by hand for a chart of that size: all, or those that are told for none.
+void TellPlaces(Chart& chart, Coordinate size, bool all) {
+    for (Location* location : {&chart.Title.Location, &chart.Footnote.Location, &chart.Legend.Location})
+        if (location->LocationType == LocationType::Custom && (all || location->Within == Coordinate{}))
+            *location = LocationIn(*location, size);
+}
 
 } // namespace
 
@@ -70,9 +79,9 @@ struct GraphForm::Commands {
 };
 
 GraphForm::GraphForm(QWidget* parent)
-    : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)), shown_{.chart = *chartImage_},
-      tbControlBar_(new ViewerToolBar(this)), sbGraph_(new ViewerStatusBar(this)),
-      mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)),
+    : QWidget(parent, Qt::Window), chartImage_(new ChartControl(this)), restoredSize_(new RestoredSize(this)),
+      shown_{.chart = *chartImage_}, tbControlBar_(new ViewerToolBar(this)),
+      sbGraph_(new ViewerStatusBar(this)), mProperties_(new ViewerMenu(this)), timGraph_(new QTimer(this)),
       commands_(std::make_unique<Commands>(*this)) {
     InstallAccessibleCharts();
     setObjectName(QStringLiteral("GraphForm"));
@@ -133,17 +142,18 @@ void GraphForm::SetStatus(const QString& message) {
 }
 
 LookState GraphForm::Look() const {
-    const QSize size = isMaximized() && normalGeometry().isValid() ? normalGeometry().size() : this->size();
-    return {.chart = chartImage_->Model(),
-            .lines = shown_.lines,
-            .markers = shown_.markers,
-            .stacked = shown_.stacked,
-            .fullStacked = shown_.fullStacked,
-            .controlBar = ControlBar(),
-            .maximized = isMaximized(),
-            .width = TwipsOfPixels(size.width()) + NominalFrameWidth,
-            .height = TwipsOfPixels(size.height()) + NominalFrameHeight,
-            .extras = shown_.extras};
+    LookState look{.chart = chartImage_->Model(),
+                   .lines = shown_.lines,
+                   .markers = shown_.markers,
+                   .stacked = shown_.stacked,
+                   .fullStacked = shown_.fullStacked,
+                   .controlBar = ControlBar(),
+                   .maximized = isMaximized(),
+                   .width = Width(),
+                   .height = Height(),
+                   .extras = shown_.extras};
+    TellPlaces(look.chart, ChartSizeIn(look), true);
+    return look;
 }
 
 void GraphForm::Show(const LookState& look) {
@@ -152,6 +162,7 @@ void GraphForm::Show(const LookState& look) {
     if (look.width != before.width) SetWidth(look.width);
     if (look.maximized != isMaximized()) SetWindowState(look.maximized ? 2 : 0);
     chartImage_->Model() = look.chart;
+    TellPlaces(chartImage_->Model(), ChartSizeIn(look), false);
     shown_.lines = look.lines;
     shown_.markers = look.markers;
     shown_.stacked = look.stacked;
@@ -173,32 +184,28 @@ void GraphForm::SetWindowState(int state) {
     if (state < 0 || state > 2)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue,
                            QStringLiteral("a window state is from 0 to 2, not %1").arg(state));
-    const bool restores = state == 0 && isMaximized();
-    const QSize normalSize = normalGeometry().size();
     const Qt::WindowStates others =
         windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);
     setWindowState(others | (state == 1   ? Qt::WindowMinimized
                              : state == 2 ? Qt::WindowMaximized
                                           : Qt::WindowNoState));
-    // The desktop takes its time to restore a window; whoever asks for its size next must get the normal one.
-    if (restores && normalSize.isValid()) resize(normalSize);
 }
 
 int GraphForm::Height() const {
-    return TwipsOfPixels(height()) + NominalFrameHeight;
+    return TwipsOfPixels(restoredSize_->Get().height()) + NominalFrameHeight;
 }
 
 void GraphForm::SetHeight(int twips) {
-    resize(width(), PixelsOfTwips(qMax(0, twips - NominalFrameHeight)));
+    restoredSize_->Set({restoredSize_->Get().width(), PixelsOfTwips(qMax(0, twips - NominalFrameHeight))});
     PlaceParts(); // a window that is not shown hears of its size too late
 }
 
 int GraphForm::Width() const {
-    return TwipsOfPixels(width()) + NominalFrameWidth;
+    return TwipsOfPixels(restoredSize_->Get().width()) + NominalFrameWidth;
 }
 
 void GraphForm::SetWidth(int twips) {
-    resize(PixelsOfTwips(qMax(0, twips - NominalFrameWidth)), height());
+    restoredSize_->Set({PixelsOfTwips(qMax(0, twips - NominalFrameWidth)), restoredSize_->Get().height()});
     PlaceParts();
 }
 
@@ -255,14 +262,26 @@ void GraphForm::PlaceParts() {
     sbGraph_->setGeometry(0, height() - statusHeight, width(), statusHeight);
 
     chartImage_->SetRepaint(false);
-    const ChartPlace place = PlaceChart({.width = Width(),
-                                         .height = Height(),
-                                         .statusBarHeight = TwipsOfPixels(statusHeight),
-                                         .controlBarTop = TwipsOfPixels(tbControlBar_->y()),
-                                         .controlBarHeight = TwipsOfPixels(barHeight),
-                                         .controlBarVisible = ControlBar()});
-    chartImage_->setGeometry(PixelsOfPlace(place, chartImage_->geometry()));
+    chartImage_->setGeometry(ChartPlaceIn(size(), ControlBar()));
     chartImage_->SetRepaint(true);
+}
+
+QRect GraphForm::ChartPlaceIn(QSize window, bool controlBar) const {
+    const ChartPlace place =
+        PlaceChart({.width = TwipsOfPixels(window.width()) + NominalFrameWidth,
+                    .height = TwipsOfPixels(window.height()) + NominalFrameHeight,
+                    .statusBarHeight = TwipsOfPixels(sbGraph_->sizeHint().height()),
+                    .controlBarTop = 0,
+                    .controlBarHeight = TwipsOfPixels(tbControlBar_->sizeHint().height()),
+                    .controlBarVisible = controlBar});
+    return PixelsOfPlace(place, chartImage_->geometry());
+}
+
+Coordinate GraphForm::ChartSizeIn(const LookState& look) const {
+    const QSize window(PixelsOfTwips(look.width - NominalFrameWidth),
+                       PixelsOfTwips(look.height - NominalFrameHeight));
+    const QSize chart = ChartPlaceIn(window, look.controlBar).size();
+    return {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel};
 }
 
 void GraphForm::paintEvent(QPaintEvent* event) {

@@ -12,6 +12,7 @@ class QTimer;
 namespace QmChart6 {
 
 class ChartControl;
+class RestoredSize;
 class ViewerMenu;
 class ViewerStatusBar;
 class ViewerToolBar;
@@ -43,7 +44,7 @@ public:
     [[nodiscard]] int WindowState() const;
     void SetWindowState(int state);
 
-    // In twips, of the whole window.
+    // In twips, of the whole window while it is not maximized; a maximized one takes them when it is restored.
     [[nodiscard]] int Height() const;
     void SetHeight(int twips);
     [[nodiscard]] int Width() const;
@@ -107,9 +108,14 @@ private:
     struct Commands;
 
     void PlaceParts();
+    /// Where the chart stands in a window of that size, in logical pixels.
+    [[nodiscard]] QRect ChartPlaceIn(QSize window, bool controlBar) const;
+    /// The size of the chart in a window of the look's size, in points.
+    [[nodiscard]] Coordinate ChartSizeIn(const LookState& look) const;
     void AskToSave();
 
     ChartControl* chartImage_;
+    RestoredSize* restoredSize_;
     ShownLook shown_;
     ViewerToolBar* tbControlBar_;
     ViewerStatusBar* sbGraph_;

@@ -11,14 +11,15 @@ import sqlite3
 import subprocess
 import sys
 import tempfile
-import time
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+from display import PATIENCE, Display, until  # noqa: E402
 
 QMCHART = os.environ["QMCHART"]
 EXAMPLES = pathlib.Path(__file__).resolve().parents[2] / "examples"
 # What newer releases of the view for screen readers call a role.
 RENAMED = {"button": "push button"}
-PATIENCE = 30  # seconds that a machine with much else to do may take
 
 
 def role_of(part):
@@ -26,39 +27,8 @@ def role_of(part):
     return RENAMED.get(role, role)
 
 
-def until(condition, what):
-    """What the condition gives once it gives anything."""
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        found = condition()
-        if found:
-            return found
-        time.sleep(0.02)
-    raise AssertionError(f"waited in vain for {what}")
-
-
 def run(*command):
     return subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE, check=True).stdout
-
-
-class Display:
-    """A screen with a window manager."""
-
-    def __init__(self):
-        reading, writing = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x900x24", "-nolisten", "tcp"],
-                                       pass_fds=[writing], stderr=subprocess.DEVNULL)
-        os.close(writing)
-        with os.fdopen(reading) as numbers:
-            os.environ["DISPLAY"] = ":" + numbers.readline().strip()
-        self.manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
-        until(lambda: b"window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True,
-                                                     check=False).stdout, "the window manager")
-
-    def close(self):
-        for process in (self.manager, self.server):
-            process.terminate()
-            process.wait(PATIENCE)
 
 
 class Viewer:

@@ -113,6 +113,9 @@ struct CoordinateRect {
 struct Location {
     QmChart6::LocationType LocationType = QmChart6::LocationType::Top;
     CoordinateRect Rect;
+    /// The size of the chart that Rect was chosen in; in one of another size Rect keeps its shares of the
+    /// whole. 0 by 0: it is the same in a chart of any size.
+    Coordinate Within = {};
 
     friend bool operator==(const Location&, const Location&) = default;
 };

@@ -3,7 +3,11 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QTimer>
+
+#include <functional>
+#include <utility>
 
 using namespace QmChart6;
 
@@ -87,4 +91,50 @@ TEST_F(ViewerListTest, KillingAModifiedViewerAsksAndCloses) {
     charts.QmKillGraph(QStringLiteral("a"));
     EXPECT_EQ(desktop.messages.size(), 1);
     EXPECT_EQ(Viewer(QStringLiteral("a")), nullptr);
+}
+
+namespace {
+
+/// A host that does something while a question of the viewer's waits for its answer.
+class BusyHost : public ScriptedDesktop {
+public:
+    std::function<void()> meanwhile;
+
+    Answer ShowMessage(QWidget* owner, const QString& text, const QString& caption,
+                       MessageButtons buttons) override {
+        if (const auto once = std::exchange(meanwhile, {})) once();
+        return ScriptedDesktop::ShowMessage(owner, text, caption, buttons);
+    }
+};
+
+} // namespace
+
+TEST_F(ViewerListTest, AViewerMadeAgainWhileTheKilledOnesQuestionIsOpenStaysOpen) {
+    BusyHost host;
+    const ScopedDesktop busy(host);
+    host.meanwhile = [this] { Make(QStringLiteral("a")); };
+    Make(QStringLiteral("a"));
+    const QPointer<GraphForm> killed = Viewer(QStringLiteral("a"));
+    killed->SetModified(true);
+    charts.QmKillGraph(QStringLiteral("a"));
+    EXPECT_EQ(host.messages.size(), 1);
+    EXPECT_TRUE(killed.isNull());
+    ASSERT_NE(Viewer(QStringLiteral("a")), nullptr);
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
+}
+
+TEST_F(ViewerListTest, AViewerMadeAgainWhileTheOldOnePrintsStaysOpen) {
+    const QTemporaryDir folder;
+    desktop.printers = {QStringLiteral("office")};
+    desktop.printerFile = folder.filePath(QStringLiteral("page.pdf"));
+    desktop.chosenPrinter = desktop.printer = QStringLiteral("office");
+    desktop.settle = [this](QPrinter&) {
+        charts.QmKillGraph(QStringLiteral("a"));
+        Make(QStringLiteral("a"));
+    };
+    charts.QmPrintGraph(QStringLiteral("a"), 3, 2, data, rowLabels, columnLabels, title, rowTitle,
+                        columnTitle, valueTitle);
+    EXPECT_EQ(desktop.printDialogs, 1);
+    ASSERT_NE(Viewer(QStringLiteral("a")), nullptr);
+    EXPECT_TRUE(Viewer(QStringLiteral("a"))->isVisible());
 }
