@@ -1,6 +1,8 @@
 #include "qmchart/CellNumber.h"
 
 #include <QByteArrayList>
+#include <QRegularExpression>
+#include <QString>
 
 #include <algorithm>
 #include <array>
@@ -103,12 +105,54 @@ std::optional<double> NumberOfCell(const QByteArray& cell, const NumberStyle& st
     return value;
 }
 
-void NumberStyleFinder::Look(const QByteArray& cell) {
+std::optional<DressedNumber> Undress(const QByteArray& cell) {
+    // Most cells are plain, and tables are large.
+    const bool plain = std::none_of(cell.begin(), cell.end(), [](char c) {
+        return c == '%' || c == '(' || c == '$' || static_cast<signed char>(c) < 0;
+    });
+    if (plain) return std::nullopt;
+    QString text = QString::fromUtf8(cell).trimmed();
+    DressedNumber dressed;
+    QString sign;
+    const auto takeSign = [&] {
+        if (!sign.isEmpty() || text.isEmpty() || !QStringLiteral(u"-+\u2212").contains(text.front())) return;
+        sign = text.front();
+        text = text.sliced(1).trimmed();
+    };
+    const auto takeBrackets = [&] {
+        if (dressed.inBrackets || !sign.isEmpty() || !text.startsWith(u'(') || !text.endsWith(u')')) return;
+        dressed.inBrackets = true;
+        text = text.sliced(1, text.size() - 2).trimmed();
+    };
+    const auto takeUnit = [&](const QRegularExpression& place) {
+        const QRegularExpressionMatch match = place.match(text);
+        if (!dressed.unit.isEmpty() || !match.hasMatch()) return;
+        dressed.unit = match.captured(1).toUtf8();
+        text = text.remove(match.capturedStart(), match.capturedLength()).trimmed();
+    };
+    static const QRegularExpression before(QStringLiteral("^([A-Z]{0,3}\\p{Sc})"));
+    static const QRegularExpression behind(QStringLiteral("([A-Z]{0,3}\\p{Sc}|%)$"));
+    takeSign();
+    takeBrackets();
+    takeUnit(before);
+    takeUnit(behind);
+    takeSign();
+    takeBrackets();
+    if (dressed.unit.isEmpty() && !dressed.inBrackets) return std::nullopt;
+    if (dressed.inBrackets) sign = QStringLiteral("-");
+    dressed.number = (sign + text).toUtf8();
+    return dressed;
+}
+
+void NumberStyleFinder::Look(const QByteArray& text) {
+    const std::optional<DressedNumber> dressed = IsMissing(text) ? std::nullopt : Undress(text);
+    const QByteArray& cell = dressed ? dressed->number : text;
     const bool asPoint = NumberOfCell(cell, {'.', ','}).has_value();
     const bool asComma = NumberOfCell(cell, {',', '.'}).has_value();
     if (asPoint && asComma) {
         mayHavePoint_ = mayHavePoint_ || cell.contains('.');
         mayHaveComma_ = mayHaveComma_ || cell.contains(',');
+        if (openCell_.isEmpty() && (cell.contains('.') || cell.contains(','))) openCell_ = cell.trimmed();
     } else {
         needsPoint_ = needsPoint_ || asPoint;
         needsComma_ = needsComma_ || asComma;

@@ -47,6 +47,14 @@ std::optional<QString> BoundName(const QString& folder, const QString& graphId) 
     return std::nullopt;
 }
 
+/// Raises what loading the look that is bound to a chart would raise.
+void RequireBoundLook(const QString& folder, const QString& graphId) {
+    const std::optional<QString> bound = BoundName(folder, graphId);
+    // One that was deleted behind the binding gives the default look.
+    if (bound && LookNames(folder).contains(*bound, Qt::CaseInsensitive))
+        CheckLook(ExportLook(folder, *bound));
+}
+
 /// Names the axes by the table where nobody named them: those of an XY chart are two of its columns.
 void NameAxes(ChosenLook& chosen, QJsonObject& look, const CommandLine& line, const Table& table) {
     if (MakesXYChart(look)) {
@@ -93,8 +101,7 @@ void Adapt(ChosenLook& chosen, const CommandLine& line, const Table& table) {
     chosen.look = QJsonDocument(look).toJson();
 }
 
-/// A stored look is the component's own matter, and so are its store's troubles, unless another kind of chart
-/// is asked for.
+/// A stored look is the component's own matter, unless another kind of chart is asked for.
 bool LoadsByItself(const CommandLine& line) {
     return !line.look && line.useConfigGiven && line.useConfig != 0 && !line.chartType;
 }
@@ -106,13 +113,20 @@ ChosenLook ChooseLook(const CommandLine& line, const QString& graphId, const Tab
                       .look = {},
                       .rowTitle = line.rowTitle.value_or(table.rowTitle),
                       .valueTitle = line.valueTitle};
-    if (LoadsByItself(line)) return chosen;
+    if (LoadsByItself(line)) {
+        // In a window the troubles of a store are told and the chart is shown. A picture, which nobody may
+        // look at for a long time, is made as it was asked for or not at all.
+        if (line.command != Command::Show) RequireBoundLook(line.configFolder.value_or(QString()), graphId);
+        if (chosen.valueTitle.isEmpty()) chosen.valueTitle = table.unit;
+        return chosen;
+    }
     chosen.look = FindLook(line, graphId);
     if (!chosen.look && line.chartType) chosen.look = QByteArrayLiteral("{}");
     chosen.useConfig = !chosen.look                                 ? 0
                        : line.useConfigGiven && line.useConfig != 0 ? line.useConfig
                                                                     : NoTitles();
     if (chosen.look) Adapt(chosen, line, table);
+    if (chosen.valueTitle.isEmpty()) chosen.valueTitle = table.unit;
     return chosen;
 }
 

@@ -1,9 +1,13 @@
 #include "qmchart/CommandLine.h"
 
+#include "qmchart/InputText.h"
+
+#include "qmchart6/Host.h"
 #include "qmchart6/Language.h"
 #include "qmchart6/QMChartArray.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 #include <array>
 #include <utility>
@@ -12,9 +16,16 @@ namespace QmChart6 {
 
 namespace {
 
+/// "en, pt or es".
+QString OneOf(QStringList words) {
+    const QString last = words.takeLast();
+    return words.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
+}
+
 void AddOptions(QCommandLineParser& parser) {
-    for (const char* name : {"id", "title", "row-title", "column-title", "value-title", "language", "config",
-                             "use-config", "separator", "look", "type", "size", "dpi", "as", "printer"})
+    for (const char* name :
+         {"id", "title", "row-title", "column-title", "value-title", "language", "config", "use-config",
+          "separator", "decimal", "encoding", "format", "look", "type", "size", "dpi", "as", "printer"})
         parser.addOption({QString::fromLatin1(name), QString(), QStringLiteral("value")});
     for (const char* name : {"no-header", "no-row-labels", "version"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
@@ -97,6 +108,45 @@ std::optional<char> SeparatorOf(const QCommandLineParser& parser) {
     return character.toLatin1();
 }
 
+std::optional<char> DecimalOf(const QCommandLineParser& parser) {
+    const std::optional<QString> given = Given(parser, "decimal");
+    if (!given) return std::nullopt;
+    if (*given == QLatin1String(".") || *given == QLatin1String("point")) return '.';
+    if (*given == QLatin1String(",") || *given == QLatin1String("comma")) return ',';
+    throw UsageError(
+        QStringLiteral("--decimal takes . or , (or the word point or comma), not \"%1\"").arg(*given));
+}
+
+QString EncodingOf(const QCommandLineParser& parser) {
+    const QString given = Given(parser, "encoding").value_or(QString()).toLower();
+    if (!parser.isSet(QStringLiteral("encoding")) || EncodingNames().contains(given)) return given;
+    throw UsageError(QStringLiteral("--encoding takes %1, not \"%2\"").arg(OneOf(EncodingNames()), given));
+}
+
+/// The endings of pictures that can be written, as a person reads them: ".bmp, .png or .emf".
+QString OneOfEndings() {
+    QStringList endings;
+    for (const QString& ending : PictureEndings()) endings.append(u'.' + ending);
+    return OneOf(endings);
+}
+
+/// Refuses a name that stands for no form of a picture.
+void RequirePicture(const CommandLine& line) {
+    if (line.command != Command::Save) return;
+    const bool toOutput = line.picture == QLatin1String("-");
+    if (!toOutput && !line.format.isEmpty())
+        throw UsageError(
+            QStringLiteral("--format goes with a picture that is -; the name of a file tells it"));
+    if (toOutput && !PictureEndings().contains(line.format))
+        throw UsageError(
+            QStringLiteral("a picture that goes to the standard output takes --format %1%2")
+                .arg(OneOf(PictureEndings()),
+                     line.format.isEmpty() ? QString() : QStringLiteral(", not \"%1\"").arg(line.format)));
+    if (!toOutput && !PictureEndings().contains(QFileInfo(line.picture).suffix().toLower()))
+        throw UsageError(QStringLiteral("\"%1\" is no picture that can be written; its name ends in %2")
+                             .arg(line.picture, OneOfEndings()));
+}
+
 std::optional<QString> FolderOf(const QCommandLineParser& parser) {
     const std::optional<QString> folder = Given(parser, "config");
     if (!folder) return std::nullopt;
@@ -175,8 +225,7 @@ void ReadOperands(const QStringList& operands, CommandLine& line) {
     if (line.table.isEmpty()) throw UsageError(QStringLiteral("the table's file name is empty"));
     if (line.command != Command::Save) return;
     line.picture = operands[2];
-    if (line.picture.isEmpty() || line.picture == QLatin1String("-"))
-        throw UsageError(QStringLiteral("save writes a file; its name is missing"));
+    if (line.picture.isEmpty()) throw UsageError(QStringLiteral("save writes a file; its name is missing"));
 }
 
 std::optional<QString> PrinterOf(const QCommandLineParser& parser, Command command) {
@@ -194,14 +243,12 @@ void RefuseStrayOptions(const CommandLine& line) {
     if (!makesChart && (line.look || line.size || line.dpi || line.chartType))
         throw UsageError(
             QStringLiteral("--look, --type, --size and --dpi go with show, save and print only"));
+    if (!makesChart && (line.decimal || !line.encoding.isEmpty()))
+        throw UsageError(QStringLiteral("--decimal and --encoding go with show, save and print only"));
+    if (line.command != Command::Save && !line.format.isEmpty())
+        throw UsageError(QStringLiteral("--format goes with save only"));
     if (line.importName && line.operands.value(0) != QLatin1String("import"))
         throw UsageError(QStringLiteral("--as goes with config import only"));
-}
-
-/// "en, pt or es".
-QString OneOf(QStringList words) {
-    const QString last = words.takeLast();
-    return words.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
 }
 
 } // namespace
@@ -211,6 +258,8 @@ QString AsFolder(const QString& folder) {
 }
 
 UsageError::UsageError(const QString& text) : std::runtime_error(text.simplified().toStdString()) {}
+
+PartlyDone::PartlyDone(const QString& text) : std::runtime_error(text.toStdString()) {}
 
 CommandLine ParseCommandLine(const QStringList& arguments) {
     QCommandLineParser parser;
@@ -238,7 +287,11 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.size = SizeOf(parser);
     line.dpi = DpiOf(parser);
     line.importName = Given(parser, "as");
+    line.decimal = DecimalOf(parser);
+    line.encoding = EncodingOf(parser);
+    line.format = Given(parser, "format").value_or(QString()).toLower();
     RefuseStrayOptions(line);
+    RequirePicture(line);
     line.separator = SeparatorOf(parser);
     line.hasHeader = !parser.isSet(QStringLiteral("no-header"));
     line.hasRowLabels = !parser.isSet(QStringLiteral("no-row-labels"));
@@ -257,8 +310,8 @@ QString HelpText() {
 
 TABLE is a file of separated values, or - for the standard input: one row to a category, one column to a
 series, as a rule with labels in the first line and the first column. Missing values are empty, NA, N/A, NaN,
-null or -. PICTURE's ending tells its format: .bmp, .png, .svg, .pdf, otherwise a metafile (EMF);
-name@2x.png has twice the pixels.
+null or -. The numbers of a column may all bear a unit (45%, 12 €), and (12) is -12. PICTURE's ending tells its
+format: .bmp, .png, .svg, .pdf or .emf; name@2x.png has twice the pixels, - is the standard output.
 
 Options:
   --id TEXT               the chart's graph id (default: the table's name)
@@ -275,6 +328,9 @@ Options:
   --size WIDTHxHEIGHT     the chart's size in pixels (default: as the look's window has it)
   --dpi NUMBER            the pixels to an inch, which letters and lines are drawn for (default: 96)
   --separator CHARACTER   what separates the cells, or the word tab (default: found out)
+  --decimal CHARACTER     . or , where the table alone does not tell (default: found out)
+  --encoding ENCODING     %2 (default: UTF-8, or UTF-16 by its mark)
+  --format FORM           of a picture that is -: %3
   --printer NAME          print: the printer (default: the system's)
   --no-header             the first line is numbers already
   --no-row-labels         the first column is numbers already
@@ -282,7 +338,7 @@ Options:
   --version               the version
 
 Commands of config:
-  init FOLDER             make the empty store in a folder, or in a database that is there
+  init FOLDER             make the empty store in a folder, which is made too, or in a database that is there
   upgrade FOLDER          make a place in an older store for what looks say in "Beyond"
   list                    the looks' names
   show NAME               a look as JSON
@@ -290,13 +346,13 @@ Commands of config:
   bind ID NAME            bind a graph id to a look
   bindings                the graph ids and their looks, a tab between
   copy FROM TO            copy a whole store into another that is there
-  export NAME LOOK.json   write a look to a file
+  export NAME LOOK.json   write a look to a file, or to - for the standard output
   import LOOK.json        store a look from a file, or from - for the standard input
     --as NAME             under this name (default: the one in the file)
 
 Exit status: 0 done, 1 failed, 2 not understood.
 )")
-        .arg(OneOf(LanguageCodes()));
+        .arg(OneOf(LanguageCodes()), OneOf(EncodingNames()), OneOf(PictureEndings()));
 }
 
 } // namespace QmChart6

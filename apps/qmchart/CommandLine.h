@@ -16,7 +16,7 @@ enum class Command { Help, Version, Show, Save, Print, Printers, Looks, Config }
 struct CommandLine {
     Command command = Command::Help;
     QString table;   ///< a file, or "-" for the standard input
-    QString picture; ///< Save only
+    QString picture; ///< Save only: a file, or "-" for the standard output
     std::optional<QString> printer;
     std::optional<QString> id;
     std::optional<QString> title;
@@ -34,6 +34,9 @@ struct CommandLine {
     QStringList operands;         ///< Config only: its command, and what that takes
     std::optional<QString> importName; ///< what an imported look is called
     std::optional<char> separator;
+    std::optional<char> decimal; ///< '.' or ','
+    QString encoding;            ///< one of EncodingNames(); "" where none is given
+    QString format;              ///< of a picture that goes to the standard output: an ending
     bool hasHeader = true;
     bool hasRowLabels = true;
 };
@@ -42,6 +45,12 @@ struct CommandLine {
 class UsageError : public std::runtime_error {
 public:
     explicit UsageError(const QString& text);
+};
+
+/// Some of what was asked for was done and told of; the text is what is to be printed.
+class PartlyDone : public std::runtime_error {
+public:
+    explicit PartlyDone(const QString& text);
 };
 
 /// Understands the arguments, the program's own name first. Raises UsageError. Needs no application object.

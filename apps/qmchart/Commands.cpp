@@ -10,8 +10,12 @@
 #include "qmchart6/Looks.h"
 #include "qmchart6/QMChartArray.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <cstdio>
 
 namespace QmChart6 {
 
@@ -30,9 +34,13 @@ TitledTable ReadTitledTable(const CommandLine& line) {
     const QString baseName = QFileInfo(line.table).completeBaseName();
     TitledTable titled;
     titled.table = ReadTable(ReadInput(line.table), {.fileName = line.table,
+                                                     .encoding = line.encoding,
+                                                     .decimal = line.decimal,
                                                      .separator = line.separator,
                                                      .hasHeader = line.hasHeader,
                                                      .hasRowLabels = line.hasRowLabels});
+    for (const QString& warning : titled.table.warnings)
+        std::fprintf(stderr, "qmchart: %s\n", OnOneLine(warning).toUtf8().constData());
     titled.id = line.id.value_or(named ? baseName : QStringLiteral("stdin"));
     titled.title = line.title.value_or(named ? PresentableTitle(baseName) : QString());
     titled.look = ChooseLook(line, titled.id, titled.table);
@@ -66,15 +74,29 @@ QString Show(const CommandLine& line) {
     return {};
 }
 
+/// A program that reads pictures takes them whole.
+void WriteToOutput(const QString& fileName) {
+    QFile file(fileName);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (size == 0 || std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        throw RuntimeError(ErrorNumber::PathFileAccess,
+                           QStringLiteral("the standard output cannot be written to"));
+}
+
 QString Save(const CommandLine& line) {
     const TitledTable titled = ReadTitledTable(line);
     const Table& table = titled.table;
-    QString picture = line.picture;
+    const bool toOutput = line.picture == QLatin1String("-");
+    const QTemporaryDir folder;
+    QString picture = toOutput ? folder.filePath(QStringLiteral("picture.") + line.format) : line.picture;
     Charts(line, titled)
         .QmSaveGraph(titled.id, table.rows, table.columns, table.values, table.rowLabels, table.columnLabels,
                      titled.title, titled.look.rowTitle, line.columnTitle, titled.look.valueTitle,
                      titled.look.useConfig, picture);
-    return picture + u'\n';
+    if (!toOutput) return picture + u'\n';
+    WriteToOutput(picture);
+    return {};
 }
 
 /// Nobody is asked: a command that prints is one that a script runs.

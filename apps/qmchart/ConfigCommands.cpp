@@ -4,6 +4,7 @@
 
 #include "qmchart6/Looks.h"
 
+#include <QDir>
 #include <QSaveFile>
 
 #include <cstdio>
@@ -19,8 +20,16 @@ const QString& Store(const CommandLine& line) {
     return *line.configFolder;
 }
 
+/// A place on a server is no folder.
+void MakeFolder(const QString& folder) {
+    if (folder.contains(QLatin1String("://")) || QDir().mkpath(folder)) return;
+    throw RuntimeError(ErrorNumber::PathFileAccess,
+                       QStringLiteral("the folder \"%1\" cannot be made").arg(folder));
+}
+
 QString Init(const CommandLine& line) {
     const QString folder = AsFolder(line.operands[0]);
+    MakeFolder(folder);
     CreateLookStore(folder);
     return QStringLiteral("made %1QmConfig.mdb\n").arg(folder);
 }
@@ -72,11 +81,18 @@ QString Copy(const CommandLine& line) {
     const QString to = AsFolder(line.operands[1]);
     const CopiedStore copied = CopyLookStore(AsFolder(line.operands[0]), to);
     WarnOfValuesNotKept(copied.ValuesNotKept, to);
-    return QStringLiteral("copied %1 looks and %2 bindings\n").arg(copied.Looks).arg(copied.Bindings);
+    const QString text =
+        QStringLiteral("copied %1 looks and %2 bindings\n").arg(copied.Looks).arg(copied.Bindings);
+    for (const UncopiedLook& one : copied.LeftOut)
+        std::fprintf(stderr, "qmchart: left out \"%s\": %s\n", OnOneLine(one.Name).toUtf8().constData(),
+                     OnOneLine(one.Reason).toUtf8().constData());
+    if (!copied.LeftOut.isEmpty()) throw PartlyDone(text);
+    return text;
 }
 
 QString Export(const CommandLine& line) {
     const QByteArray look = ExportLook(Store(line), line.operands[0]);
+    if (line.operands[1] == QLatin1String("-")) return QString::fromUtf8(look);
     QSaveFile file(line.operands[1]);
     if (!file.open(QIODevice::WriteOnly) || file.write(look) != look.size() || !file.commit())
         throw RuntimeError(

@@ -26,7 +26,11 @@ public:
     }
     bool Finish() { return csv_fini(&parser_, &EndCell, &EndRecord, this) == 0 || !Failed(); }
 
-    [[nodiscard]] int Line() const { return line_; }
+    /// What there is, and where the cell begins that is being read.
+    [[nodiscard]] CsvRecords Malformed() {
+        return {std::move(records), open_.cells.isEmpty() ? nextRecordLine_ : cellLine_,
+                open_.cells.size() + 1};
+    }
     QList<CsvRecord> records;
 
 private:
@@ -37,6 +41,7 @@ private:
     static void EndCell(void* text, std::size_t size, void* self) noexcept {
         auto* const parser = static_cast<Parser*>(self);
         parser->open_.cells.append(QByteArray(static_cast<const char*>(text), static_cast<qsizetype>(size)));
+        parser->cellLine_ = parser->line_;
     }
     static void EndRecord(int /*character*/, void* self) noexcept {
         auto* const parser = static_cast<Parser*>(self);
@@ -50,6 +55,7 @@ private:
     CsvRecord open_;
     int line_ = 0;
     int nextRecordLine_ = 1;
+    int cellLine_ = 1; ///< where the next cell of a record begins
 
 public:
     /// An empty line is no record: the next one begins behind it.
@@ -81,11 +87,11 @@ CsvRecords ReadCsvRecords(const QByteArray& text, char separator, qsizetype most
         if (empty && parser.BetweenRecords())
             parser.PassOverEmptyLine();
         else if (!parser.Take(text.constData() + start, end - start))
-            return {std::move(parser.records), parser.Line()};
+            return parser.Malformed();
         start = end;
     }
     const bool complete = parser.records.size() >= mostRecords || parser.Finish();
-    return {std::move(parser.records), complete ? 0 : parser.Line()};
+    return complete ? CsvRecords{std::move(parser.records)} : parser.Malformed();
 }
 
 } // namespace QmChart6

@@ -11,10 +11,12 @@ struct CsvRecord {
     QList<QByteArray> cells;
 };
 
-/// What was read of a text, and where its quoting is wrong (0: nowhere); nothing from there on is read.
+/// What was read of a text, and where the cell begins whose quoting is wrong (line 0: nowhere); nothing from
+/// there on is read.
 struct CsvRecords {
     QList<CsvRecord> records;
     int malformedLine = 0;
+    qsizetype malformedColumn = 0; ///< from 1
 };
 
 /// Takes comma-separated values apart, or those separated by another character, an ASCII one and not a quote.

@@ -4,6 +4,8 @@
 #include <QMap>
 #include <QStringList>
 
+#include <utility>
+
 namespace QmChart6 {
 
 namespace {
@@ -94,6 +96,23 @@ void DropTitles(QJsonObject& look) {
     look.insert(Name("Axes"), axes);
 }
 
+/// A list's records with the numbers that they have by their places.
+QJsonArray Numbered(const QString& list, const QJsonArray& records) {
+    static const QMap<QString, std::pair<QString, int>> numbers{{Name("Axes"), {Name("AxisId"), 0}},
+                                                                {Name("Series"), {Name("SeriesId"), 1}},
+                                                                {Name("Columns"), {Name("ColumnId"), 1}}};
+    const auto number = numbers.find(list);
+    if (number == numbers.end()) return records;
+    QJsonArray numbered;
+    for (qsizetype place = 0; place < records.size(); ++place) {
+        QJsonObject record = records[place].toObject();
+        if (!record.contains(number->first))
+            record.insert(number->first, static_cast<int>(place) + number->second);
+        numbered.append(record);
+    }
+    return numbered;
+}
+
 /// What a record of a list is known by: the number of its axis, column or series, or, of what a look says
 /// beyond those, the element and the field. Without any it is that of its place. What is said of all elements
 /// comes before what is said of one.
@@ -154,8 +173,8 @@ QJsonObject CompletedBy(const QJsonObject& look, const QJsonObject& other) {
     // Whoever says whether there is a legend has decided on it.
     if (look.contains(Name("Legend"))) DropLegend(complete);
     for (auto field = look.begin(); field != look.end(); ++field) {
-        const QJsonArray mine = field.value().toArray();
-        const QJsonArray theirs = other.value(field.key()).toArray();
+        const QJsonArray mine = Numbered(field.key(), field.value().toArray());
+        const QJsonArray theirs = Numbered(field.key(), other.value(field.key()).toArray());
         complete.insert(field.key(), mine.isEmpty() || theirs.isEmpty()
                                          ? field.value()
                                          : QJsonValue(CompletedRecords(mine, theirs)));

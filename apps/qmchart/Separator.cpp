@@ -3,6 +3,9 @@
 #include "qmchart/CellNumber.h"
 #include "qmchart/CsvRecords.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
 #include <array>
 #include <tuple>
 
@@ -24,9 +27,15 @@ struct Fit {
     }
 };
 
-bool IsNumber(const QByteArray& cell, char separator) {
+bool IsPlainNumber(const QByteArray& cell, char separator) {
     return IsMissing(cell) || NumberOfCell(cell, {'.', ','}) ||
            (separator != ',' && NumberOfCell(cell, {',', '.'}));
+}
+
+bool IsNumber(const QByteArray& cell, char separator) {
+    if (IsPlainNumber(cell, separator)) return true;
+    const std::optional<DressedNumber> dressed = Undress(cell);
+    return dressed && IsPlainNumber(dressed->number, separator);
 }
 
 Fit FitOf(const CsvRecords& table, char separator, bool hasHeader, bool hasRowLabels) {
@@ -51,6 +60,16 @@ Fit FitOf(const CsvRecords& table, char separator, bool hasHeader, bool hasRowLa
 }
 
 } // namespace
+
+DeclaredSeparator TakeDeclaredSeparator(const QByteArray& text) {
+    static const QRegularExpression line(QStringLiteral("^\"?sep=([^\"\r\n])\"?(?=[\r\n]|$)"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    constexpr qsizetype LongestLine = 16;
+    const QRegularExpressionMatch match =
+        line.match(QString::fromLatin1(text.first(std::min(text.size(), LongestLine))));
+    if (!match.hasMatch()) return {text, std::nullopt};
+    return {text.sliced(match.capturedLength()), match.captured(1).front().toLatin1()};
+}
 
 char FindSeparator(const QByteArray& text, const QString& fileName, bool hasHeader, bool hasRowLabels) {
     if (fileName.endsWith(QLatin1String(".tsv"), Qt::CaseInsensitive)) return '\t';

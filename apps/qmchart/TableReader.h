@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <optional>
@@ -12,7 +13,9 @@ namespace QmChart6 {
 
 /// A table of numbers as QMChartArray takes it.
 struct Table {
-    QString rowTitle; ///< what the rows are: the header's first cell, above the row labels
+    QString unit;         ///< that all its numbers are written with, such as "%"; "" for none
+    QStringList warnings; ///< of what was read all the same
+    QString rowTitle;     ///< what the rows are: the header's first cell, above the row labels
     std::int16_t rows = 0;
     std::int16_t columns = 0;
     Array<QString> rowLabels;
@@ -22,16 +25,21 @@ struct Table {
 
 /// How a table is laid out.
 struct TableLayout {
-    QString fileName = {};              ///< its ending .tsv tells the separator
+    QString fileName = {};              ///< its ending .tsv tells the separator; messages name it
+    QString encoding = {};              ///< as --encoding takes it; "" for UTF-8, or UTF-16 by its mark
+    std::optional<char> decimal = {};   ///< '.' or ','; found out where not given
     std::optional<char> separator = {}; ///< found out where not given
     bool hasHeader = true;
     bool hasRowLabels = true;
 };
 
-/// Reads a table of separated values, RFC 4180 quoting; labels that it does not have are numbers from 1. Rows
-/// may be short, and lines without any text at the end do not count. Raises 13 (a cell that is no number,
-/// with line, column and text), 380 (more than 32,767 rows or columns) or 5 (no such table: nothing in it,
-/// wrong quoting, not UTF-8 or UTF-16 text, a row longer than the header; with the line).
+/// Reads a table of separated values, RFC 4180 quoting; labels that it does not have are numbers from 1. A
+/// first line "sep=;" names the separator. Rows may be short, which is warned of, and lines without any text
+/// at the end do not count. The numbers of a column may all have a unit, and be in brackets where negative.
+/// Raises 13 (a cell that is no number, or one unlike the others of its column, with file, line, column and
+/// text), 380 (more than 32,767 rows or columns) or 5 (no such table: nothing in it, wrong quoting, not the
+/// text that it should be, a row longer than the header, numbers that can be read in two ways; with the
+/// place).
 Table ReadTable(const QByteArray& bytes, const TableLayout& layout);
 
 } // namespace QmChart6

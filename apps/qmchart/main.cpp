@@ -10,10 +10,22 @@ namespace {
 
 enum Exit : int { Done = 0, Failed = 1, NotUnderstood = 2 };
 
-/// A message is one line, whatever a file name in it holds.
+/// A message is one line and whole, whatever a file name or a cell in it holds.
 void PrintError(QString message) {
-    message.replace(u'\n', u' ').replace(u'\r', u' ');
+    for (QChar& letter : message)
+        if (letter == u'\n' || letter == u'\r')
+            letter = u' ';
+        else if (letter.category() == QChar::Other_Control)
+            letter = QChar::ReplacementCharacter;
     std::fprintf(stderr, "%s\n", message.toUtf8().constData());
+}
+
+/// Number 5 has a sentence that says nothing to whoever wrote the table or the command; the detail does.
+QString Told(const RuntimeError& error) {
+    const RuntimeError bare(ErrorNumber::InvalidProcedureCall);
+    const QString sentence = bare.Message() + QStringLiteral(": ");
+    if (!error.Message().startsWith(sentence)) return error.Message();
+    return QStringLiteral("Error %1: ").arg(bare.Number()) + error.Message().sliced(sentence.size());
 }
 
 int Print(const QString& text) {
@@ -40,13 +52,14 @@ int main(int count, char* arguments[]) {
     } catch (const UsageError& error) {
         PrintError(QStringLiteral("qmchart: %1 (see qmchart --help)").arg(QString::fromUtf8(error.what())));
         return NotUnderstood;
+    } catch (const PartlyDone& done) {
+        (void)Print(QString::fromUtf8(done.what()));
     } catch (const RuntimeError& error) {
-        PrintError(error.Message());
+        PrintError(Told(error));
     } catch (const std::bad_alloc&) {
         PrintError(QStringLiteral("Error 7: Out of memory"));
     } catch (const std::exception& error) {
-        PrintError(
-            RuntimeError(ErrorNumber::InvalidProcedureCall, QString::fromUtf8(error.what())).Message());
+        PrintError(Told(RuntimeError(ErrorNumber::InvalidProcedureCall, QString::fromUtf8(error.what()))));
     }
     return Failed;
 }

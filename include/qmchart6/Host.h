@@ -27,6 +27,11 @@ QMCHART6_EXPORT void PumpEvents(int milliseconds);
 /// first, QmMakeGraph decides between none and two for all charts that follow.
 QMCHART6_EXPORT void SetFormatsFollowData(bool on);
 
+// For hosts that save pictures.
+
+/// The endings of file names that tell a picture's form, without their dots. Any other ending makes an emf.
+QMCHART6_EXPORT QStringList PictureEndings();
+
 // For hosts that print.
 
 /// The names of all printers, in the system's order.

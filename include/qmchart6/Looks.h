@@ -40,22 +40,32 @@ QMCHART6_EXPORT void BindGraph(const QString& folder, const QString& graphId, co
 /// A look as JSON: the fields of the tables by their names, those of its columns, series and axes in the
 /// lists "Columns", "Series" and "Axes"; what it says beyond them in the list "Beyond", where there is any.
 QMCHART6_EXPORT QByteArray ExportLook(const QString& folder, const QString& name);
-/// Stores a look that is given as JSON under a name, "" for the one that is in it, and gives that name. Any
-/// field may be left out and is as in the default look. Raises 321 (no JSON of this form, or no name), 3265
-/// (a name that no look has), 13 and 6 (a value that its field cannot hold), 380 (a number that means
-/// nothing), 3022 (the same said twice); then nothing was stored. `valuesNotKept`, if not null, is set to the
-/// number of values beyond the fields that a store without a place for them did not keep.
+/// Stores a look that is given as JSON under a name, "" for the one that is in it, and gives that name; one
+/// of that name that is there already is replaced whole. Any field may be left out and is as in the default
+/// look. Raises 321 (no JSON of this form, or no name), 3265 (a name that no look has), 13 and 6 (a value
+/// that its field cannot hold), 380 (a number that means nothing), 3022 (the same said twice); then nothing
+/// was stored. `valuesNotKept`, if not null, is set to the number of values beyond the fields that a store
+/// without a place for them did not keep.
 QMCHART6_EXPORT QString ImportLook(const QString& folder, const QByteArray& look, const QString& name = {},
                                    int* valuesNotKept = nullptr);
 
+/// A look that was not copied, and why.
+struct UncopiedLook {
+    QString Name;
+    QString Reason;
+};
 struct CopiedStore {
     int Looks = 0;
     int Bindings = 0;
     int ValuesNotKept = 0; ///< beyond the fields, where the other store has no place for them
+    QList<UncopiedLook> LeftOut;
 };
-/// Copies all looks and bindings into another store that is there already, in place of those of the same
-/// names.
+/// Copies all looks and bindings into another store that is there already, look by look: each is there whole,
+/// in place of one of the same name, or left out with the bindings to it. Raises 5 for a store and itself.
 QMCHART6_EXPORT CopiedStore CopyLookStore(const QString& from, const QString& to);
+
+/// Raises what ImportLook would of a look, and stores nothing.
+QMCHART6_EXPORT void CheckLook(const QByteArray& look);
 
 /// From now on the chart of this graph id gets this look, given as JSON, whenever it is made with QmChYes or
 /// QmChNoTitles, whatever is stored for it. Raises as ImportLook.

@@ -2,6 +2,7 @@
 
 #include "automation/ViewerList.h"
 #include "chart/ValueLabelFormat.h"
+#include "chartcontrol/paint/PictureFormat.h"
 #include "desktop/Application.h"
 
 #include <QCoreApplication>
@@ -29,6 +30,10 @@ void RunUntilViewersAreClosed() {
 void SetFormatsFollowData(bool on) {
     RequireFirstThread();
     LetFormatsFollowData(on);
+}
+
+QStringList PictureEndings() {
+    return PictureExtensions();
 }
 
 void PumpEvents(int milliseconds) {

@@ -5,6 +5,7 @@
 #include "config/Catalogue.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
+#include "config/CopyLooks.h"
 #include "config/LookJson.h"
 #include "config/LookOverride.h"
 #include "config/StoredLook.h"
@@ -126,17 +127,21 @@ QString ImportLook(const QString& folder, const QByteArray& look, const QString&
                                .arg(QLatin1String(LookNameField)));
     const Look complete = Complete(named.look);
     Database database(StoreOf(folder), ConfigurationSchema());
-    StoredLook stored(database, kept);
-    Database::Writing writing(database, QLatin1String(BindingsTable));
-    CopyLook(complete, stored);
-    writing.Finish();
-    if (valuesNotKept != nullptr) *valuesNotKept = stored.ValuesNotKept();
+    const int notKept = WriteWholeLook(database, kept, complete);
+    if (valuesNotKept != nullptr) *valuesNotKept = notKept;
     return kept;
 }
 
 CopiedStore CopyLookStore(const QString& from, const QString& to) {
     const CopiedLooks copied = CopyLooks(StoreOf(from), StoreOf(to));
-    return {copied.looks, copied.bindings, copied.valuesNotKept};
+    CopiedStore told{copied.looks, copied.bindings, copied.valuesNotKept, {}};
+    for (const LookLeftOut& one : copied.leftOut) told.LeftOut.append({one.name, one.reason});
+    return told;
+}
+
+void CheckLook(const QByteArray& look) {
+    RequireFirstThread();
+    (void)Complete(ReadLookJson(look).look);
 }
 
 void UseLook(const QString& graphId, const QByteArray& look) {

@@ -22,46 +22,12 @@ Recordset OpenBindings(Database& database) {
     return database.OpenRecordset(QLatin1String(BindingsTable));
 }
 
-/// Copies what the looks of one database say beyond the fields of their tables, in place of what they said in
-/// the other, and gives the number of values that found no place there.
-int CopyExtras(Database& from, Database& to) {
-    StoredExtras source(from);
-    StoredExtras target(to);
-    int notKept = 0;
-    Recordset looks = from.OpenRecordset(ChartLook().name);
-    looks.SetIndex(QLatin1String(PrimaryKeyName));
-    for (; !looks.EndOfFile(); looks.MoveNext()) {
-        const QString name = TextOf(looks, LookNameField);
-        const Extras extras = source.Read(name);
-        if (!target.IsThere()) notKept += static_cast<int>(extras.size());
-        target.Replace(name, extras);
-    }
-    return notKept;
-}
-
-/// Copies the records of one table and gives their number.
-int CopyTable(Database& from, Database& to, const TableDescription& table) {
-    Recordset source = from.OpenRecordset(table.name);
-    Recordset target = to.OpenRecordset(table.name);
-    int count = 0;
-    source.SetIndex(QLatin1String(PrimaryKeyName));
-    for (; !source.EndOfFile(); source.MoveNext()) {
-        std::vector<FieldValue> key;
-        for (const QString& field : table.PrimaryKey().fields) key.push_back(source.Value(field));
-        SeekByKey(target, key);
-        if (target.NoMatch())
-            target.AddNew();
-        else
-            target.Edit();
-        for (const FieldDescription& field : table.fields)
-            target.SetValue(field.name, source.Value(field.name));
-        target.Update();
-        ++count;
-    }
-    return count;
-}
-
 } // namespace
+
+QString TableOfTurns(Database& database) {
+    const bool isThere = database.OpenRecordsetIfThere(QLatin1String(BindingsTable)).has_value();
+    return isThere ? QLatin1String(BindingsTable) : ChartLook().name;
+}
 
 void BindLook(Database& database, const QString& graphId, const QString& name) {
     Recordset bindings = OpenBindings(database);
@@ -134,23 +100,6 @@ void ListLooks(const QString& location, QStringList& names) {
     if (looks.RecordCount() == 0) return;
     looks.SetIndex(QLatin1String(PrimaryKeyName));
     for (; !looks.EndOfFile(); looks.MoveNext()) names.append(TextOf(looks, LookNameField));
-}
-
-CopiedLooks CopyLooks(const QString& from, const QString& to) {
-    Database source(from, ConfigurationSchema());
-    Database target(to, ConfigurationSchema());
-    const Database::Reading reading(source);
-    Database::Writing writing(target, QLatin1String(BindingsTable));
-    CopiedLooks copied;
-    for (const TableDescription& table : ConfigurationSchema()) {
-        if (table.name == QLatin1String(ExtrasTable)) continue;
-        const int count = CopyTable(source, target, table);
-        if (table.name == QLatin1String(BindingsTable)) copied.bindings = count;
-        if (table.name == ChartLook().name) copied.looks = count;
-    }
-    copied.valuesNotKept = CopyExtras(source, target);
-    writing.Finish();
-    return copied;
 }
 
 } // namespace QmChart6

@@ -32,13 +32,7 @@ void DeleteLook(const QString& location, const QString& name);
 /// The names of all looks in key order, added to `names` one by one.
 void ListLooks(const QString& location, QStringList& names);
 
-struct CopiedLooks {
-    int looks = 0;
-    int bindings = 0;
-    int valuesNotKept = 0; ///< beyond the fields of the looks' tables, where the other has no place for them
-};
-/// Copies all looks and bindings into another database that is there already. A look of the same name is
-/// replaced record by record, what it says beyond its tables as a whole.
-CopiedLooks CopyLooks(const QString& from, const QString& to);
+/// The table that writers take turns at: that of the bindings, or the looks' own where a database lacks it.
+QString TableOfTurns(Database& database);
 
 } // namespace QmChart6

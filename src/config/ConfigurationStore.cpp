@@ -70,7 +70,7 @@ int Save(Viewer& viewer, std::optional<RuntimeError>& notBound) {
     Database database(ConfigurationFileName(), ConfigurationSchema());
     const QString name = viewer.QmConfig();
     StoredLook look(database, name);
-    Database::Writing writing(database, QLatin1String(BindingsTable));
+    Database::Writing writing(database, TableOfTurns(database));
     try {
         BindLook(database, viewer.GraphId(), name);
     } catch (const RuntimeError& error) {

@@ -25,11 +25,13 @@ LookField Component(const std::string& name, const std::function<std::uint8_t&(P
 } // namespace
 
 std::vector<LookField> ColourFields(const char* prefix, const std::function<Colour&(Part)>& colour) {
-    return {
+    std::vector<LookField> fields{
         Component(Name(prefix, "Red"), [colour](Part part) -> auto& { return colour(part).Red; }),
         Component(Name(prefix, "Green"), [colour](Part part) -> auto& { return colour(part).Green; }),
         Component(Name(prefix, "Blue"), [colour](Part part) -> auto& { return colour(part).Blue; }),
     };
+    fields.front().together = static_cast<int>(fields.size());
+    return fields;
 }
 
 std::vector<LookField> RectFields(const char* prefix, const std::function<CoordinateRect&(Part)>& rect) {

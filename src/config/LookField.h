@@ -43,6 +43,7 @@ struct LookField {
     std::function<FieldValue(const LookPart&)> get;
     std::function<void(const LookPart&, const FieldValue&)> set;
     Step step = Step::Texts; ///< of a field of the whole look
+    int together = 1;        ///< so many fields, from this one on, are given as one or not at all
     bool isTitle = false;    ///< a text of the data, which a load without titles leaves alone
 };
 

@@ -80,8 +80,9 @@ void ReadRecord(const QJsonObject& object, const LookTable& table, int number, L
 int NumberOf(const QJsonObject& object, const LookTable& table, int place) {
     const bool axes = &table == &AxesLook();
     const QJsonValue given = object.value(table.numberField);
-    if (given.isUndefined()) return axes ? place : place + 1;
-    const int number = std::get<std::int16_t>(FromJson(given, FieldKind::Integer, table.numberField));
+    const int number = given.isUndefined()
+                           ? (axes ? place : place + 1)
+                           : std::get<std::int16_t>(FromJson(given, FieldKind::Integer, table.numberField));
     if (number < (axes ? 0 : 1) || (axes && number > LastAxis))
         throw RuntimeError(
             ErrorNumber::InvalidPropertyValue,

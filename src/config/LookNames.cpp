@@ -1,15 +1,15 @@
 #include "config/LookNames.h"
 
-#include <algorithm>
-
 namespace QmChart6 {
 
+QString FoldedName(QString name) {
+    for (QChar& letter : name)
+        if (letter >= u'A' && letter <= u'Z') letter = QChar(letter.unicode() + (u'a' - u'A'));
+    return name;
+}
+
 bool EqualNames(const QString& a, const QString& b) {
-    const auto fold = [](QChar letter) {
-        return letter >= u'A' && letter <= u'Z' ? QChar(letter.unicode() + (u'a' - u'A')) : letter;
-    };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [fold](QChar one, QChar other) { return fold(one) == fold(other); });
+    return FoldedName(a) == FoldedName(b);
 }
 
 } // namespace QmChart6

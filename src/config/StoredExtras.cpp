@@ -42,6 +42,16 @@ Extras StoredExtras::Read(const QString& name) {
     return extras;
 }
 
+void StoredExtras::ForEach(const std::function<void(const QString& name, const ReadOne& read)>& action) {
+    if (!records_) return;
+    records_->SetIndex(QLatin1String(PrimaryKeyName));
+    for (; !records_->EndOfFile(); records_->MoveNext())
+        action(TextIn(*records_, LookNameField), [this]() -> std::pair<const ExtraKey, ExtraValue> {
+            const ExtraKey key = KeyIn(*records_);
+            return {key, ExtraOfText(key, TextIn(*records_, ExtraValueField))};
+        });
+}
+
 void StoredExtras::Replace(const QString& name, const Extras& extras) {
     Delete(name);
     if (!records_) return;

@@ -3,7 +3,9 @@
 #include "config/LookExtras.h"
 #include "database/Database.h"
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace QmChart6 {
 
@@ -18,6 +20,10 @@ public:
 
     /// Raises as ExtraKeyOf and ExtraOfText what no program has stored.
     [[nodiscard]] Extras Read(const QString& name);
+    /// Goes through those of all looks: `action` gets a look's name, and a function that gives the value with
+    /// its key and raises as Read.
+    using ReadOne = std::function<std::pair<const ExtraKey, ExtraValue>()>;
+    void ForEach(const std::function<void(const QString& name, const ReadOne& read)>& action);
     void Replace(const QString& name, const Extras& extras);
     void Delete(const QString& name);
 

@@ -1,5 +1,6 @@
 #include "config/StoredLook.h"
 
+#include "config/Catalogue.h"
 #include "config/ConfigurationSchema.h"
 #include "config/LookNames.h"
 
@@ -67,6 +68,35 @@ std::vector<int> NumbersOf(Database& database, const LookTable& table, const QSt
 }
 
 } // namespace
+
+namespace {
+
+int ReplaceLook(Database& database, const QString& name, const Look& look) {
+    StoredLook stored(database, name);
+    for (const LookTable* table : LookTables()) {
+        if (table->numberField.isEmpty()) continue;
+        Recordset records = database.OpenRecordset(table->name);
+        records.SetIndex(QLatin1String(LookIndexName));
+        for (records.Seek({name}); !records.NoMatch(); records.Seek({name})) records.Delete();
+    }
+    CopyLook(look, stored);
+    return stored.ValuesNotKept();
+}
+
+} // namespace
+
+int WriteWholeLook(Database& database, const QString& name, const Look& look) {
+    Database::Writing writing(database, TableOfTurns(database));
+    int notKept = 0;
+    try {
+        notKept = ReplaceLook(database, name, look);
+    } catch (...) {
+        writing.TakeBack();
+        throw;
+    }
+    writing.Finish();
+    return notKept;
+}
 
 Look ReadLook(Database& database, const QString& name) {
     StoredLook stored(database, name);

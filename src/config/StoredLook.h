@@ -33,6 +33,10 @@ private:
     int notKept_ = 0;
 };
 
+/// Makes the look of that name this one, whole or, where that fails, not at all: what there was of it and is
+/// not in this one goes. Gives how many values beyond the fields of its tables the database has no place for.
+int WriteWholeLook(Database& database, const QString& name, const Look& look);
+
 /// The whole look of that name as it is stored; empty where there is none.
 Look ReadLook(Database& database, const QString& name);
 

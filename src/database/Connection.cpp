@@ -139,7 +139,23 @@ void Connection::BeginReading() {
 
 void Connection::Commit() {
     writing_ = false;
-    Execute(QStringLiteral("COMMIT"));
+    try {
+        Execute(QStringLiteral("COMMIT"));
+    } catch (const RuntimeError&) {
+        // Left open, it would hold others up and could not be tidied up after.
+        RollBackQuietly();
+        throw;
+    }
+}
+
+void Connection::RollBackQuietly() noexcept {
+    writing_ = false;
+    try {
+        // Some failures have ended it by themselves, which is told as another failure.
+        QSqlQuery(QSqlDatabase::database(name_, false)).exec(QStringLiteral("ROLLBACK"));
+    } catch (const std::exception&) {
+        return; // the error that is on its way tells of the same trouble
+    }
 }
 
 void Connection::CommitQuietly() noexcept {

@@ -40,6 +40,8 @@ public:
     void Commit();
     /// Ends what was begun, keeping what was written, where an error is already on its way.
     void CommitQuietly() noexcept;
+    /// Ends it, taking what was written back, where an error is already on its way.
+    void RollBackQuietly() noexcept;
 
 private:
     void Open();

@@ -86,6 +86,7 @@ void MakeTables(Maker& maker, const Dialect& dialect, const Schema& schema) {
 
 /// The file is made whole under another name, so that nobody ever sees a half one.
 void CreateFile(const DatabaseLocation& location, const Schema& schema) {
+    RequireSearchable(location);
     if (QFileInfo::exists(location.file)) RaiseExists(location.text);
     if (!QFileInfo(location.file).absoluteDir().exists())
         throw RuntimeError(ErrorNumber::PathNotValid,

@@ -35,6 +35,11 @@ void Database::Writing::Finish() {
     connection_.Commit();
 }
 
+void Database::Writing::TakeBack() noexcept {
+    open_ = false;
+    connection_.RollBackQuietly();
+}
+
 Database::Reading::Reading(Database& database) : connection_(*database.connection_) {
     connection_.BeginReading();
 }

@@ -34,6 +34,8 @@ public:
         Writing& operator=(const Writing&) = delete;
         /// Makes the writes durable. Raises as a write does.
         void Finish();
+        /// Takes all that was written back, where an error is already on its way.
+        void TakeBack() noexcept;
 
     private:
         Connection& connection_;

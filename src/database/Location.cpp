@@ -2,8 +2,12 @@
 
 #include "qmchart6/RuntimeError.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
+
+#include <filesystem>
+#include <system_error>
 
 namespace QmChart6 {
 
@@ -39,6 +43,28 @@ DatabaseLocation ParseServer(const QString& text) {
 }
 
 } // namespace
+
+bool AreOnePlace(const DatabaseLocation& one, const DatabaseLocation& other) {
+    if (!one.server || !other.server) {
+        const QString file = QFileInfo(one.file).canonicalFilePath();
+        return !one.server && !other.server && !file.isEmpty() &&
+               file == QFileInfo(other.file).canonicalFilePath();
+    }
+    // Who asks makes no other store.
+    const ServerLocation& here = *one.server;
+    const ServerLocation& there = *other.server;
+    return here.host.compare(there.host, Qt::CaseInsensitive) == 0 && here.port == there.port &&
+           here.database == there.database && here.schema == there.schema;
+}
+
+void RequireSearchable(const DatabaseLocation& location) {
+    std::error_code error;
+    (void)std::filesystem::status(QFile::encodeName(location.file).toStdString(), error);
+    if (error == std::errc::permission_denied)
+        throw RuntimeError(
+            ErrorNumber::PermissionDenied,
+            QStringLiteral("the folder of \"%1\" may not be searched by this account").arg(location.text));
+}
 
 DatabaseLocation ParseLocation(const QString& text) {
     if (text.startsWith(ServerScheme(), Qt::CaseInsensitive)) return ParseServer(text);

@@ -23,6 +23,12 @@ struct DatabaseLocation {
     std::optional<ServerLocation> server;
 };
 
+/// Whether both name the same tables, however the file is reached.
+bool AreOnePlace(const DatabaseLocation& one, const DatabaseLocation& other);
+
+/// Raises 70 where this account may not look whether the file is there.
+void RequireSearchable(const DatabaseLocation& location);
+
 /// Understands a path, or "postgresql://user@host:port/database/schema". Raises 3044.
 DatabaseLocation ParseLocation(const QString& text);
 

@@ -83,16 +83,21 @@ QString SqliteDialect::Driver() const {
 }
 
 void SqliteDialect::Prepare(QSqlDatabase& connection) const {
+    RequireSearchable(location_);
     const QFileInfo file(location_.file);
+    const QString folder = file.absolutePath();
     if (!file.absoluteDir().exists() || file.isDir())
         throw RuntimeError(ErrorNumber::PathNotValid,
                            file.isDir()
                                ? QStringLiteral("\"%1\" is a folder").arg(location_.text)
-                               : QStringLiteral("there is no folder for \"%1\"").arg(location_.text));
+                               : QStringLiteral("there is no folder \"%1\", where the looks were looked for; "
+                                                "\"qmchart config init %1\" makes it and an empty store")
+                                     .arg(folder));
     if (!file.exists())
         throw RuntimeError(ErrorNumber::DatabaseFileNotFound,
-                           QStringLiteral("there is no \"%1\"; \"qmchart config init\" makes an empty one")
-                               .arg(location_.text));
+                           QStringLiteral("there is no \"%1\" in the folder \"%2\", where the looks were "
+                                          "looked for; \"qmchart config init %2\" makes an empty one")
+                               .arg(file.fileName(), folder));
     if (!file.isReadable())
         throw RuntimeError(ErrorNumber::PermissionDenied,
                            QStringLiteral("\"%1\" may not be read by this account").arg(location_.text));

@@ -15,7 +15,8 @@ class QWidget;
 
 namespace QmChart6 {
 
-enum class MessageButtons { Ok, YesNo };
+/// YesNoByDefault asks too, and Enter means No.
+enum class MessageButtons { Ok, YesNo, YesNoByDefault };
 enum class Answer { Ok, Yes, No };
 
 /// What a save-file picker is set up with. `filter` is a pattern ("*.bmp"), `suffix` has no dot.
@@ -23,6 +24,10 @@ struct SaveFileRequest {
     QString title;
     QString filter;
     QString suffix;
+    QString name = {};        ///< that is proposed, without an ending; "" for none
+    QStringList forms = {};   ///< the suffixes to choose from; a name with another one is refused
+    QString formCaption = {}; ///< of their list
+    QString refusal = {};     ///< %1 the name, %2 the endings
 };
 
 /// A font as a person chooses it. `size` in points.
@@ -44,6 +49,7 @@ struct FontPickerTexts {
     QString colour;
     QString ok;
     QString cancel;
+    QString notInstalled = {}; ///< %1 the font's name, %2 what is drawn for it
 };
 
 /// What the product asks of a desktop. Everything that would wait for a person goes through here, so that
@@ -89,6 +95,10 @@ public:
     /// chosen ones then. Gives the printer's name; "" for a file in place of a printer; nothing when
     /// cancelled.
     [[nodiscard]] virtual std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) = 0;
+    /// Shows what `paint` puts on the printer's page, and prints it where the person says so. Raises what
+    /// `paint` raises.
+    virtual void PreviewPage(QWidget* owner, QPrinter& printer, const QString& title,
+                             const std::function<void(QPrinter& printer)>& paint) = 0;
 };
 
 } // namespace QmChart6

@@ -1,9 +1,12 @@
 #include "desktop/FontPicker.h"
 
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -13,8 +16,17 @@ namespace QmChart6 {
 
 namespace {
 
+/// The family that the desktop draws for a name: its own where it is installed.
+QString DrawnFamily(const QString& family) {
+    const QStringList families = QFontDatabase::families();
+    if (families.contains(family, Qt::CaseInsensitive)) return family;
+    const QString drawn = QFontInfo(QFont(family)).family();
+    return families.contains(drawn) ? drawn : family;
+}
+
+/// As it is drawn, so that the styles there are can be chosen from.
 QFont FontOf(const FontChoice& choice) {
-    QFont font(choice.family);
+    QFont font(DrawnFamily(choice.family));
     font.setPointSizeF(choice.size);
     font.setBold(choice.bold);
     font.setItalic(choice.italic);
@@ -53,6 +65,14 @@ FontPicker::FontPicker(Desktop& desktop, const FontChoice& start, const FontPick
     btnColour_->setAutoDefault(false);
     connect(btnColour_, &QPushButton::clicked, this, &FontPicker::PickColour);
 
+    auto* lblDrawn = new QLabel(this);
+    lblDrawn->setObjectName(QStringLiteral("lblDrawn"));
+    lblDrawn->setTextFormat(Qt::PlainText);
+    lblDrawn->setWordWrap(true);
+    const QString drawn = DrawnFamily(start.family);
+    lblDrawn->setText(texts.notInstalled.arg(start.family, drawn));
+    lblDrawn->setVisible(drawn.compare(start.family, Qt::CaseInsensitive) != 0);
+
     auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(texts.ok, QDialogButtonBox::AcceptRole)->setDefault(true);
     buttons->addButton(texts.cancel, QDialogButtonBox::RejectRole);
@@ -68,6 +88,7 @@ FontPicker::FontPicker(Desktop& desktop, const FontChoice& start, const FontPick
     foot->addWidget(buttons);
     auto* column = new QVBoxLayout(this);
     column->addWidget(fonts_, 1);
+    column->addWidget(lblDrawn);
     column->addLayout(foot);
     ShowColour();
 }

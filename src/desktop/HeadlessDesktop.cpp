@@ -11,7 +11,7 @@ Answer HeadlessDesktop::ShowMessage(QWidget* /*owner*/, const QString& text, con
                                     MessageButtons buttons) {
     const QString line = title.isEmpty() ? text : title + QStringLiteral(": ") + text;
     std::fprintf(stderr, "%s\n", line.simplified().toLocal8Bit().constData());
-    return buttons == MessageButtons::YesNo ? Answer::No : Answer::Ok;
+    return buttons == MessageButtons::Ok ? Answer::Ok : Answer::No;
 }
 
 std::optional<QString> HeadlessDesktop::PickSaveFile(QWidget* /*owner*/, const SaveFileRequest& /*request*/) {
@@ -35,5 +35,8 @@ std::optional<FontChoice> HeadlessDesktop::PickFont(QWidget* /*owner*/, const Fo
 std::optional<QString> HeadlessDesktop::PickPrinter(QWidget* /*owner*/, QPrinter& settings) {
     return settings.printerName();
 }
+
+void HeadlessDesktop::PreviewPage(QWidget* /*owner*/, QPrinter& /*printer*/, const QString& /*title*/,
+                                  const std::function<void(QPrinter& printer)>& /*paint*/) {}
 
 } // namespace QmChart6

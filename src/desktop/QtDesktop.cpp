@@ -2,10 +2,10 @@
 
 #include "desktop/FontPicker.h"
 #include "desktop/QtTexts.h"
+#include "desktop/SaveFileDialog.h"
 
 #include <QClipboard>
 #include <QColorDialog>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QMimeData>
@@ -45,11 +45,14 @@ private:
 Answer QtDesktop::ShowMessage(QWidget* owner, const QString& text, const QString& title,
                               MessageButtons buttons) {
     const QtTexts texts;
-    const bool asks = buttons == MessageButtons::YesNo;
+    const bool asks = buttons != MessageButtons::Ok;
     const DialogScope box(new QMessageBox(
         asks ? QMessageBox::Question : QMessageBox::Warning, title, text,
         asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok), owner));
     box.Get()->setTextFormat(Qt::PlainText);
+    if (asks)
+        box.Get()->setDefaultButton(buttons == MessageButtons::YesNoByDefault ? QMessageBox::No
+                                                                              : QMessageBox::Yes);
     const std::optional<int> button = Run(box.Get());
     if (!asks) return Answer::Ok;
     return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
@@ -57,11 +60,8 @@ Answer QtDesktop::ShowMessage(QWidget* owner, const QString& text, const QString
 
 std::optional<QString> QtDesktop::PickSaveFile(QWidget* owner, const SaveFileRequest& request) {
     const QtTexts qtTexts;
-    const DialogScope picker(new QFileDialog(owner, request.title, {}, request.filter));
-    const QPointer<QFileDialog>& dialog = picker.Get();
-    dialog->setAcceptMode(QFileDialog::AcceptSave); // which asks before an existing file is overwritten
-    dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setDefaultSuffix(request.suffix);
+    const DialogScope picker(new SaveFileDialog(owner, request));
+    const QPointer<SaveFileDialog>& dialog = picker.Get();
     if (Run(dialog) != QDialog::Accepted || dialog->selectedFiles().isEmpty()) return std::nullopt;
     return dialog->selectedFiles().front();
 }

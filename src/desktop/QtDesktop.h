@@ -23,6 +23,8 @@ public:
     [[nodiscard]] QString PrinterProblem(const QString& name) const override;
     [[nodiscard]] std::function<QString()> WatchPrinter(const QString& name) const override;
     [[nodiscard]] std::optional<QString> PickPrinter(QWidget* owner, QPrinter& settings) override;
+    void PreviewPage(QWidget* owner, QPrinter& printer, const QString& title,
+                     const std::function<void(QPrinter& printer)>& paint) override;
 };
 
 } // namespace QmChart6

@@ -5,8 +5,12 @@
 
 #include <QPointer>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QTimer>
+
+#include <exception>
 
 namespace QmChart6 {
 
@@ -33,6 +37,27 @@ std::optional<QString> QtDesktop::PickPrinter(QWidget* owner, QPrinter& settings
     delete dialog.data();
     if (result != QDialog::Accepted) return std::nullopt;
     return settings.outputFormat() == QPrinter::PdfFormat ? QString() : settings.printerName();
+}
+
+void QtDesktop::PreviewPage(QWidget* owner, QPrinter& printer, const QString& title,
+                            const std::function<void(QPrinter& printer)>& paint) {
+    const QtTexts texts;
+    const QPointer<QPrintPreviewDialog> dialog(new QPrintPreviewDialog(&printer, owner));
+    dialog->setWindowTitle(title);
+    // No error may pass through the dialog's own code: it waits until that is done.
+    std::exception_ptr failure;
+    QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog, [&](QPrinter* page) {
+        if (failure) return;
+        try {
+            paint(*page);
+        } catch (...) {
+            failure = std::current_exception();
+            QTimer::singleShot(0, dialog, &QDialog::reject);
+        }
+    });
+    dialog->exec();
+    delete dialog.data();
+    if (failure) std::rethrow_exception(failure);
 }
 
 } // namespace QmChart6

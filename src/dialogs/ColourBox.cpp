@@ -2,6 +2,8 @@
 
 #include "desktop/CurrentDesktop.h"
 
+#include <QAbstractButton>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace QmChart6 {
@@ -23,6 +25,22 @@ bool ColourBox::Pick(const QString& title) {
     SetBackColor(*picked);
     Q_EMIT Picked();
     return true;
+}
+
+void ColourBox::OpensBy(QAbstractButton& button) {
+    button_ = &button;
+    setCursor(Qt::PointingHandCursor);
+}
+
+/// Taken, so that the release comes here.
+void ColourBox::mousePressEvent(QMouseEvent* event) {
+    event->setAccepted(event->button() == Qt::LeftButton && button_ != nullptr);
+}
+
+void ColourBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && button_ != nullptr &&
+        rect().contains(event->position().toPoint()))
+        button_->click();
 }
 
 void ColourBox::paintEvent(QPaintEvent* /*event*/) {

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QColor>
+#include <QPointer>
 #include <QWidget>
+
+class QAbstractButton;
 
 namespace QmChart6 {
 
@@ -21,15 +24,21 @@ public:
     /// whether there is another one.
     bool Pick(const QString& title);
 
+    /// A click on the box is one on the button that opens its picker.
+    void OpensBy(QAbstractButton& button);
+
 Q_SIGNALS:
     /// The person chose another colour.
     void Picked();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     QColor colour_{Qt::white};
+    QPointer<QAbstractButton> button_;
 };
 
 } // namespace QmChart6

@@ -4,14 +4,16 @@
 #include "config/Viewer.h"
 #include "desktop/CurrentDesktop.h"
 #include "dialogs/Captions.h"
+#include "dialogs/NamesList.h"
+#include "text/LocalHint.h"
 #include "text/LocalText.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace QmChart6 {
@@ -25,6 +27,11 @@ QCheckBox* NewCheckBox(QWidget* parent, const char* name, TextKey textKey) {
     auto* box = new QCheckBox(LocalText(textKey), parent);
     Describe(*box, name, LocalText(textKey));
     return box;
+}
+
+/// A name that looks like markup is still only a name.
+QString AsToolTip(const QString& name) {
+    return Qt::mightBeRichText(name) ? Qt::convertFromPlainText(name) : name;
 }
 
 /// A name may hold line ends; the list has one line for each.
@@ -43,18 +50,15 @@ GraphConfiguration::GraphConfiguration(QWidget* owner) : PropertyDialog(owner, B
 }
 
 void GraphConfiguration::MakeList() {
-    lstConfig_ = new QListWidget(this);
+    lstConfig_ = new NamesList(this);
     lstConfig_->setObjectName(QStringLiteral("lstConfig"));
-    lstConfig_->setUniformItemSizes(true);
-    lstConfig_->setTextElideMode(Qt::ElideMiddle);
-    lstConfig_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstConfig_->setMinimumSize(ListWidth, ListHeight);
     auto* lblAvailable =
         NewLabel(this, "lblAvailable", LocalText(TextKey::AvailableConfigurations), *lstConfig_);
     btnDelete_ = new QPushButton(LocalText(TextKey::Delete), this);
     Describe(*btnDelete_, "btnDelete", LocalText(TextKey::Delete));
     connect(lstConfig_, &QListWidget::itemDoubleClicked, this, &GraphConfiguration::accept);
-    connect(lstConfig_, &QListWidget::itemSelectionChanged, this, &GraphConfiguration::AllowDelete);
+    connect(lstConfig_, &QListWidget::itemSelectionChanged, this, &GraphConfiguration::FollowSelection);
     On(btnDelete_, &QPushButton::clicked, [this] { Delete(); });
     auto* deleteKey = new QShortcut(QKeySequence::Delete, lstConfig_);
     deleteKey->setContext(Qt::WidgetShortcut);
@@ -68,6 +72,19 @@ void GraphConfiguration::MakeList() {
     row->addLayout(beside);
     Body().addWidget(lblAvailable);
     Body().addLayout(row, 1);
+    MakeHint();
+}
+
+/// Keeps its room when it has nothing to say, so that nothing moves under the pointer.
+void GraphConfiguration::MakeHint() {
+    lblHint_ = new QLabel(LocalHint(Hint::NothingChosen), this);
+    lblHint_->setObjectName(QStringLiteral("lblHint"));
+    lblHint_->setTextFormat(Qt::PlainText);
+    lblHint_->setWordWrap(true);
+    QSizePolicy keepsRoom = lblHint_->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    lblHint_->setSizePolicy(keepsRoom);
+    Body().addWidget(lblHint_);
 }
 
 void GraphConfiguration::MakeOptions() {
@@ -90,17 +107,19 @@ void GraphConfiguration::FillList() {
     for (const QString& name : list.names) {
         auto* item = new QListWidgetItem(OnOneLine(name), lstConfig_);
         item->setData(Qt::UserRole, name);
-        item->setToolTip(name);
+        item->setToolTip(AsToolTip(name));
     }
     if (list.selected >= 0) {
         lstConfig_->setCurrentRow(list.selected);
         lstConfig_->scrollToItem(lstConfig_->currentItem(), QAbstractItemView::PositionAtCenter);
     }
-    AllowDelete();
+    FollowSelection();
 }
 
-void GraphConfiguration::AllowDelete() {
-    btnDelete_->setEnabled(!lstConfig_->selectedItems().isEmpty());
+void GraphConfiguration::FollowSelection() {
+    const bool selected = !lstConfig_->selectedItems().isEmpty();
+    btnDelete_->setEnabled(selected);
+    lblHint_->setVisible(!selected && lstConfig_->count() > 0);
 }
 
 QString GraphConfiguration::Selected() const {
@@ -119,7 +138,7 @@ void GraphConfiguration::Delete() {
     const QString name = Selected();
     const Answer answer =
         CurrentDesktop().ShowMessage(this, LocalText(TextKey::DeleteConfiguration) + u' ' + name + u'?',
-                                     LocalText(TextKey::Delete), MessageButtons::YesNo);
+                                     LocalText(TextKey::Delete), MessageButtons::YesNoByDefault);
     if (answer != Answer::Yes) return;
     DeleteConfiguration(name);
     FillList();

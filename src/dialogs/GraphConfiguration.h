@@ -3,10 +3,11 @@
 #include "dialogs/PropertyDialog.h"
 
 class QCheckBox;
-class QListWidget;
+class QLabel;
 
 namespace QmChart6 {
 
+class NamesList;
 class Viewer;
 
 /// Picks a stored look for a viewer: loads it with or without its texts, makes it what the chart is bound to,
@@ -27,15 +28,18 @@ private:
     void FillList();
     void Load();
     void Delete();
-    void AllowDelete();
+    void MakeHint();
+    /// What can be done, and what OK will do.
+    void FollowSelection();
     /// The name that is selected; "" for none.
     [[nodiscard]] QString Selected() const;
 
     Viewer* viewer_ = nullptr;
-    QListWidget* lstConfig_ = nullptr;
+    NamesList* lstConfig_ = nullptr;
     QCheckBox* chkTitles_ = nullptr;
     QCheckBox* chkDefault_ = nullptr;
     QPushButton* btnDelete_ = nullptr;
+    QLabel* lblHint_ = nullptr;
 };
 
 } // namespace QmChart6

@@ -18,6 +18,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace QmChart6 {
 
 namespace {
@@ -77,6 +79,7 @@ QWidget* GraphSeriesProperties::MakeGeneral() {
     grid->addWidget(btnColor, 2, 0);
     grid->addWidget(pbColor_, 2, 1);
     const QString title = LocalText(TextKey::Color);
+    pbColor_->OpensBy(*btnColor);
     On(btnColor, &QPushButton::clicked, [this, title] {
         if (pbColor_->Pick(title)) ShowColours();
     });
@@ -100,7 +103,16 @@ QWidget* GraphSeriesProperties::MakeLabels() {
         chkComponent_[bit] = NewBox(page, Names[bit], Keys[bit]);
         grid->addWidget(chkComponent_[bit], static_cast<int>(bit) + 2, 0, 1, 2);
     }
+    On(cbLabels_, &QComboBox::activated, [this] { ShowSomething(); });
     return page;
+}
+
+/// Whoever chooses a place for labels that show nothing wants to see them.
+void GraphSeriesProperties::ShowSomething() {
+    const bool shown = QmLabels() != static_cast<std::int16_t>(LabelLocation::None);
+    const bool nothing = std::none_of(chkComponent_.begin(), chkComponent_.end(),
+                                      [](const QCheckBox* box) { return box->isChecked(); });
+    if (shown && nothing) chkComponent_.front()->setChecked(true);
 }
 
 QWidget* GraphSeriesProperties::MakeStyle() {
@@ -111,6 +123,7 @@ QWidget* GraphSeriesProperties::MakeStyle() {
     pbStyleColor_ = new ColourBox(page);
     Describe(*pbStyleColor_, "pbStyleColor", LocalText(TextKey::Color), LocalText(TextKey::Style));
     auto* row = new QHBoxLayout;
+    row->setContentsMargins(PatternPicker::LeftEdge(), 0, 0, 0); // in line with the boxes below
     row->addWidget(btnStyleColor);
     row->addWidget(pbStyleColor_);
     row->addStretch(1);
@@ -119,6 +132,7 @@ QWidget* GraphSeriesProperties::MakeStyle() {
     Describe(*picStyle_, "picStyle", LocalText(TextKey::Style));
     grid->addWidget(picStyle_, 1, 0, 1, 2, Qt::AlignLeft);
     const QString title = LocalText(TextKey::Color);
+    pbStyleColor_->OpensBy(*btnStyleColor);
     On(btnStyleColor, &QPushButton::clicked, [this, title] {
         if (pbStyleColor_->Pick(title)) ShowColours();
     });

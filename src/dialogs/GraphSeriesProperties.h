@@ -63,6 +63,7 @@ private:
     void WriteBrush(Brush& brush) const;
     void WriteLabels(DataPointLabel& label) const;
     void ShowColours();
+    void ShowSomething();
 
     ChartType chartType_ = ChartType::Bar2D;
     bool is3D_ = false;

@@ -6,7 +6,9 @@
 #include "dialogs/ColourBox.h"
 #include "dialogs/Mnemonics.h"
 #include "dialogs/OrientationButton.h"
+#include "dialogs/TextSample.h"
 #include "qmchart6/RuntimeError.h"
+#include "text/LocalHint.h"
 #include "text/LocalText.h"
 
 #include <QButtonGroup>
@@ -66,8 +68,11 @@ GraphTextProperties::GraphTextProperties(QWidget* owner) : PropertyDialog(owner,
                                                         LocalText(TextKey::Ok), LocalText(TextKey::Cancel)},
                                              .pages = {}})
                                   .always;
-    pickerTexts_ = {
-        .title = LocalText(TextKey::Font), .colour = texts[0], .ok = texts[1], .cancel = texts[2]};
+    pickerTexts_ = {.title = LocalText(TextKey::Font),
+                    .colour = texts[0],
+                    .ok = texts[1],
+                    .cancel = texts[2],
+                    .notInstalled = LocalHint(Hint::FontNotInstalled)};
     MakeTextRow();
     MakeGroups();
     // The form ends at Apply, so that is the last button on every desktop.
@@ -89,6 +94,10 @@ void GraphTextProperties::MakeTextRow() {
     row->addWidget(TText_, 1);
     row->addWidget(btnFont);
     Body().addLayout(row);
+    sample_ = new TextSample(this);
+    sample_->setObjectName(QStringLiteral("lblSample"));
+    Body().addWidget(sample_);
+    connect(TText_, &QLineEdit::textChanged, sample_, &TextSample::SetText);
 }
 
 void GraphTextProperties::MakeGroups() {
@@ -154,6 +163,7 @@ void GraphTextProperties::Fill(const TextElement& element, bool allowText, bool 
     TText_->setEnabled(allowText);
     TText_->setText(allowText ? TextOf(element) : QStringLiteral("Data Values"));
     CDLabel_ = ChoiceOf(*element.VtFont);
+    sample_->SetFont(CDLabel_);
     if (allowAlignment) {
         cbHorizontal_->setCurrentIndex(static_cast<int>(element.TextLayout->HorzAlignment));
         cbVertical_->setCurrentIndex(static_cast<int>(element.TextLayout->VertAlignment));
@@ -208,6 +218,7 @@ void GraphTextProperties::PickFont() {
     const auto picked = CurrentDesktop().PickFont(this, CDLabel_, pickerTexts_);
     if (!picked) return;
     CDLabel_ = *picked;
+    sample_->SetFont(CDLabel_);
     fontChosen_ = true;
 }
 

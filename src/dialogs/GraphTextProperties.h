@@ -16,6 +16,7 @@ class QLineEdit;
 namespace QmChart6 {
 
 class OrientationButton;
+class TextSample;
 
 /// What a text element of a chart offers. A null pointer stands for what it does not have.
 struct TextElement {
@@ -65,6 +66,7 @@ private:
 
     QLabel* lblText_ = nullptr;
     QLineEdit* TText_ = nullptr;
+    TextSample* sample_ = nullptr;
     QGroupBox* frmOrientButtons_ = nullptr;
     std::array<OrientationButton*, OrientationCount> btnOrientation_{};
     QGroupBox* frmAlignment_ = nullptr;

@@ -57,12 +57,25 @@ void GraphTypes::Connect() {
     On(form_.LChTypes, &QListWidget::currentRowChanged, [this] { ChooseKind(); });
     On(form_.btnBackColor, &QPushButton::clicked,
        [this] { form_.pbBackColor->Pick(form_.btnBackColor->accessibleName()); });
+    On(form_.cbLabels, &QComboBox::activated, [this] { ShowSomething(); });
     for (const GraphTypesRow& row : settings_) {
         const auto follow = [this, &row] { Follow(row); };
         if (auto* check = qobject_cast<QCheckBox*>(row.box)) On(check, &QCheckBox::toggled, follow);
         if (auto* list = qobject_cast<QComboBox*>(row.box)) On(list, &QComboBox::currentIndexChanged, follow);
         if (auto* colour = qobject_cast<ColourBox*>(row.box)) On(colour, &ColourBox::Picked, follow);
     }
+}
+
+/// Whoever chooses a place for labels that show nothing wants to see them.
+void GraphTypes::ShowSomething() {
+    const bool shown = QmLabels() != static_cast<std::int16_t>(LabelLocation::None);
+    const bool nothing = std::all_of(form_.chkComponent.begin(), form_.chkComponent.end(),
+                                     [](const QCheckBox* box) { return box->checkState() == Qt::Unchecked; });
+    if (shown && nothing) form_.chkComponent.front()->setCheckState(Qt::Checked);
+}
+
+void GraphTypes::ShowGrid() {
+    form_.TabTypes->setCurrentWidget(form_.cbGridLines.front()->parentWidget());
 }
 
 void GraphTypes::Execute(Viewer& viewer) {

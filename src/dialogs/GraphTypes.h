@@ -25,6 +25,8 @@ public:
     /// Edits the chart of a viewer until the dialog is left. Opening it sets the size of every series'
     /// markers to 10 points.
     void Execute(Viewer& viewer);
+    /// Lets it open with the page of the grid lines.
+    void ShowGrid();
 
     /// The chart type that the type controls stand for. Writing a number that is none raises 380.
     [[nodiscard]] std::int16_t Selected() const;
@@ -46,6 +48,7 @@ private:
     void ChooseKind();
     void EnableForKind(ChartType type);
     void RefillLabels(ChartType kind);
+    void ShowSomething();
     /// Does to the sample what choosing a value does to a look.
     void Follow(const GraphTypesRow& row);
     void AllowWhatGoesTogether();

@@ -191,6 +191,7 @@ QWidget* GraphTypesControls::MakeDesign() {
     Describe(*btnBackColor, "btnBackColor", LocalText(TextKey::BackgroundColor));
     pbBackColor = new ColourBox(page);
     Describe(*pbBackColor, "pbBackColor", LocalText(TextKey::BackgroundColor));
+    pbBackColor->OpensBy(*btnBackColor);
     AddRow(*grid, btnBackColor, pbBackColor);
     cb3DPerspective =
         NewList(page, "cb3DPerspective", {TextKey::Perspective, TextKey::Oblique, TextKey::Orthogonal});

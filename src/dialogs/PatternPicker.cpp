@@ -3,7 +3,7 @@
 #include "base/Units.h"
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/scene/SceneBuilder.h"
-#include "text/LocalText.h"
+#include "text/LocalHint.h"
 
 #include <QAccessible>
 #include <QHelpEvent>
@@ -12,6 +12,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -28,6 +29,32 @@ constexpr int HatchTop = 80;
 constexpr QPoint PatternOrigin{120, 0};
 constexpr int PatternColumns = 3;
 constexpr int Gap = 2; // between a box's edge and what it shows
+
+/// The share of a dotted area that its pattern covers, in percent, for the patterns that come first.
+constexpr std::array Shares{94, 88, 75, 50, 25};
+/// What the patterns behind those show, and the hatches.
+constexpr std::array PatternNames{Hint::BoldHorizontalLines,
+                                  Hint::BoldVerticalLines,
+                                  Hint::BoldFallingLines,
+                                  Hint::BoldRisingLines,
+                                  Hint::Checks,
+                                  Hint::Weave,
+                                  Hint::HorizontalLines,
+                                  Hint::VerticalLines,
+                                  Hint::FallingLines,
+                                  Hint::RisingLines,
+                                  Hint::Squares,
+                                  Hint::Trellis,
+                                  Hint::InvertedTrellis};
+constexpr std::array HatchNames{Hint::HorizontalHatch, Hint::VerticalHatch, Hint::FallingHatch,
+                                Hint::RisingHatch,     Hint::CrossHatch,    Hint::DiagonalCrossHatch};
+static_assert(HatchNames.size() == HatchCount && Shares.size() + PatternNames.size() == PatternCount);
+
+QString NameOfPattern(int index) {
+    const auto place = static_cast<std::size_t>(index);
+    if (place < Shares.size()) return LocalHint(Hint::Dots).arg(Shares[place]);
+    return LocalHint(PatternNames.at(place - Shares.size()));
+}
 
 QRect PlaceOf(BrushStyle style, int index) {
     switch (style) {
@@ -53,12 +80,15 @@ PatternPicker::PatternPicker(QWidget* parent) : QWidget(parent) {
         names_.push_back(name);
     };
     // The two plain choices are numbered as one group.
-    add(BrushStyle::None, 0, LocalText(TextKey::NoLine));
-    add(BrushStyle::Solid, 1, LocalText(TextKey::SolidLine));
-    int number = 0;
-    const auto numbered = [&] { return LocalText(TextKey::Style) + u' ' + QString::number(++number); };
-    for (int index = 0; index < HatchCount; ++index) add(BrushStyle::Hatch, index, numbered());
-    for (int index = 0; index < PatternCount; ++index) add(BrushStyle::Pattern, index, numbered());
+    add(BrushStyle::None, 0, LocalHint(Hint::NoFill));
+    add(BrushStyle::Solid, 1, LocalHint(Hint::SolidFill));
+    for (int index = 0; index < HatchCount; ++index)
+        add(BrushStyle::Hatch, index, LocalHint(HatchNames.at(static_cast<std::size_t>(index))));
+    for (int index = 0; index < PatternCount; ++index) add(BrushStyle::Pattern, index, NameOfPattern(index));
+}
+
+int PatternPicker::LeftEdge() {
+    return Origin.x() + Gap - 1;
 }
 
 QSize PatternPicker::sizeHint() const {
@@ -207,10 +237,10 @@ void PatternPicker::paintEvent(QPaintEvent* /*event*/) {
     const int selected = SelectedBox();
     if (selected == NoBox) return;
     const QRect place = boxes_[static_cast<std::size_t>(selected)].place;
-    painter.setPen(QPen(palette().color(QPalette::WindowText), 2));
+    painter.setPen(QPen(palette().color(QPalette::Highlight), Gap));
     painter.drawRect(place.adjusted(0, 0, -1, -1));
     if (!hasFocus()) return;
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
     painter.drawRect(place.adjusted(-1, -1, 0, 0));
 }
 

@@ -36,6 +36,9 @@ public:
     void Select(BrushStyle style, int index);
     void SetColours(Colour fill, Colour pattern);
 
+    /// How far from the picker's left edge the boxes' frames begin, in logical pixels.
+    [[nodiscard]] static int LeftEdge();
+
     /// What a box is called, in the process' language; "" for one that there is not.
     [[nodiscard]] QString NameOf(int box) const;
 

@@ -84,6 +84,30 @@ void ControlBarCommands::ChooseType() {
     if (changed) TellWarnings(viewer_, shown_.chart);
 }
 
+void ControlBarCommands::SetMarks(std::int16_t lines, std::int16_t markers) {
+    SetSeriesLines(Model(), TruthOf(lines != 0));
+    SetSeriesMarkers(Model(), TruthOf(markers != 0));
+    shown_.lines = lines;
+    shown_.markers = markers;
+    shown_.chart.Refresh();
+}
+
+void ControlBarCommands::ChooseTypeByHand() {
+    const bool before = Model().chartType() == ChartType::XY2D;
+    ChooseType();
+    const bool now = Model().chartType() == ChartType::XY2D;
+    if (busy_ || before == now) return;
+    if (now && shown_.markers == 0) {
+        marksBeforePoints_ = {shown_.lines, shown_.markers};
+        SetMarks(0, 1);
+    } else if (!now && marksBeforePoints_) {
+        // What was changed by hand meanwhile stays.
+        if (shown_.lines == 0 && shown_.markers == 1)
+            SetMarks(marksBeforePoints_->first, marksBeforePoints_->second);
+        marksBeforePoints_.reset();
+    }
+}
+
 void ControlBarCommands::FollowChart() {
     if (bar_.isHidden()) return;
     const Raised busy(busy_);

@@ -2,6 +2,10 @@
 
 #include "viewer/ViewerToolBar.h"
 
+#include <cstdint>
+#include <optional>
+#include <utility>
+
 namespace QmChart6 {
 
 class LookChanges;
@@ -40,6 +44,9 @@ public:
     void Click(BarButton button);
     /// Gives the chart the selected type, with what goes with it.
     void ChooseType();
+    /// The same as the person at the desk chooses it: an XY chart shows points, not the lines between them,
+    /// until they choose otherwise.
+    void ChooseTypeByHand();
     /// Lets the person choose a stored look, and loads it.
     void LoadLook();
 
@@ -50,12 +57,15 @@ private:
     void SwitchSeriesInRows();
     void SelectIndex(int index);
     void AllowWhatCanBeSwitched();
+    void SetMarks(std::int16_t lines, std::int16_t markers);
     [[nodiscard]] Chart& Model() const;
 
     Viewer& viewer_;
     ShownLook& shown_;
     LookChanges& changes_;
     ViewerToolBar& bar_;
+    /// Lines and markers as they were before an XY chart was chosen; nothing otherwise.
+    std::optional<std::pair<std::int16_t, std::int16_t>> marksBeforePoints_;
     bool busy_ = false;
 };
 

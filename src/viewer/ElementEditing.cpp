@@ -143,6 +143,7 @@ void ElementEditing::Activate() {
 void ElementEditing::EditChart() {
     {
         GraphTypes dialog(viewer_.Window());
+        if (shown_.chart.SelectedPart().IsGridLine()) dialog.ShowGrid();
         QObject::connect(&dialog, &GraphTypes::Written, [this] { Show(); });
         dialog.Execute(viewer_);
         // Opening the dialog sets markers' sizes; someone who cancelled it did nothing to be taken back.

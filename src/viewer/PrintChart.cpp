@@ -7,6 +7,7 @@
 #include "chartcontrol/widget/ChartControl.h"
 #include "desktop/CurrentDesktop.h"
 #include "qmchart6/RuntimeError.h"
+#include "text/LocalHint.h"
 #include "viewer/ChartOnPaper.h"
 #include "viewer/GraphPrinting.h"
 #include "viewer/QmPrintDialog.h"
@@ -71,6 +72,7 @@ void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
                                      windowSize.width / PointsPerPixel);
     const Size pageSize{windowSize.width * factor, windowSize.height * factor};
 
+    printer.setDocName(chart.Title.Text.simplified());
     QPainter painter;
     if (!painter.begin(&printer))
         RaisePrinterError(QStringLiteral("\"%1\" takes no page").arg(printer.printerName()));
@@ -84,8 +86,15 @@ void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer) {
 }
 
 void PrintChart(ChartControl& chart) {
-    const QmPrintDialog pdChart(chart.window());
+    const QmPrintDialog pdChart(chart.window(), chart.width() > chart.height());
     if (const std::unique_ptr<QPrinter> printer = pdChart.Execute()) PrintOn(*printer, chart);
+}
+
+void PreviewChart(ChartControl& chart) {
+    const std::unique_ptr<QPrinter> printer =
+        QmPrintDialog(chart.window(), chart.width() > chart.height()).Proposed();
+    CurrentDesktop().PreviewPage(chart.window(), *printer, LocalHint(Hint::PrintPreview),
+                                 [&chart](QPrinter& page) { PrintPageOf(chart, page); });
 }
 
 void PrintChart(ChartControl& chart, const QString& printerName) {

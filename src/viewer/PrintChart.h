@@ -17,8 +17,13 @@ void PrintChart(ChartControl& chart);
 /// The same on the printer of that name, nobody being asked.
 void PrintChart(ChartControl& chart, const QString& printerName);
 
+/// Shows the person the page that would be printed, a wide one for a wide chart, from where it can be
+/// printed.
+void PreviewChart(ChartControl& chart);
+
 /// Paints a chart that a window shows at `windowSize` (points) on the printer's page, as ChartOnPaper gives
-/// it, as large as the printable area allows in the window's proportions. Raises as PrintChart.
+/// it, as large as the printable area allows in the window's proportions. The
+/// document bears the chart's title. Raises as PrintChart.
 void PrintPage(const Chart& chart, Size windowSize, QPrinter& printer);
 
 /// The error of a printer that is not there; its text tells the names that there are.

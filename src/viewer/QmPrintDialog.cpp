@@ -36,9 +36,15 @@ void CopySettings(const QPrinter& settings, QPrinter& printer) {
 
 } // namespace
 
-std::unique_ptr<QPrinter> QmPrintDialog::Execute() const {
+std::unique_ptr<QPrinter> QmPrintDialog::Proposed() const {
     std::unique_ptr<QPrinter> settings = OpenCurrentPrinter();
     if (!settings) settings = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (wide_) settings->setPageOrientation(QPageLayout::Landscape);
+    return settings;
+}
+
+std::unique_ptr<QPrinter> QmPrintDialog::Execute() const {
+    std::unique_ptr<QPrinter> settings = Proposed();
     const std::optional<QString> chosen = CurrentDesktop().PickPrinter(owner_, *settings);
     if (!chosen) return nullptr;
     const bool printsIntoFile = chosen->isEmpty() && !settings->outputFileName().isEmpty();

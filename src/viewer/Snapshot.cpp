@@ -4,11 +4,13 @@
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
 #include "desktop/CurrentDesktop.h"
+#include "text/LocalHint.h"
 #include "text/LocalText.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QRegularExpression>
 
 namespace QmChart6 {
 
@@ -28,6 +30,15 @@ private:
     QString path_;
 };
 
+/// A title as a file's name that every system takes; "" where nothing is left of it.
+QString FileNameOf(QString title) {
+    constexpr qsizetype Longest = 80;
+    static const QRegularExpression odd(QStringLiteral("[\\x00-\\x1f\\x7f/\\\\:*?\"<>|]+"));
+    title = title.replace(odd, QStringLiteral(" ")).simplified().left(Longest).trimmed();
+    while (title.startsWith(u'.')) title.remove(0, 1);
+    return title;
+}
+
 } // namespace
 
 void SaveChartSnapshot(Viewer& viewer, ChartControl& chart, QString& FileName,
@@ -38,7 +49,11 @@ void SaveChartSnapshot(Viewer& viewer, ChartControl& chart, QString& FileName,
         const std::optional<QString> chosen =
             CurrentDesktop().PickSaveFile(chart.window(), {.title = QStringLiteral("Save as .bmp"),
                                                            .filter = QStringLiteral("*.bmp"),
-                                                           .suffix = QStringLiteral("bmp")});
+                                                           .suffix = QStringLiteral("bmp"),
+                                                           .name = FileNameOf(chart.Model().Title.Text),
+                                                           .forms = PictureExtensions(),
+                                                           .formCaption = LocalHint(Hint::PictureForm),
+                                                           .refusal = LocalHint(Hint::NoSuchPictureForm)});
         if (!chosen) return;
         FileName = *chosen;
         directory.Restore();

@@ -3,10 +3,12 @@
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationStore.h"
 #include "config/Viewer.h"
+#include "desktop/CurrentDesktop.h"
 #include "desktop/ShowErrors.h"
 #include "dialogs/GraphConfigSave.h"
 #include "viewer/ControlBarCommands.h"
 #include "viewer/ElementEditing.h"
+#include "viewer/KeysCard.h"
 #include "viewer/LookChanges.h"
 #include "viewer/PrintChart.h"
 #include "viewer/ShownLook.h"
@@ -56,7 +58,7 @@ void ViewerCommands::ConnectBar() {
         if (button == BarButton::Load || button == BarButton::Save) parts_.changes.LookWasKept();
     });
     connect(&parts_.tbControlBar, &ViewerToolBar::TypeChosen, this,
-            [this] { Do([this] { parts_.bar.ChooseType(); }); });
+            [this] { Do([this] { parts_.bar.ChooseTypeByHand(); }); });
 }
 
 void ViewerCommands::ConnectEntry(QAction* entry, const std::function<void()>& command) {
@@ -71,6 +73,11 @@ void ViewerCommands::ConnectMenu() {
     ConnectEntry(menu.optChart, [this] { parts_.editing.EditChart(); });
     ConnectEntry(menu.optControlBar, [&viewer] { SwitchControlBar(viewer); });
     ConnectEntry(menu.optPrint, [&chart] { PrintChart(chart); });
+    ConnectEntry(menu.optPreview, [&chart] { PreviewChart(chart); });
+    ConnectEntry(menu.optKeys, [&viewer] {
+        KeysCard card(viewer.Window());
+        CurrentDesktop().RunModal(card);
+    });
     ConnectEntry(menu.optSaveBMP, [&viewer, &chart] {
         QString askForName;
         SaveChartSnapshot(viewer, chart, askForName);

@@ -3,6 +3,7 @@ import json
 import re
 import struct
 import subprocess
+import time
 import unittest
 
 import stores
@@ -229,8 +230,10 @@ class OnAFile(OnBothEngines, Commands):
     def test_places_where_nothing_is(self):
         self.assertIn("config init", self.fails(3024, "config", "list", "--config", self.folder))
         self.fails(3044, "config", "list", "--config", self.folder / "nowhere")
-        self.fails(3044, "config", "init", self.folder / "nowhere")
         self.assertEqual([path.name for path in self.folder.iterdir()], ["sales.csv"])
+        self.does("config", "init", self.folder / "made" / "too")
+        self.assertEqual(self.does("config", "list", "--config", self.folder / "made" / "too"), "")
+        self.fails(75, "config", "init", self.table / "below")
         (self.folder / "QmConfig.mdb").mkdir()
         self.fails(3044, "config", "list", "--config", self.folder)
 
@@ -282,6 +285,50 @@ class Copies(Commands):
             self.assertEqual(first, self.look(server, name) | {"ConfigId": name})
         self.assertEqual(self.config(file, "bindings"), self.config(back, "bindings"))
         self.assertEqual(self.config(file, "bindings"), self.config(server, "bindings"))
+
+    def test_a_look_with_a_bad_record_is_named_and_left_out_and_the_others_are_copied_whole(self):
+        for engine in (stores.SqliteStore, stores.PostgresStore):
+            with self.subTest(engine.engine):
+                file, target = self.make(stores.SqliteStore), self.make(engine)
+                for name in ("One", "Torn", "Zero"):
+                    self.keep(file, name)
+                    self.keep(target, name, TitleText="old", Series=[{"SeriesColorRed": n} for n in (1, 2, 3)],
+                              Columns=[{"ColumnName": n} for n in "xyz"])
+                    self.config(file, "bind", "of " + name, name)
+                file.run("UPDATE <AxesConfigurations> SET <AxisTitleText> = NULL WHERE <ConfigId> = 'Torn' AND <AxisId> = 2")
+                before = self.look(target, "Torn")
+                result = self.qmchart("config", "copy", file.folder, target.folder)
+                self.assertEqual((result.returncode, result.stdout), (1, b"copied 2 looks and 2 bindings\n"))
+                self.assertRegex(result.stderr.decode(), r'\A[^\n]*left out[^\n]*"Torn"[^\n]*AxisTitleText[^\n]*\n\Z')
+                self.assertEqual(self.look(target, "Torn"), before)
+                for name in ("One", "Zero"):
+                    self.assertEqual(self.look(target, name), self.look(file, name))
+                self.assertEqual(self.config(target, "bindings"), "OF ONE\tOne\nOF ZERO\tZero\n")
+
+    def test_a_look_that_the_target_refuses_stays_there_as_it_was(self):
+        file, target = self.make(stores.SqliteStore), self.make(stores.PostgresStore)
+        for name in ("One", "Torn"):
+            self.keep(file, name)
+            self.keep(target, name, TitleText="old")
+        target.psql("""ALTER TABLE "QmConfig.mdb"."AxesConfigurations"
+                       ADD CHECK ("ConfigId" <> 'Torn' OR "AxisTitleText" = '')""")
+        file.run("UPDATE <AxesConfigurations> SET <AxisTitleText> = 'new' WHERE <AxisId> = 3")
+        before = self.look(target, "Torn")
+        result = self.qmchart("config", "copy", file.folder, target.folder)
+        self.assertEqual((result.returncode, result.stdout), (1, b"copied 1 looks and 0 bindings\n"))
+        self.assertEqual(self.look(target, "Torn"), before)
+        self.assertEqual(self.look(target, "One"), self.look(file, "One"))
+
+    def test_a_store_is_not_copied_to_itself(self):
+        file = self.make(stores.SqliteStore)
+        self.keep(file, "One")
+        link = self.folder / "link"
+        link.symlink_to(file.folder)
+        for place in (file.folder, link):
+            began = time.monotonic()
+            self.assertIn("same store", self.fails(5, "config", "copy", file.folder, place))
+            self.assertLess(time.monotonic() - began, 4)
+        self.assertEqual([path.name for path in file.files.iterdir()], ["QmConfig.mdb"])
 
     def test_into_nothing(self):
         file = self.make(stores.SqliteStore)

@@ -63,8 +63,7 @@ def size_of_png(path):
 class Pictures(Host):
     def test_the_ending_names_the_format(self):
         for name, expected in (("a.bmp", "PC bitmap"), ("a.png", "PNG image"), ("a.svg", "SVG"), ("a.pdf", "PDF document"),
-                               ("a.emf", "Enhanced Metafile"), ("a.xyz", "Enhanced Metafile"), ("a", "Enhanced Metafile"),
-                               ("A.PNG", "PNG image")):
+                               ("a.emf", "Enhanced Metafile"), ("A.PNG", "PNG image")):
             with self.subTest(name):
                 path = self.save(self.table, self.folder / name)
                 self.assertEqual(path, self.folder / name)
@@ -125,7 +124,7 @@ class Errors(Host):
         for text, number, told in (
                 (b"", 5, "empty"), (b"a,b\n", 5, "no rows"), (b'a,b\n"x"y,1\n', 5, "line 2"), (b'a,b\nx,1"\n', 5, "line 2"),
                 (b'a,b\nx,1\n"y,2\n', 5, "line 3"), (b"a,b\nx,\xff\n", 5, "line 2"), (b"a,b\nx,1,2\n", 5, "line 2"),
-                (b"a,b\nx,1\ny,two\n", 13, 'line 3, column 2 of the table: "two"'),
+                (b"a,b\nx,1\ny,two\n", 13, 'line 3, column 2: "two"'),
                 (b"a,b\n" + 32768 * b"x,1\n", 380, "32768"), (b"a" + 32768 * b",b" + b"\nx,1\n", 380, "32768")):
             with self.subTest(text[:40]):
                 self.assertIn(told, self.fails(number, "save", "-", "a.png", given=text))
@@ -133,7 +132,8 @@ class Errors(Host):
 
     def test_nothing_half_written_where_a_picture_cannot_be(self):
         self.fails(76, "save", self.table, "none/a.png")
-        self.fails(75, "save", self.table, self.folder)
+        (self.folder / "folder.png").mkdir()
+        self.fails(75, "save", self.table, "folder.png")
         closed = self.folder / "closed"
         closed.mkdir(mode=0o500)
         # To root no folder is closed, unless it gives up that right.

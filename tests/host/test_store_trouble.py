@@ -48,11 +48,12 @@ class OddRecords:
                                           preexec_fn=limit_memory)
                 finally:
                     self.store.run(f'UPDATE <{table}> SET "{field}" = {self.literal(before)}')
-                # What is refused ends the loading with a message; the picture is made with what was loaded until then.
+                # What is refused is told, and no picture made.
                 told = result.stderr.decode()
-                self.assertEqual(result.returncode, 0, told)
-                self.assertTrue(picture.exists())
                 self.assertRegex(told, r"\A(Error (?!7:)\d+: [^\n]+\n)?\Z")
+                self.assertEqual((result.returncode, picture.exists()), (1, False) if told else (0, True), told)
+                if told:
+                    continue
                 width, height = size_of_png(picture)
                 self.assertTrue(0 < width <= 16384 and 0 < height <= 16384, (width, height))
         self.does("save", self.table, "odd.png", "--config", self.store.folder, "--use-config", "yes")
@@ -108,6 +109,19 @@ class Files(Commands):
         self.store.file.chmod(0o000)
         if other:
             self.fails(70, "config", "list", "--config", self.store.folder, **other)
+
+    def test_a_folder_that_may_not_be_searched_is_error_70(self):
+        other = {}
+        if os.geteuid() == 0:
+            other = {"user": "nobody", "group": pwd.getpwnam("nobody").pw_gid, "extra_groups": []}
+            if not self.can_run(other):
+                self.skipTest("nobody may not run the program where it was built")
+            os.chown(self.folder, pwd.getpwnam("nobody").pw_uid, -1)
+        self.store.files.chmod(0o600)
+        self.addCleanup(self.store.files.chmod, 0o755)
+        for command in (["list", "--config", self.store.folder], ["init", self.store.folder],
+                        ["list", "--config", f"{self.store.folder}below"]):
+            self.assertIn(self.store.folder, self.fails(70, "config", *command, **other))
 
     def can_run(self, other):
         try:

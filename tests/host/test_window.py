@@ -158,12 +158,12 @@ class WindowTest(unittest.TestCase):
         made = viewer.picture(self.folder, "made.png")
         self.assertGreater(same(plain, made), 1000)
 
-        # The context menu by its key, its last entry, a name, Enter.
+        # The context menu by its key, its last entry but one, a name, Enter.
         viewer.click(viewer.wait("chart"), along=0.01)
         before = viewer.windows()
         key("Menu")
         until(lambda: viewer.windows() > before, "the menu")
-        key("Up", "Return")
+        key("Up", "Up", "Return")
         viewer.wait("text", "Configuration Name", focused=True)
         run("xdotool", "type", "--delay", "5", "By hand")
         key("Return")

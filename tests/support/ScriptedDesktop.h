@@ -36,6 +36,7 @@ public:
     QString printerProblem;
     QString pageProblem;
     int printDialogs = 0;
+    QStringList previews; ///< their titles
     mutable QStringList openedPrinters;
 
     QList<Message> messages;
@@ -51,7 +52,7 @@ public:
             answers.pop_front();
             return answer;
         }
-        return buttons == QmChart6::MessageButtons::YesNo ? QmChart6::Answer::No : QmChart6::Answer::Ok;
+        return buttons == QmChart6::MessageButtons::Ok ? QmChart6::Answer::Ok : QmChart6::Answer::No;
     }
 
     std::optional<QString> PickSaveFile(QWidget* /*owner*/,
@@ -90,6 +91,13 @@ public:
         ++printDialogs;
         settle(settings);
         return chosenPrinter;
+    }
+
+    void PreviewPage(QWidget* /*owner*/, QPrinter& page, const QString& title,
+                     const std::function<void(QPrinter& page)>& paint) override {
+        previews.append(title);
+        settle(page);
+        paint(page);
     }
 
 private:

@@ -62,6 +62,12 @@ PictureFormat FormatOfFileName(const QString& fileName) {
     return PictureFormat::Emf;
 }
 
+QStringList PictureExtensions() {
+    QStringList extensions;
+    for (const FormatRow& row : Formats) extensions.append(QLatin1String(row.extension));
+    return extensions;
+}
+
 int ScaleOfFileName(const QString& fileName) {
     const QString name = QFileInfo(fileName).completeBaseName();
     const qsizetype length = name.size();

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 namespace QmChart6 {
 
@@ -21,6 +22,8 @@ struct Picture {
 /// The format that a file name stands for by its extension, case apart; a name with another one, or none, is
 /// a metafile (Emf).
 PictureFormat FormatOfFileName(const QString& fileName);
+/// The extensions that stand for a format: "bmp", the usual one, first.
+QStringList PictureExtensions();
 /// Device pixels to a pixel of the picture: 2 for "name@2x.png", up to @9x, otherwise 1. Bitmaps only.
 int ScaleOfFileName(const QString& fileName);
 

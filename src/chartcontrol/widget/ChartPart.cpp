@@ -3,6 +3,11 @@
 #include "chartcontrol/scene/HitTest.h"
 #include "qmchart6/RuntimeError.h"
 
+#include <algorithm>
+#include <cmath>
+#include <span>
+#include <variant>
+
 namespace QmChart6 {
 
 namespace {
@@ -23,7 +28,25 @@ ChartPart AxisPart(PartCode code, int axis) {
     return {static_cast<int>(code), axis, 1, code == PartCode::AxisLabel ? 1 : 0, 0};
 }
 
+/// Walls make a chart in space, where a grid line goes along two of them. On a page an axis' grid lines cross
+/// the plot, and its own line runs along it.
+bool IsGridLine(const Scene& scene, const Shape& shape) {
+    const auto* line = std::get_if<Polyline>(&shape.geometry);
+    if (line == nullptr || shape.part.code != PartCode::Axis) return false;
+    const std::span<const Point> points = scene.PointsOf(line->points);
+    const bool inSpace = std::any_of(scene.shapes.begin(), scene.shapes.end(), [](const Shape& other) {
+        return other.part.code == PartCode::Plot && std::holds_alternative<Polygon>(other.geometry);
+    });
+    if (inSpace || points.size() != 2) return points.size() > 2;
+    const bool upright = std::abs(points[1].y - points[0].y) > std::abs(points[1].x - points[0].x);
+    return upright == (shape.part.index1 == static_cast<int>(AxisId::X));
+}
+
 } // namespace
+
+bool ChartPart::IsGridLine() const {
+    return part == static_cast<int>(PartCode::Plot) && index1 == 1;
+}
 
 bool ChartPart::IsOfSeries() const {
     return part == static_cast<int>(PartCode::Series) || part == static_cast<int>(PartCode::DataPoint);
@@ -32,6 +55,8 @@ bool ChartPart::IsOfSeries() const {
 ChartPart PartAt(const LaidOutChart& laidOut, Point place) {
     const std::optional<std::size_t> hit = Hit(laidOut.scene, place);
     const Part part = hit ? laidOut.scene.shapes[*hit].part : Part{};
+    if (hit && IsGridLine(laidOut.scene, laidOut.scene.shapes[*hit]))
+        return {static_cast<int>(PartCode::Plot), 1};
     const int code = static_cast<int>(part.code);
     switch (part.code) {
     case PartCode::Chart:

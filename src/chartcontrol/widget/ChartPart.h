@@ -10,9 +10,9 @@ namespace QmChart6 {
 inline constexpr int NoPart = -1;
 
 /// A part of a chart as hosts of the control name it: its code and up to four indexes, 0 where one has no
-/// meaning. Title, footnote, legend and plot have none. Series, data points and their labels: the series and
-/// the data point (0: none in particular). Axes, their labels and titles: the axis id and its index, 1; of
-/// labels, also their level, 1.
+/// meaning. Title, footnote and legend have none, the plot has 1 at one of its grid lines. Series, data
+/// points and their labels: the series and the data point (0: none in particular). Axes, their labels and
+/// titles: the axis id and its index, 1; of labels, also their level, 1.
 struct ChartPart {
     int part = NoPart;
     int index1 = 0;
@@ -21,6 +21,8 @@ struct ChartPart {
     int index4 = 0;
 
     [[nodiscard]] bool IsNone() const { return part == NoPart; }
+    /// The plot at one of its grid lines.
+    [[nodiscard]] bool IsGridLine() const;
     /// A series, or a data point of one.
     [[nodiscard]] bool IsOfSeries() const;
     friend bool operator==(const ChartPart&, const ChartPart&) = default;

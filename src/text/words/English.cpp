@@ -135,6 +135,62 @@ constexpr TextRows Texts = [] {
 // clang-format on
 static_assert(IsWhole(Texts));
 
+// clang-format off
+constexpr HintRows Hints = [] {
+    using enum Hint;
+    return HintRows{{
+        {NothingChosen, u"Nothing selected: OK loads the default look"},
+        {NoFill, u"No fill"},
+        {SolidFill, u"Solid"},
+        {Dots, u"Dots, %1%"},
+        {BoldHorizontalLines, u"Bold horizontal lines"},
+        {BoldVerticalLines, u"Bold vertical lines"},
+        {BoldFallingLines, u"Bold falling lines"},
+        {BoldRisingLines, u"Bold rising lines"},
+        {Checks, u"Checks"},
+        {Weave, u"Weave"},
+        {HorizontalLines, u"Horizontal lines"},
+        {VerticalLines, u"Vertical lines"},
+        {FallingLines, u"Falling lines"},
+        {RisingLines, u"Rising lines"},
+        {Squares, u"Squares"},
+        {Trellis, u"Trellis"},
+        {InvertedTrellis, u"Inverted trellis"},
+        {HorizontalHatch, u"Horizontal hatching"},
+        {VerticalHatch, u"Vertical hatching"},
+        {FallingHatch, u"Falling hatching"},
+        {RisingHatch, u"Rising hatching"},
+        {CrossHatch, u"Crossed hatching"},
+        {DiagonalCrossHatch, u"Diagonally crossed hatching"},
+        {FontNotInstalled, u"%1 is not installed; %2 is drawn in its place"},
+        {PictureForm, u"Format"},
+        {NoSuchPictureForm, u"\"%1\" is no picture that can be written; its name ends in %2"},
+        {PrintPreview, u"Print Preview"},
+        {KeysAndMouse, u"Keys and Mouse"},
+        {ThisCard, u"This card"},
+        {CopyChart, u"Copy the chart"},
+        {SavePicture, u"Save a picture"},
+        {PrintTheChart, u"Print the chart"},
+        {TakeBack, u"Undo"},
+        {DoAgain, u"Redo"},
+        {WalkParts, u"Select the next or previous part"},
+        {WalkPoints, u"Walk the points and the series"},
+        {EndPoints, u"First or last point"},
+        {EditPart, u"Properties of the selected part"},
+        {PartMenu, u"Menu of the part"},
+        {SelectNothing, u"Select nothing"},
+        {SelectPart, u"Select a part"},
+        {TurnView, u"Turn a 3D chart"},
+        {ArrowKeys, u"Arrow keys"},
+        {Click, u"Click"},
+        {DoubleClick, u"Double-click"},
+        {RightClick, u"Right-click"},
+        {CtrlDrag, u"Ctrl+drag"},
+    }};
+}();
+// clang-format on
+static_assert(IsWhole(Hints));
+
 constexpr Remarks Said{
     u"%1 data labels have no room",
     u"the chart is too small for its axes' labels",
@@ -158,6 +214,6 @@ ChartVocabulary ChartWords() {
 
 } // namespace
 
-extern const Words EnglishWords{Texts, Said, ChartWords};
+extern const Words EnglishWords{Texts, Hints, Said, ChartWords};
 
 } // namespace QmChart6

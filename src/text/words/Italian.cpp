@@ -18,7 +18,7 @@ constexpr TextRows Texts = [] {
         {SeriesProperties, u"Proprietà Serie"},
         {GraphProperties, u"Proprietà Grafico"},
         {ControlBar, u"Barra di Controllo"},
-        {SendTo, u"Invia A"},
+        {SendTo, u"Invia a"},
         {Printer, u"Stampante"},
         {BmpFile, u"File .BMP"},
         {Clipboard, u"Appunti"},
@@ -75,8 +75,8 @@ constexpr TextRows Texts = [] {
         {Percentage, u"Percentuale"},
         {PieLabelPosition, u"Posizione Etichetta Torta"},
         {NoLabel, u"Nessuna"},
-        {Inside, u"Interno"},
-        {Outside, u"Esterno"},
+        {Inside, u"Dentro"},
+        {Outside, u"Fuori"},
         {Above, u"Sopra"},
         {Below, u"Sotto"},
         {Center, u"Centro"},
@@ -109,7 +109,7 @@ constexpr TextRows Texts = [] {
         {SaveCurrentConfiguration, u"Salvare le modifiche apportate?"},
         {LabelCenter, u"Centro"},
         {LoadConfiguration, u"Carica Configurazione"},
-        {SaveConfigurationAs, u"Salva Configurazione Con Nome"},
+        {SaveConfigurationAs, u"Salva Configurazione con Nome"},
         {Print, u"Stampa"},
         {Design, u"Aspetto"},
         {BackgroundColor, u"Colore Sfondo"},
@@ -119,7 +119,7 @@ constexpr TextRows Texts = [] {
         {Orthogonal, u"Ortogonale"},
         {Delete, u"Elimina"},
         {AvailableConfigurations, u"Configurazioni Disponibili"},
-        {MakeDefaultConfiguration, u"Rendi Configurazione Predefinita"},
+        {MakeDefaultConfiguration, u"Imposta come Configurazione Predefinita"},
         {LoadTitles, u"Carica Titoli"},
         {ConfigurationExists, u"Configurazione _ Esiste Già. Sostituire?)"},
         {DeleteConfiguration, u"Elimina Configurazione"},
@@ -134,6 +134,62 @@ constexpr TextRows Texts = [] {
 }();
 // clang-format on
 static_assert(IsWhole(Texts));
+
+// clang-format off
+constexpr HintRows Hints = [] {
+    using enum Hint;
+    return HintRows{{
+        {NothingChosen, u"Nessuna selezione: OK carica l'aspetto predefinito"},
+        {NoFill, u"Nessun riempimento"},
+        {SolidFill, u"Tinta unita"},
+        {Dots, u"Punti, %1%"},
+        {BoldHorizontalLines, u"Linee orizzontali spesse"},
+        {BoldVerticalLines, u"Linee verticali spesse"},
+        {BoldFallingLines, u"Linee discendenti spesse"},
+        {BoldRisingLines, u"Linee ascendenti spesse"},
+        {Checks, u"Scacchi"},
+        {Weave, u"Intreccio"},
+        {HorizontalLines, u"Linee orizzontali"},
+        {VerticalLines, u"Linee verticali"},
+        {FallingLines, u"Linee discendenti"},
+        {RisingLines, u"Linee ascendenti"},
+        {Squares, u"Quadretti"},
+        {Trellis, u"Traliccio"},
+        {InvertedTrellis, u"Traliccio invertito"},
+        {HorizontalHatch, u"Tratteggio orizzontale"},
+        {VerticalHatch, u"Tratteggio verticale"},
+        {FallingHatch, u"Tratteggio discendente"},
+        {RisingHatch, u"Tratteggio ascendente"},
+        {CrossHatch, u"Tratteggio incrociato"},
+        {DiagonalCrossHatch, u"Tratteggio incrociato diagonale"},
+        {FontNotInstalled, u"%1 non è installato; al suo posto si disegna %2"},
+        {PictureForm, u"Formato"},
+        {NoSuchPictureForm, u"\"%1\" non è un'immagine che si possa salvare; il nome termina in %2"},
+        {PrintPreview, u"Anteprima di Stampa"},
+        {KeysAndMouse, u"Tasti e Mouse"},
+        {ThisCard, u"Questa scheda"},
+        {CopyChart, u"Copiare il grafico"},
+        {SavePicture, u"Salvare un'immagine"},
+        {PrintTheChart, u"Stampare il grafico"},
+        {TakeBack, u"Annullare l'ultima modifica"},
+        {DoAgain, u"Ripetere la modifica"},
+        {WalkParts, u"Selezionare la parte successiva o precedente"},
+        {WalkPoints, u"Scorrere i punti e le serie"},
+        {EndPoints, u"Primo o ultimo punto"},
+        {EditPart, u"Proprietà della parte selezionata"},
+        {PartMenu, u"Menu della parte"},
+        {SelectNothing, u"Non selezionare nulla"},
+        {SelectPart, u"Selezionare una parte"},
+        {TurnView, u"Ruotare un grafico 3D"},
+        {ArrowKeys, u"Tasti freccia"},
+        {Click, u"Clic"},
+        {DoubleClick, u"Doppio clic"},
+        {RightClick, u"Clic con il tasto destro"},
+        {CtrlDrag, u"Ctrl+trascinamento"},
+    }};
+}();
+// clang-format on
+static_assert(IsWhole(Hints));
 
 constexpr Remarks Said{
     u"%1 etichette dei dati non hanno spazio",
@@ -176,6 +232,6 @@ ChartVocabulary ChartWords() {
 
 } // namespace
 
-extern const Words ItalianWords{Texts, Said, ChartWords};
+extern const Words ItalianWords{Texts, Hints, Said, ChartWords};
 
 } // namespace QmChart6

@@ -18,7 +18,7 @@ constexpr TextRows Texts = [] {
         {SeriesProperties, u"Propriedades da Série"},
         {GraphProperties, u"Propriedades do Gráfico"},
         {ControlBar, u"Barra de Controle"},
-        {SendTo, u"Enviar Para"},
+        {SendTo, u"Enviar para"},
         {Printer, u"Impressora"},
         {BmpFile, u"Arquivo .BMP"},
         {Clipboard, u"Área de Transferência"},
@@ -109,7 +109,7 @@ constexpr TextRows Texts = [] {
         {SaveCurrentConfiguration, u"Salvar Configuração atual?"},
         {LabelCenter, u"Centro"},
         {LoadConfiguration, u"Carregar Configuração"},
-        {SaveConfigurationAs, u"Salvar Configuração Como"},
+        {SaveConfigurationAs, u"Salvar Configuração como"},
         {Print, u"Imprimir"},
         {Design, u"Design"},
         {BackgroundColor, u"Cor de Fundo"},
@@ -119,7 +119,7 @@ constexpr TextRows Texts = [] {
         {Orthogonal, u"Ortogonal"},
         {Delete, u"Excluir"},
         {AvailableConfigurations, u"Configurações Disponíveis"},
-        {MakeDefaultConfiguration, u"Tornar Configuração Padrão"},
+        {MakeDefaultConfiguration, u"Definir como Configuração Padrão"},
         {LoadTitles, u"Carregar Títulos"},
         {ConfigurationExists, u"Configuração _ Já Existe. Sobrescrever?)"},
         {DeleteConfiguration, u"Excluir Configuração"},
@@ -134,6 +134,62 @@ constexpr TextRows Texts = [] {
 }();
 // clang-format on
 static_assert(IsWhole(Texts));
+
+// clang-format off
+constexpr HintRows Hints = [] {
+    using enum Hint;
+    return HintRows{{
+        {NothingChosen, u"Nada selecionado: OK carrega o aspecto padrão"},
+        {NoFill, u"Nenhum"},
+        {SolidFill, u"Sólido"},
+        {Dots, u"Pontos, %1%"},
+        {BoldHorizontalLines, u"Linhas horizontais grossas"},
+        {BoldVerticalLines, u"Linhas verticais grossas"},
+        {BoldFallingLines, u"Linhas descendentes grossas"},
+        {BoldRisingLines, u"Linhas ascendentes grossas"},
+        {Checks, u"Xadrez"},
+        {Weave, u"Trama"},
+        {HorizontalLines, u"Linhas horizontais"},
+        {VerticalLines, u"Linhas verticais"},
+        {FallingLines, u"Linhas descendentes"},
+        {RisingLines, u"Linhas ascendentes"},
+        {Squares, u"Quadrados"},
+        {Trellis, u"Treliça"},
+        {InvertedTrellis, u"Treliça invertida"},
+        {HorizontalHatch, u"Hachura horizontal"},
+        {VerticalHatch, u"Hachura vertical"},
+        {FallingHatch, u"Hachura descendente"},
+        {RisingHatch, u"Hachura ascendente"},
+        {CrossHatch, u"Hachura cruzada"},
+        {DiagonalCrossHatch, u"Hachura cruzada diagonal"},
+        {FontNotInstalled, u"%1 não está instalada; %2 é desenhada em seu lugar"},
+        {PictureForm, u"Formato"},
+        {NoSuchPictureForm, u"\"%1\" não é uma imagem que se possa gravar; o nome termina em %2"},
+        {PrintPreview, u"Visualizar Impressão"},
+        {KeysAndMouse, u"Teclas e Mouse"},
+        {ThisCard, u"Este cartão"},
+        {CopyChart, u"Copiar o gráfico"},
+        {SavePicture, u"Salvar uma imagem"},
+        {PrintTheChart, u"Imprimir o gráfico"},
+        {TakeBack, u"Desfazer"},
+        {DoAgain, u"Refazer"},
+        {WalkParts, u"Selecionar a próxima parte ou a anterior"},
+        {WalkPoints, u"Percorrer os pontos e as séries"},
+        {EndPoints, u"Primeiro ou último ponto"},
+        {EditPart, u"Propriedades da parte selecionada"},
+        {PartMenu, u"Menu da parte"},
+        {SelectNothing, u"Não selecionar nada"},
+        {SelectPart, u"Selecionar uma parte"},
+        {TurnView, u"Girar um gráfico 3D"},
+        {ArrowKeys, u"Setas"},
+        {Click, u"Clique"},
+        {DoubleClick, u"Clique duplo"},
+        {RightClick, u"Clique com o botão direito"},
+        {CtrlDrag, u"Ctrl+arrastar"},
+    }};
+}();
+// clang-format on
+static_assert(IsWhole(Hints));
 
 constexpr Remarks Said{
     u"%1 rótulos de dados não têm espaço",
@@ -176,6 +232,6 @@ ChartVocabulary ChartWords() {
 
 } // namespace
 
-extern const Words PortugueseWords{Texts, Said, ChartWords};
+extern const Words PortugueseWords{Texts, Hints, Said, ChartWords};
 
 } // namespace QmChart6

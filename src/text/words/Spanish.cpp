@@ -18,7 +18,7 @@ constexpr TextRows Texts = [] {
         {SeriesProperties, u"Propiedades de la Serie"},
         {GraphProperties, u"Propiedades de la Gráfica"},
         {ControlBar, u"Barra de Control"},
-        {SendTo, u"Enviar A"},
+        {SendTo, u"Enviar a"},
         {Printer, u"Impresora"},
         {BmpFile, u"Archivo .BMP"},
         {Clipboard, u"Portapapeles"},
@@ -109,7 +109,7 @@ constexpr TextRows Texts = [] {
         {SaveCurrentConfiguration, u"¿Guardar Configuración Actual?"},
         {LabelCenter, u"Centro"},
         {LoadConfiguration, u"Cargar Configuración"},
-        {SaveConfigurationAs, u"Guardar Configuración Como"},
+        {SaveConfigurationAs, u"Guardar Configuración como"},
         {Print, u"Imprimir"},
         {Design, u"Diseño"},
         {BackgroundColor, u"Color de Fondo"},
@@ -119,7 +119,7 @@ constexpr TextRows Texts = [] {
         {Orthogonal, u"Ortogonal"},
         {Delete, u"Eliminar"},
         {AvailableConfigurations, u"Configuraciones Disponibles"},
-        {MakeDefaultConfiguration, u"Hacer Configuración Predeterminada"},
+        {MakeDefaultConfiguration, u"Establecer como Configuración Predeterminada"},
         {LoadTitles, u"Cargar Títulos"},
         {ConfigurationExists, u"Configuración _ Ya Existente. Sobreescribir?"},
         {DeleteConfiguration, u"Eliminar Configuración"},
@@ -135,12 +135,68 @@ constexpr TextRows Texts = [] {
 // clang-format on
 static_assert(IsWhole(Texts));
 
+// clang-format off
+constexpr HintRows Hints = [] {
+    using enum Hint;
+    return HintRows{{
+        {NothingChosen, u"Nada seleccionado: Aceptar carga el aspecto predeterminado"},
+        {NoFill, u"Sin relleno"},
+        {SolidFill, u"Sólido"},
+        {Dots, u"Puntos, %1%"},
+        {BoldHorizontalLines, u"Líneas horizontales gruesas"},
+        {BoldVerticalLines, u"Líneas verticales gruesas"},
+        {BoldFallingLines, u"Líneas descendentes gruesas"},
+        {BoldRisingLines, u"Líneas ascendentes gruesas"},
+        {Checks, u"Cuadros"},
+        {Weave, u"Tejido"},
+        {HorizontalLines, u"Líneas horizontales"},
+        {VerticalLines, u"Líneas verticales"},
+        {FallingLines, u"Líneas descendentes"},
+        {RisingLines, u"Líneas ascendentes"},
+        {Squares, u"Cuadrícula"},
+        {Trellis, u"Enrejado"},
+        {InvertedTrellis, u"Enrejado invertido"},
+        {HorizontalHatch, u"Trama horizontal"},
+        {VerticalHatch, u"Trama vertical"},
+        {FallingHatch, u"Trama descendente"},
+        {RisingHatch, u"Trama ascendente"},
+        {CrossHatch, u"Trama cruzada"},
+        {DiagonalCrossHatch, u"Trama cruzada diagonal"},
+        {FontNotInstalled, u"%1 no está instalada; se dibuja %2 en su lugar"},
+        {PictureForm, u"Formato"},
+        {NoSuchPictureForm, u"\"%1\" no es una imagen que se pueda guardar; el nombre termina en %2"},
+        {PrintPreview, u"Vista Preliminar"},
+        {KeysAndMouse, u"Teclas y Ratón"},
+        {ThisCard, u"Esta ficha"},
+        {CopyChart, u"Copiar la gráfica"},
+        {SavePicture, u"Guardar una imagen"},
+        {PrintTheChart, u"Imprimir la gráfica"},
+        {TakeBack, u"Deshacer"},
+        {DoAgain, u"Rehacer"},
+        {WalkParts, u"Seleccionar la parte siguiente o la anterior"},
+        {WalkPoints, u"Recorrer los puntos y las series"},
+        {EndPoints, u"Primer o último punto"},
+        {EditPart, u"Propiedades de la parte seleccionada"},
+        {PartMenu, u"Menú de la parte"},
+        {SelectNothing, u"No seleccionar nada"},
+        {SelectPart, u"Seleccionar una parte"},
+        {TurnView, u"Girar una gráfica 3D"},
+        {ArrowKeys, u"Flechas"},
+        {Click, u"Clic"},
+        {DoubleClick, u"Doble clic"},
+        {RightClick, u"Clic con el botón derecho"},
+        {CtrlDrag, u"Ctrl+arrastrar"},
+    }};
+}();
+// clang-format on
+static_assert(IsWhole(Hints));
+
 constexpr Remarks Said{
-    u"%1 rótulos de datos no tienen espacio",
-    u"la gráfica es demasiado pequeña para los rótulos de los ejes",
+    u"%1 etiquetas de datos no tienen espacio",
+    u"la gráfica es demasiado pequeña para las etiquetas de los ejes",
     u"la gráfica es demasiado pequeña para el área de trazado",
     u"la leyenda no tiene espacio para %1 de %2 series",
-    u"%1 de %2 tortas no tienen espacio",
+    u"%1 de %2 pasteles no tienen espacio",
     u"no hay valor que mostrar",
     u"%1 valor negativo no tiene sector",
     u"%1 valores negativos no tienen sector",
@@ -154,14 +210,14 @@ static_assert(IsWhole(Said));
 
 ChartVocabulary ChartWords() {
     ChartVocabulary words;
-    words.chart = QStringLiteral("Gráfico");
+    words.chart = QStringLiteral("Gráfica");
     words.kinds = {
-        QStringLiteral("Gráfico de barras 3D"),  QStringLiteral("Gráfico de barras"),
-        QStringLiteral("Gráfico de líneas 3D"),  QStringLiteral("Gráfico de líneas"),
-        QStringLiteral("Gráfico de áreas 3D"),   QStringLiteral("Gráfico de áreas"),
-        QStringLiteral("Gráfico escalonado 3D"), QStringLiteral("Gráfico escalonado"),
-        QStringLiteral("Gráfico combinado 3D"),  QStringLiteral("Gráfico combinado"),
-        QStringLiteral("Gráfico de pastel"),     QStringLiteral("Gráfico XY"),
+        QStringLiteral("Gráfica de barras 3D"),  QStringLiteral("Gráfica de barras"),
+        QStringLiteral("Gráfica de líneas 3D"),  QStringLiteral("Gráfica de líneas"),
+        QStringLiteral("Gráfica de áreas 3D"),   QStringLiteral("Gráfica de áreas"),
+        QStringLiteral("Gráfica escalonada 3D"), QStringLiteral("Gráfica escalonada"),
+        QStringLiteral("Gráfica combinada 3D"),  QStringLiteral("Gráfica combinada"),
+        QStringLiteral("Gráfica de pastel"),     QStringLiteral("Gráfica XY"),
     };
     words.series = {QStringLiteral("%1 serie"), QStringLiteral("%1 series")};
     words.categories = {QStringLiteral("%1 categoría"), QStringLiteral("%1 categorías")};
@@ -176,6 +232,6 @@ ChartVocabulary ChartWords() {
 
 } // namespace
 
-extern const Words SpanishWords{Texts, Said, ChartWords};
+extern const Words SpanishWords{Texts, Hints, Said, ChartWords};
 
 } // namespace QmChart6

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chartcontrol/model/ChartVocabulary.h"
+#include "text/Hint.h"
 #include "text/TextKey.h"
 
 #include <array>
@@ -18,6 +19,19 @@ using TextRows = std::array<TextRow, TextKeyCount>;
 
 /// Whether every key has its text, at its place. Each language asks that when it is compiled.
 constexpr bool IsWhole(const TextRows& rows) {
+    for (std::size_t place = 0; place < rows.size(); ++place)
+        if (static_cast<std::size_t>(rows[place].key) != place || rows[place].text.empty()) return false;
+    return true;
+}
+
+/// The same for a hint.
+struct HintRow {
+    Hint key{};
+    std::u16string_view text;
+};
+using HintRows = std::array<HintRow, HintCount>;
+
+constexpr bool IsWhole(const HintRows& rows) {
     for (std::size_t place = 0; place < rows.size(); ++place)
         if (static_cast<std::size_t>(rows[place].key) != place || rows[place].text.empty()) return false;
     return true;
@@ -52,6 +66,7 @@ constexpr bool IsWhole(const Remarks& remarks) {
 /// All that one language says.
 struct Words {
     const TextRows& texts;
+    const HintRows& hints;
     const Remarks& remarks;
     ChartVocabulary (*chart)(); ///< what a chart is told in
 };

@@ -51,6 +51,12 @@ public:
         page->setOutputFileName(folder_ + QStringLiteral("/page.pdf"));
         return page;
     }
+    void PreviewPage(QWidget* /*owner*/, QPrinter& printer, const QString& /*title*/,
+                     const std::function<void(QPrinter& printer)>& paint) override {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(QStringLiteral("/dev/null"));
+        paint(printer);
+    }
     [[nodiscard]] std::optional<QString> PickPrinter(QWidget* /*owner*/, QPrinter& /*settings*/) override {
         return Coin() ? std::nullopt : std::optional(QStringLiteral("paper"));
     }

@@ -1,6 +1,7 @@
 #include "StoreTest.h"
 
 #include "config/Catalogue.h"
+#include "config/CopyLooks.h"
 
 using namespace QmChart6;
 

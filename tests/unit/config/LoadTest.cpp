@@ -201,3 +201,37 @@ TEST(LoadKindsTest, ANumberThatAnEmbeddedFieldCannotHoldIsError6AndAWordError13)
     EXPECT_TRUE(desktop.messages[0].text.startsWith(T("Error 6: ")));
     EXPECT_TRUE(desktop.messages[1].text.startsWith(T("Error 13: ")));
 }
+
+TEST_P(LoadTest, AColourIsGivenWholeOrNotAtAll) {
+    Fill(viewer, 2, 2);
+    Model().Backdrop.Fill.Brush.FillColor = {10, 20, 30};
+    Model().Title.VtFont.VtColor = {10, 20, 30};
+    Save(viewer, "Look");
+    for (const auto& [field, colour] : {std::pair("BackColorGreen", &Model().Backdrop.Fill.Brush.FillColor),
+                                        std::pair("TitleFontColorBlue", &Model().Title.VtFont.VtColor)}) {
+        const QString set = T("UPDATE <ChartConfigurations> SET \"%1\" = %2").arg(T(field));
+        store.Sql(set.arg(300));
+        *colour = {1, 2, 3};
+        desktop.messages.clear();
+        LoadConfiguration(viewer, T("Look"), true);
+        ASSERT_EQ(Errors().size(), 1) << field;
+        EXPECT_TRUE(Errors().front().startsWith(T("Error 380: "))) << field;
+        EXPECT_EQ(*colour, (Colour{1, 2, 3})) << field;
+        store.Sql(set.arg(20));
+    }
+}
+
+TEST_P(LoadTest, ALabelHasItsFormatsBeforeItsFont) {
+    Fill(viewer, 2, 2);
+    Save(viewer, "Look");
+    store.Sql(T("UPDATE <SeriesConfigurations> SET \"SeriesLabelFontColorRed\" = 300"));
+    DataPointLabel& label = Model().Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).DataPointLabel;
+    label.PercentFormat = T("0%");
+    label.ValueFormat = T("0.000");
+    LoadConfiguration(viewer, T("Look"), true);
+    ASSERT_EQ(Errors().size(), 1);
+    const DataPointLabel& loaded =
+        Model().Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All).DataPointLabel;
+    EXPECT_EQ(loaded.PercentFormat, "0.0%");
+    EXPECT_EQ(loaded.ValueFormat, ValueLabelFormat());
+}

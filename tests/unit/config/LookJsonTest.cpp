@@ -65,6 +65,7 @@ TEST(LookJsonTest, ValuesOfAnotherKindAreError13AndThoseOutOfRangeError6) {
 TEST(LookJsonTest, NumbersOfRecordsAreChecked) {
     EXPECT_RAISES(380, Read(R"({"Axes": [{"AxisId": 4}]})"));
     EXPECT_RAISES(380, Read(R"({"Axes": [{"AxisId": -1}]})"));
+    EXPECT_RAISES(380, Read(R"({"Axes": [{}, {}, {}, {}, {}]})"));
     EXPECT_RAISES(380, Read(R"({"Series": [{"SeriesId": 0}]})"));
     EXPECT_RAISES(3022, Read(R"({"Series": [{"SeriesId": 2}, {}]})"));
 }

@@ -151,6 +151,17 @@ TEST_P(SaveTest, ABindingThatFailsIsToldAndTheLookIsSavedAllTheSame) {
     EXPECT_EQ(viewer.status, "Configuration Saved");
 }
 
+TEST_P(SaveTest, WithoutTheTableOfBindingsTheLookIsSavedAllTheSame) {
+    store.Sql(T("DROP TABLE <Charts>"));
+    Fill(viewer, 2, 2);
+    Save(viewer, "Look");
+    ASSERT_EQ(Errors().size(), 1);
+    EXPECT_TRUE(Errors().front().startsWith(T("Error 3078: ")));
+    EXPECT_EQ(Count("ChartConfigurations"), 1);
+    EXPECT_EQ(Count("AxesConfigurations"), 4);
+    EXPECT_EQ(viewer.status, "Configuration Saved");
+}
+
 TEST_P(SaveTest, AnEmptyNameIsLeftToTheDatabaseWhichTakesIt) {
     Fill(viewer, 2, 2);
     Save(viewer, "");

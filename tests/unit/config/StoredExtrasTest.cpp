@@ -1,6 +1,7 @@
 #include "StoreTest.h"
 
 #include "config/Catalogue.h"
+#include "config/CopyLooks.h"
 #include "config/Look.h"
 #include "config/LookJson.h"
 #include "config/StoredLook.h"

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPrinter>
@@ -199,6 +200,19 @@ TEST(QtDesktop, AnOwnerMayGoWhileItsMessageWaits) {
     EXPECT_EQ(desktop.ShowMessage(owner.get(), QStringLiteral("sure?"), QString(), MessageButtons::YesNo),
               Answer::No);
     EXPECT_TRUE(person.WasAsked());
+}
+
+TEST(QtDesktop, EnterMeansNoWhereNoIsTheDefault) {
+    EnsureApplication();
+    QtDesktop desktop;
+    for (const auto& [buttons, answer] : {std::pair(MessageButtons::YesNo, Answer::Yes),
+                                          std::pair(MessageButtons::YesNoByDefault, Answer::No)}) {
+        const Person<QMessageBox> person([](QMessageBox& box) {
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(&box, &enter);
+        });
+        EXPECT_EQ(desktop.ShowMessage(nullptr, QStringLiteral("sure?"), QString(), buttons), answer);
+    }
 }
 
 TEST(QtDesktop, GivesTheAnswerThatWasClicked) {

@@ -11,6 +11,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QTextDocument>
 
 using namespace QmChart6;
 
@@ -162,7 +163,7 @@ TEST_F(ConfigurationDialogsTest, DeletingTheSelectedLookAsksAndRemovesItFromTheL
         Click(form, "btnDelete");
         EXPECT_EQ(Listed(form), QStringList("Line"));
         EXPECT_EQ(desktop.messages.front().text, "Delete Configuration Area?");
-        EXPECT_EQ(desktop.messages.front().buttons, MessageButtons::YesNo);
+        EXPECT_EQ(desktop.messages.front().buttons, MessageButtons::YesNoByDefault);
     });
     Load();
     EXPECT_FALSE(ConfigurationExists(QStringLiteral("Area")));
@@ -189,6 +190,56 @@ TEST_F(ConfigurationDialogsTest, ANameWithALineEndStandsOnOneLineAndIsLoaded) {
     });
     Load();
     EXPECT_EQ(Type(), ChartType::Area2D);
+}
+
+TEST_F(ConfigurationDialogsTest, WithoutABindingKeysAndLettersSelectAndNoUnselectedNameHasTheFocusFrame) {
+    for (const char* name : {"Area", "Line", "Lines"}) Keep(QLatin1String(name), ChartType::Area2D);
+    const auto expectSelected = [](QWidget& form, int row) {
+        QListWidget& names = Names(form);
+        EXPECT_EQ(names.currentRow(), row);
+        EXPECT_EQ(names.selectedItems().size(), row < 0 ? 0 : 1);
+        EXPECT_EQ(names.currentItem(), names.selectedItems().value(0));
+    };
+    const std::vector<std::pair<Qt::Key, int>> first{{Qt::Key_Down, 0}, {Qt::Key_Up, 0},    {Qt::Key_Home, 0},
+                                                     {Qt::Key_End, 2},  {Qt::Key_Space, 0}, {Qt::Key_A, 0},
+                                                     {Qt::Key_L, 1}};
+    for (const auto& [key, row] : first) {
+        desktop.deals.push_back([&, key = key, row = row](QDialog& form) {
+            EXPECT_TRUE(Names(form).hasFocus());
+            expectSelected(form, -1);
+            QTest::keyClick(&Names(form), key);
+            expectSelected(form, row);
+            QTest::keyClick(&Names(form), Qt::Key_End, Qt::ControlModifier);
+            expectSelected(form, 2);
+            Cancel(form);
+        });
+        Load();
+    }
+}
+
+TEST_F(ConfigurationDialogsTest, WithNothingChosenTheDialogSaysThatOkLoadsTheDefaultLook) {
+    Keep(QStringLiteral("Area"), ChartType::Area2D);
+    desktop.deals.push_back([](QDialog& form) {
+        const QLabel& hint = The<QLabel>(form, "lblHint");
+        EXPECT_TRUE(hint.isVisible());
+        EXPECT_EQ(hint.text(), "Nothing selected: OK loads the default look");
+        const QRect list = Names(form).geometry();
+        Choose(form, 0);
+        QApplication::processEvents();
+        EXPECT_FALSE(hint.isVisible());
+        EXPECT_EQ(Names(form).geometry(), list);
+    });
+    Load();
+}
+
+TEST_F(ConfigurationDialogsTest, ANameThatLooksLikeMarkupIsReadAsItIs) {
+    Keep(QStringLiteral("<b>bold</b>"), ChartType::Area2D);
+    desktop.deals.push_back([](QDialog& form) {
+        QTextDocument tip;
+        tip.setHtml(Names(form).item(0)->toolTip());
+        EXPECT_EQ(tip.toPlainText(), "<b>bold</b>");
+    });
+    Load();
 }
 
 TEST_F(ConfigurationDialogsTest, ANewNameIsSavedWithoutAQuestion) {

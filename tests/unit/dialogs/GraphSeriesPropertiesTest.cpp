@@ -67,6 +67,45 @@ TEST_F(GraphSeriesPropertiesTest, ShowsWhatTheSeriesHas) {
     EXPECT_EQ(desktop.colourStarts, QList<QColor>({QColor(1, 2, 3), QColor(4, 5, 6)}));
 }
 
+TEST_F(GraphSeriesPropertiesTest, AClickOnASwatchOpensItsPicker) {
+    desktop.colours = {QColor(10, 20, 30), QColor(40, 50, 60)};
+    Edit({[](QDialog& form) {
+        The<QTabWidget>(form, "tabSeries").setCurrentIndex(0);
+        QTest::mouseClick(&The<QWidget>(form, "pbColor"), Qt::LeftButton);
+        The<QTabWidget>(form, "tabSeries").setCurrentIndex(2);
+        QTest::mouseClick(&The<QWidget>(form, "pbStyleColor"), Qt::LeftButton);
+        Ok(form);
+    }});
+    EXPECT_EQ(Points().Brush.FillColor, (Colour{10, 20, 30}));
+    EXPECT_EQ(Points().Brush.PatternColor, (Colour{40, 50, 60}));
+}
+
+TEST_F(GraphSeriesPropertiesTest, TheBoxesLineUpWithTheButtonAboveThem) {
+    Edit({[](QDialog& form) {
+        The<QTabWidget>(form, "tabSeries").setCurrentIndex(2);
+        QApplication::processEvents();
+        const QWidget& picker = The<QWidget>(form, "picStyle");
+        const QWidget& button = The<QWidget>(form, "btnStyleColor");
+        EXPECT_EQ(picker.mapTo(&form, QPoint(PatternPicker::LeftEdge(), 0)).x(),
+                  button.mapTo(&form, QPoint()).x());
+    }});
+}
+
+TEST_F(GraphSeriesPropertiesTest, LabelsThatAreGivenAPlaceShowTheirValues) {
+    Points().DataPointLabel.Component = 0;
+    const auto chooseNext = [](QDialog& form) {
+        The<QTabWidget>(form, "tabSeries").setCurrentIndex(1);
+        QTest::keyClick(&List(form, "cbLabels"), Qt::Key_Down);
+        Ok(form);
+    };
+    Edit({chooseNext});
+    EXPECT_EQ(Points().DataPointLabel.LocationType, LabelLocation::AbovePoint);
+    EXPECT_EQ(Points().DataPointLabel.Component, LabelShowsValue);
+    Points().DataPointLabel.Component = LabelShowsPercent;
+    Edit({chooseNext});
+    EXPECT_EQ(Points().DataPointLabel.Component, LabelShowsPercent);
+}
+
 TEST_F(GraphSeriesPropertiesTest, WritesEveryFieldOnOkAndNothingElse) {
     Chart expected = chart;
     desktop.colours = {QColor(10, 20, 30), QColor(40, 50, 60)};

@@ -287,3 +287,27 @@ TEST_F(GraphTextPropertiesTest, ATitleThatTheCallerSetsStays) {
     dialog.Execute(Title(), true, true, true);
     EXPECT_EQ(desktop.shown, 1);
 }
+
+TEST_F(GraphTextPropertiesTest, ALineOfTheTextIsShownInItsFont) {
+    chart.Title.VtFont.VtColor = {200, 0, 0};
+    desktop.fonts = {
+        FontChoice{.family = QStringLiteral("Liberation Serif"), .size = 18, .colour = QColor(0, 0, 200)}};
+    desktop.deals = {[](QDialog& form) {
+        auto& sample = The<QWidget>(form, "lblSample");
+        EXPECT_EQ(sample.accessibleName(), "Turnover");
+        const auto count = [&](const QColor& colour) {
+            const QImage picture = sample.grab().toImage();
+            int found = 0;
+            for (int y = 0; y < picture.height(); ++y)
+                for (int x = 0; x < picture.width(); ++x) found += picture.pixelColor(x, y) == colour ? 1 : 0;
+            return found;
+        };
+        EXPECT_GT(count(QColor(200, 0, 0)), 10);
+        Click(form, "btnFont");
+        EXPECT_GT(count(QColor(0, 0, 200)), 20);
+        EXPECT_EQ(count(QColor(200, 0, 0)), 0);
+        The<QLineEdit>(form, "TText").setText(QStringLiteral("Sales"));
+        EXPECT_EQ(sample.accessibleName(), "Sales");
+    }};
+    dialog.Execute(Title(), true, true, true);
+}

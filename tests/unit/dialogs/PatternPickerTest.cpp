@@ -126,7 +126,41 @@ TEST_F(PatternPickerTest, EveryBoxHasANameOfItsOwn) {
     EXPECT_EQ(names.size(), 26U);
     EXPECT_EQ(names.count(QString()), 0U);
     picker.Select(BrushStyle::None, 0);
-    EXPECT_EQ(picker.accessibleDescription(), "None");
+    EXPECT_EQ(picker.accessibleDescription(), "No fill");
+}
+
+TEST_F(PatternPickerTest, ANameSaysWhatABoxFillsWithInEveryLanguage) {
+    const auto nameOf = [this](BrushStyle style, int index) {
+        for (int box = 0; box < 26; ++box) {
+            const PatternPicker::Box& one = picker.Boxes()[static_cast<std::size_t>(box)];
+            if (one.style == style && one.index == index) return PatternPicker().NameOf(box);
+        }
+        return QString();
+    };
+    EXPECT_EQ(nameOf(BrushStyle::Solid, 1), "Solid");
+    EXPECT_EQ(nameOf(BrushStyle::Pattern, 3), "Dots, 50%");
+    EXPECT_EQ(nameOf(BrushStyle::Pattern, 5), "Bold horizontal lines");
+    EXPECT_EQ(nameOf(BrushStyle::Pattern, 17), "Inverted trellis");
+    EXPECT_EQ(nameOf(BrushStyle::Hatch, 4), "Crossed hatching");
+    SetLanguageCode(1);
+    EXPECT_EQ(nameOf(BrushStyle::None, 0), "Nenhum");
+    EXPECT_EQ(nameOf(BrushStyle::Solid, 1), QStringLiteral("Sólido"));
+    std::set<QString> all;
+    for (std::int16_t language = 0; language < LanguageCount; ++language) {
+        SetLanguageCode(language);
+        all.insert(nameOf(BrushStyle::Pattern, 9));
+    }
+    EXPECT_EQ(all.size(), 4U);
+}
+
+TEST_F(PatternPickerTest, TheSelectionHasTheColourOfWhatIsChosen) {
+    QPalette palette = picker.palette();
+    palette.setColor(QPalette::Highlight, QColor(10, 200, 30));
+    picker.setPalette(palette);
+    picker.clearFocus();
+    picker.Select(BrushStyle::Pattern, 4);
+    const QRect place = Find(BrushStyle::Pattern, 4).place;
+    EXPECT_EQ(picker.grab().toImage().pixelColor(place.left(), place.center().y()), QColor(10, 200, 30));
 }
 
 TEST_F(PatternPickerTest, BoxesLookDifferentFromEachOtherAndFollowTheColours) {

@@ -12,8 +12,11 @@
 #include "support/SampleCharts.h"
 #include "support/TestViewer.h"
 
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -321,6 +324,46 @@ TEST(FontPicker, GivesWhatItWasGivenWhereNothingIsTouched) {
     ScriptedDesktop desktop;
     const FontPicker picker(desktop, start, {}, nullptr);
     EXPECT_EQ(picker.Choice(), start);
+}
+
+TEST(FontPicker, ShowsWhatIsDrawnForAFontThatIsNotInstalledWithItsStyles) {
+    const QString missing = QStringLiteral("Arial No Such");
+    ASSERT_FALSE(QFontDatabase::families().contains(missing));
+    const QString drawn = QFontInfo(QFont(missing)).family();
+    const FontChoice start{.family = missing, .size = 12, .bold = true};
+    FontPickerTexts texts;
+    texts.notInstalled = QStringLiteral("%1 is drawn as %2");
+    ScriptedDesktop desktop;
+    FontPicker picker(desktop, start, texts, nullptr);
+    auto* fonts = picker.findChild<QFontDialog*>();
+    EXPECT_EQ(fonts->currentFont().family(), drawn);
+    EXPECT_TRUE(fonts->currentFont().bold());
+    const auto* note = picker.findChild<QLabel*>(QStringLiteral("lblDrawn"));
+    ASSERT_NE(note, nullptr);
+    EXPECT_EQ(note->text(), QStringLiteral("%1 is drawn as %2").arg(missing, drawn));
+    EXPECT_FALSE(note->isHidden());
+
+    // Another style of the same family, as a person chooses it in the list.
+    const auto choose = [&](bool bold, bool italic) {
+        QListView& styles = *fonts->findChildren<QListView*>().at(1);
+        for (int row = 0; row < styles.model()->rowCount(); ++row) {
+            const QString style = styles.model()->index(row, 0).data().toString();
+            const QFont styled = QFontDatabase::font(drawn, style, 12);
+            if (styled.bold() != bold || styled.italic() != italic) continue;
+            styles.setCurrentIndex(styles.model()->index(row, 0));
+            break;
+        }
+        FontChoice expected = start;
+        expected.bold = bold;
+        expected.italic = italic;
+        EXPECT_EQ(fonts->currentFont().bold(), bold);
+        EXPECT_EQ(fonts->currentFont().italic(), italic);
+        EXPECT_EQ(picker.Choice(), expected);
+    };
+    choose(false, false);
+    choose(true, true);
+    choose(false, true);
+    choose(true, false);
 }
 
 TEST(FontPicker, GivesTheColourAndTheEffectsThatWereChosen) {

@@ -63,3 +63,12 @@ TEST_F(LooksTest, WhatMeansNothingIsRefusedAndNothingStored) {
     EXPECT_RAISES(380, (UseLook(QStringLiteral("SALES"), R"({"Projection": 77})"), 0));
     EXPECT_TRUE(LookNames(Folder()).isEmpty());
 }
+
+TEST_F(LooksTest, ALookThatIsImportedUnderATakenNameReplacesTheOldOneWhole) {
+    ImportLook(Folder(), R"({"ConfigId": "a", "Columns": [{}, {}, {}], "Series": [{}, {}, {}]})");
+    ImportLook(Folder(), R"({"ConfigId": "A", "Columns": [{}], "Series": [{}]})");
+    const QJsonObject look = Exported(QStringLiteral("a"));
+    EXPECT_EQ(look.value(QStringLiteral("Series")).toArray().size(), 1);
+    EXPECT_EQ(look.value(QStringLiteral("Columns")).toArray().size(), 1);
+    EXPECT_EQ(LookNames(Folder()), QStringList(QStringLiteral("a")));
+}

@@ -117,10 +117,25 @@ TEST(ChosenLook, PlainAndNoAreTheComponentsOwn) {
     EXPECT_EQ(Json(lines), (QJsonObject{{"chartType", 3}}));
 }
 
-TEST(ChosenLook, AStoredLookThatIsAskedForIsTheComponentsMatter) {
-    const ChosenLook chosen = Choose({"--use-config", "yes", "--config", "/nowhere"});
+TEST(ChosenLook, AStoredLookThatIsAskedForIsTheComponentsMatterWhereItCanBeLoaded) {
+    const QTemporaryDir folder;
+    CreateLookStore(folder.path() + '/');
+    const ChosenLook chosen = Choose({"--use-config", "yes", "--config", folder.path()});
     EXPECT_EQ(chosen.useConfig, 2);
     EXPECT_FALSE(chosen.look);
+    EXPECT_THROW(Choose({"--use-config", "yes", "--config", "/nowhere"}), RuntimeError);
+    // In a window the trouble is told, and the chart shown.
+    const CommandLine shown =
+        ParseCommandLine({"qmchart", "show", "t.csv", "--use-config", "yes", "--config", "/nowhere"});
+    EXPECT_NO_THROW(ChooseLook(shown, "t", TableOf("a,b")));
+}
+
+TEST(ChosenLook, AnAxisOfASketchIsThatOfItsPlace) {
+    const LookFile sketch("sketch.json",
+                          R"({"Axes": [{"AxisScaleVisible": false}], "Series": [{"SeriesIndex": 3}]})");
+    const QJsonObject look = Json(Choose({"--look", sketch.Path()}));
+    EXPECT_EQ(look.value("Axes").toArray().size(), 4);
+    EXPECT_EQ(look.value("Axes").toArray().at(0).toObject().value("AxisScaleVisible"), false);
 }
 
 TEST(ChosenLook, AFileOfThatNameIsTakenBeforeALookOfTheProgram) {

@@ -107,8 +107,8 @@ TEST(TableReader, ReadsUtf8AndUtf16WithAMark) {
 
 TEST(TableReader, NamesTheLineThatIsNoText) {
     EXPECT_TRUE(ErrorOf("a,b\n1,2\n\xE9t\xE9,3\n").startsWith("Error 5: ")) << "Latin-1";
-    EXPECT_TRUE(ErrorOf("a,b\n1,2\n\xE9t\xE9,3\n").contains("line 3 "));
-    EXPECT_TRUE(ErrorOf("a,b\n1,2\xC3").contains("line 2 ")) << "cut within a character";
+    EXPECT_TRUE(ErrorOf("a,b\n1,2\n\xE9t\xE9,3\n").contains("line 3: "));
+    EXPECT_TRUE(ErrorOf("a,b\n1,2\xC3").contains("line 2: ")) << "cut within a character";
     EXPECT_RAISES(5, Read(QByteArray("\xFF\xFE"
                                      "a\0,",
                                      5)));
@@ -119,15 +119,15 @@ TEST(TableReader, NamesTheLineThatIsNoText) {
 
 TEST(TableReader, NamesTheLineOfMalformedQuoting) {
     EXPECT_TRUE(ErrorOf("a,b\n1,2\n\"x\"y,3\n").startsWith("Error 5: "));
-    EXPECT_TRUE(ErrorOf("a,b\n1,2\n\"x\"y,3\n").contains("line 3 ")) << "text behind the quote";
-    EXPECT_TRUE(ErrorOf("a,b\n1,2\"\n").contains("line 2 ")) << "a quote within a cell";
-    EXPECT_TRUE(ErrorOf("a,b\n1,2\n\"x,3\n4,5\n").contains("line 4 ")) << "never closed";
+    EXPECT_TRUE(ErrorOf("a,b\n1,2\n\"x\"y,3\n").contains("line 3, column 1: ")) << "text behind the quote";
+    EXPECT_TRUE(ErrorOf("a,b\n1,2\"\n").contains("line 2, column 2: ")) << "a quote within a cell";
+    EXPECT_TRUE(ErrorOf("a,b\n1,2\n\"x,3\n4,5\n").contains("line 3, column 1: ")) << "never closed";
 }
 
 TEST(TableReader, NamesLineColumnAndTextOfWhatIsNoNumber) {
     const QString error = ErrorOf("a,b,c\n\n\"x\ny\",1,2\nz,3,many\n");
     EXPECT_TRUE(error.startsWith("Error 13: ")) << error.toStdString();
-    EXPECT_TRUE(error.contains("line 5, column 3 ")) << error.toStdString();
+    EXPECT_TRUE(error.contains("line 5, column 3: ")) << error.toStdString();
     EXPECT_TRUE(error.contains("\"many\"")) << error.toStdString();
     const QString shortened = ErrorOf("a,b\n1,\"two\n" + QByteArray(500, 'w') + "\"\n");
     EXPECT_LT(shortened.size(), 150);
@@ -136,7 +136,7 @@ TEST(TableReader, NamesLineColumnAndTextOfWhatIsNoNumber) {
 
 TEST(TableReader, RefusesRowsLongerThanTheHeader) {
     const QString error = ErrorOf("a,b\n1,2\n3,4,5\n");
-    EXPECT_TRUE(error.startsWith("Error 5: ") && error.contains("line 3 ")) << error.toStdString();
+    EXPECT_TRUE(error.startsWith("Error 5: ") && error.contains("line 3: ")) << error.toStdString();
 }
 
 TEST(TableReader, RefusesTablesWithoutNumbers) {
@@ -171,6 +171,33 @@ TEST(TableReader, ReadsQuotedThousandsBetweenCommas) {
 TEST(TableReader, RefusesDecimalsThatContradictEachOther) {
     EXPECT_TRUE(ErrorOf("k;a;b\n1;3,14;2.5\n").contains("\"3,14\""));
     EXPECT_TRUE(ErrorOf("k;a;b\n1;1,234;1.234\n").contains("\"1,234\""));
+}
+
+TEST(TableReader, ReadsUnitsAndBracketsWhereAColumnAgrees) {
+    const Table table = Read("k,a,b\n1,12%,(3)\n2,,5\n3,4.5 %,0\n");
+    EXPECT_EQ(Values(table), "12 -3/x 5/4.5 0");
+    EXPECT_EQ(table.unit, "");
+    EXPECT_EQ(Read("k,a,b\n1,12%,3%\n").unit, "%");
+    EXPECT_EQ(Values(Read("k;a\n1;-1.200,50 €\n2;€ 3\n")), "-1200.5/3");
+    EXPECT_TRUE(ErrorOf("k,a\n1,12%\n2,45\n").contains("\"12%\" in line 2"));
+    EXPECT_TRUE(ErrorOf("k,a\n1,-1\n2,(2)\n").startsWith("Error 13: "));
+    for (const char* cell : {"%", "$", "()", "(", "(%)", "5%%", "((5))", "12 km", "$5€"})
+        EXPECT_TRUE(ErrorOf(QByteArray("k,a\n1,") + cell + "\n").startsWith("Error 13: ")) << cell;
+}
+
+TEST(TableReader, WarnsOfShortRowsOnce) {
+    EXPECT_TRUE(Read("k,a\n1,2\n").warnings.isEmpty());
+    const QStringList warnings = Read("k,a,b\n1,2\n2,3,4\n3\n").warnings;
+    ASSERT_EQ(warnings.size(), 1);
+    EXPECT_TRUE(warnings.front().startsWith("the table, line 2: 2 of 3 cells"))
+        << warnings.front().toStdString();
+}
+
+TEST(TableReader, AsksWhereANumberCanBeReadInTwoWays) {
+    EXPECT_TRUE(ErrorOf("k;a\n1;1.234\n").contains("--decimal"));
+    EXPECT_EQ(Values(Read("k;a\n1;1.234\n", {.decimal = ','})), "1234");
+    EXPECT_EQ(Values(Read("k;a\n1;1.234\n", {.decimal = '.'})), "1.234");
+    EXPECT_EQ(Values(Read("k;a\n1;0.234\n")), "0.234");
 }
 
 TEST(Separator, IsTheOneThatDividesMostEvenly) {

@@ -59,6 +59,30 @@ TEST_F(LocalTextTest, AxisTitleProperties) {
               QStringLiteral("Propiedades del Título del Eje"), QStringLiteral("Proprietà Titolo Asse"));
 }
 
+TEST_F(LocalTextTest, AChartIsCalledByOneWordInSpanish) {
+    const Words& spanish = *LanguageOrEnglish(2).words;
+    QStringList all;
+    for (const TextRow& row : spanish.texts) all.append(QString::fromUtf16(row.text.data()));
+    for (const HintRow& row : spanish.hints) all.append(QString::fromUtf16(row.text.data()));
+    for (const std::u16string_view remark : spanish.remarks) all.append(QString::fromUtf16(remark.data()));
+    const ChartVocabulary words = spanish.chart();
+    all.append(words.chart);
+    for (const QString& kind : words.kinds) all.append(kind);
+    for (const QString& text : all)
+        EXPECT_FALSE(text.contains(u"gráfico", Qt::CaseInsensitive)) << text.toStdString();
+}
+
+TEST_F(LocalTextTest, AWordStandsSmallBetweenOthers) {
+    ExpectRow(111, QStringLiteral("Make Default Configuration"),
+              QStringLiteral("Definir como Configuração Padrão"),
+              QStringLiteral("Establecer como Configuración Predeterminada"),
+              QStringLiteral("Imposta come Configurazione Predefinita"));
+    ExpectRow(101, QStringLiteral("Save Configuration As"), QStringLiteral("Salvar Configuração como"),
+              QStringLiteral("Guardar Configuración como"), QStringLiteral("Salva Configurazione con Nome"));
+    EXPECT_EQ(TextIn(3, 67), u"Dentro");
+    EXPECT_EQ(TextIn(3, 68), u"Fuori");
+}
+
 TEST_F(LocalTextTest, GraphProperties) {
     ExpectRow(8, QStringLiteral("Graph Properties"), QStringLiteral("Propriedades do Gráfico"),
               QStringLiteral("Propiedades de la Gráfica"), QStringLiteral("Proprietà Grafico"));

@@ -434,3 +434,29 @@ TEST_F(ControlBarTest, AKindThatCannotShowSomethingTellsSoInTheStatus) {
     form->SetSelected(static_cast<int>(ChartType::Pie2D));
     EXPECT_EQ(status.Panel(4).Text().section(u';', 0, 0), "2 negative values have no slice");
 }
+
+TEST_F(ControlBarTest, AnXYChartThatIsChosenShowsPointsAndLeavingItTheLinesThatThereWere) {
+    Open(4, 3, ChartType::Line2D);
+    const auto series = [this]() -> Series& { return Model().Plot.SeriesCollection(1); };
+    Choose(LocalText(TextKey::XYScatter));
+    ASSERT_EQ(Model().chartType(), ChartType::XY2D);
+    EXPECT_TRUE(series().SeriesMarker.Show);
+    EXPECT_FALSE(series().ShowLine);
+    EXPECT_EQ(form->Look().markers, 1);
+    EXPECT_EQ(form->Look().lines, 0);
+    form->Undo();
+    EXPECT_FALSE(series().SeriesMarker.Show);
+    EXPECT_TRUE(series().ShowLine);
+    form->Redo();
+    Choose(LocalText(TextKey::Line));
+    EXPECT_FALSE(series().SeriesMarker.Show);
+    EXPECT_TRUE(series().ShowLine);
+    EXPECT_EQ(form->Look().lines, 1);
+}
+
+TEST_F(ControlBarTest, AnXYChartThatALookOrTheProgramAsksForKeepsItsLines) {
+    Open(4, 3, ChartType::Line2D);
+    form->SetSelected(static_cast<int>(ChartType::XY2D));
+    EXPECT_TRUE(Model().Plot.SeriesCollection(1).ShowLine);
+    EXPECT_FALSE(Model().Plot.SeriesCollection(1).SeriesMarker.Show);
+}

@@ -1,5 +1,7 @@
 #include "viewer/ElementEditing.h"
 
+#include "base/Units.h"
+#include "chartcontrol/scene/HitTest.h"
 #include "dialogs/GraphSeriesProperties.h"
 #include "dialogs/GraphTextProperties.h"
 #include "dialogs/GraphTypes.h"
@@ -14,6 +16,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 
 #include <gtest/gtest.h>
 
@@ -109,7 +112,7 @@ TEST_P(TextElementTest, ARightClickNamesItAndTheEntryOpensItsDialog) {
     });
     OpenMenu(*form, Place(element.code, element.index));
     EXPECT_TRUE(First().isVisible());
-    EXPECT_EQ(First().text(), LocalText(element.captionKey));
+    EXPECT_EQ(First().text().remove(u'&'), LocalText(element.captionKey));
     EXPECT_EQ(Control().SelectedPart().part, static_cast<int>(element.code));
     ChooseEntry(*form, "optGenericProperties");
     EXPECT_TRUE(person.WasAsked());
@@ -192,7 +195,7 @@ TEST_F(ElementEditingTest, TheMenuKeyAndShiftF10ShowTheMenuOfTheSelectedPart) {
          {std::pair(Qt::Key_Menu, Qt::NoModifier), std::pair(Qt::Key_F10, Qt::ShiftModifier)}) {
         QTest::keyClick(&Control(), key, modifier);
         ASSERT_TRUE(QTest::qWaitFor([this] { return Menu().isVisible(); })) << key;
-        EXPECT_EQ(First().text(), LocalText(TextKey::FootnoteProperties));
+        EXPECT_EQ(First().text().remove(u'&'), LocalText(TextKey::FootnoteProperties));
         EXPECT_TRUE(First().isVisible());
         Menu().close();
     }
@@ -228,7 +231,7 @@ TEST_F(ElementEditingTest, ASeriesOpensTheDialogForSeries) {
         const QPoint place = Place(PartCode::Series, 2);
         if (byMenu) {
             OpenMenu(*form, place);
-            EXPECT_EQ(First().text(), LocalText(TextKey::SeriesProperties));
+            EXPECT_EQ(First().text().remove(u'&'), LocalText(TextKey::SeriesProperties));
             ChooseEntry(*form, "optGenericProperties");
         } else {
             DoubleClick(*form, place);
@@ -355,4 +358,41 @@ TEST_F(ElementEditingTest, TheCaptionIsInTheLanguageOfItsTime) {
         EXPECT_EQ(ElementEditing::Caption(static_cast<int>(PartCode::Plot)), QString());
         EXPECT_EQ(ElementEditing::Caption(NoPart), QString());
     }
+}
+
+TEST_F(ElementEditingTest, AGridLineBelongsToThePlotAndLeadsToThePageOfTheGrid) {
+    Model().Plot.Axis(AxisId::Y).AxisGrid.MajorPen.Style = PenStyle::Solid;
+    Control().Refresh();
+    const Scene& scene = Control().CurrentScene();
+    std::optional<QPoint> place;
+    for (const std::size_t index : Find(scene, {PartCode::Axis, static_cast<int>(AxisId::Y), AnyIndex})) {
+        // A level line of an upright axis, met where no bar covers it.
+        const Box& bounds = scene.shapes[index].bounds;
+        if (bounds.Width() < bounds.Height()) continue;
+        const Point right{bounds.right - 3, bounds.Center().y};
+        if (Hit(scene, right) == index)
+            place = QPointF(right.x / PointsPerPixel, right.y / PointsPerPixel).toPoint();
+    }
+    ASSERT_TRUE(place.has_value());
+    QString page;
+    Person<GraphTypes> person([&](GraphTypes& dialog) {
+        const auto& tabs = The<QTabWidget>(dialog, "TabTypes");
+        page = tabs.tabText(tabs.currentIndex()).remove(u'&');
+        ClickIn(dialog, "btnCancel");
+    });
+    DoubleClick(*form, *place);
+    EXPECT_TRUE(person.WasAsked());
+    EXPECT_EQ(page, "Grid");
+    EXPECT_EQ(Control().SelectedPart(), (ChartPart{static_cast<int>(PartCode::Plot), 1}));
+
+    OpenMenu(*form, *place);
+    EXPECT_FALSE(First().isVisible());
+    page.clear();
+    Person<GraphTypes> again([&](GraphTypes& dialog) {
+        const auto& tabs = The<QTabWidget>(dialog, "TabTypes");
+        page = tabs.tabText(tabs.currentIndex()).remove(u'&');
+        ClickIn(dialog, "btnCancel");
+    });
+    ChooseEntry(*form, "optChart");
+    EXPECT_EQ(page, "Grid");
 }

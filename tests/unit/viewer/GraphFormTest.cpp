@@ -8,14 +8,18 @@
 #include "support/Raises.h"
 #include "support/ScriptedDesktop.h"
 #include "support/TestStore.h"
+#include "text/LocalHint.h"
 #include "text/LocalText.h"
 #include "viewer/ViewerStatusBar.h"
 #include "viewer/ViewerToolBar.h"
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QDialog>
 #include <QImage>
+#include <QLabel>
 #include <QMenu>
+#include <QMimeData>
 #include <QTest>
 #include <QTimer>
 
@@ -227,11 +231,88 @@ TEST_F(GraphFormTest, TheMenuHasItsCaptionsInTheLanguageOfItsTime) {
         SetLanguageCode(language);
         const GraphForm form;
         for (const auto& [name, key] : keys)
-            EXPECT_EQ(form.findChild<QAction*>(QLatin1String(name))->text(), LocalText(key));
-        EXPECT_EQ(form.findChild<QMenu*>(QStringLiteral("optSendTo"))->title(), LocalText(TextKey::SendTo));
-        EXPECT_EQ(form.findChild<QAction*>(QStringLiteral("optSaveConfigAs"))->text(),
+            EXPECT_EQ(form.findChild<QAction*>(QLatin1String(name))->text().remove(u'&'), LocalText(key));
+        EXPECT_EQ(form.findChild<QMenu*>(QStringLiteral("optSendTo"))->title().remove(u'&'),
+                  LocalText(TextKey::SendTo));
+        EXPECT_EQ(form.findChild<QAction*>(QStringLiteral("optSaveConfigAs"))->text().remove(u'&'),
                   LocalText(TextKey::SaveConfigurationAs) + "...");
     }
+}
+
+TEST_F(GraphFormTest, EveryEntryOfAMenuHasAMnemonicOfItsOwn) {
+    for (std::int16_t language = 0; language <= 3; ++language) {
+        SetLanguageCode(language);
+        const GraphForm form;
+        for (const char* name : {"mProperties", "optSendTo"}) {
+            QStringList keys;
+            for (const QAction* entry : form.findChild<QMenu*>(QLatin1String(name))->actions()) {
+                if (entry->isSeparator() || !entry->isVisible()) continue;
+                const qsizetype mark = entry->text().indexOf(u'&');
+                ASSERT_GE(mark, 0) << entry->text().toStdString();
+                keys.append(entry->text().mid(mark + 1, 1).toLower());
+            }
+            EXPECT_GE(keys.size(), 4);
+            EXPECT_EQ(keys.removeDuplicates(), 0) << name << ' ' << language;
+        }
+    }
+}
+
+TEST_F(GraphFormTest, KeysOfTheWholeWindowStandBesideTheirEntries) {
+    const GraphForm form;
+    for (const auto& [name, keys] : {std::pair("optCopy", "Ctrl+C"), std::pair("optSaveBMP", "Ctrl+S"),
+                                     std::pair("optPrint", "Ctrl+P"), std::pair("optKeys", "F1")}) {
+        const auto* entry = form.findChild<QAction*>(QLatin1String(name));
+        ASSERT_NE(entry, nullptr) << name;
+        EXPECT_EQ(entry->shortcut(), QKeySequence(QLatin1String(keys)));
+        EXPECT_TRUE(entry->isShortcutVisibleInContextMenu());
+    }
+}
+
+TEST_F(GraphFormTest, TheKeysOfTheWindowDoWhatTheirEntriesDo) {
+    GraphForm form;
+    form.ChartImage().Model().SetGridSize(2, 2);
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    desktop.ClearClipboard();
+    QTest::keyClick(&form, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_FALSE(desktop.Clipboard()->formats().isEmpty());
+    QTest::keyClick(&form, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desktop.pickers.size(), 1);
+    desktop.printer = QStringLiteral("paper");
+    QTest::keyClick(&form, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(desktop.printDialogs, 1);
+    form.SetModified(false);
+}
+
+TEST_F(GraphFormTest, TheCardNamesEveryKeyInEveryLanguage) {
+    /// Reads the card in place of a person.
+    class ReadingDesktop : public ScriptedDesktop {
+    public:
+        void RunModal(QDialog& dialog) override {
+            title = dialog.windowTitle();
+            for (const QLabel* line : dialog.findChildren<QLabel*>()) lines.append(line->text());
+        }
+        QString title;
+        QStringList lines;
+    };
+    QStringList titles;
+    for (std::int16_t language = 0; language <= 3; ++language) {
+        SetLanguageCode(language);
+        ReadingDesktop reading;
+        const ScopedDesktop read(reading);
+        GraphForm form;
+        form.show();
+        form.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        QTest::keyClick(&form, Qt::Key_F1);
+        titles.append(reading.title);
+        for (const char* keys : {"F1", "Ctrl+C", "Ctrl+S", "Ctrl+P", "Ctrl+Z", "Enter"})
+            EXPECT_TRUE(reading.lines.contains(QLatin1String(keys))) << keys;
+        for (const Hint hint : {Hint::CtrlDrag, Hint::TurnView, Hint::CopyChart})
+            EXPECT_TRUE(reading.lines.contains(LocalHint(hint)));
+    }
+    EXPECT_EQ(titles.removeDuplicates(), 0);
 }
 
 TEST_F(GraphFormTest, ALanguageWithoutTextsRaises326) {
@@ -330,6 +411,6 @@ TEST_F(GraphFormTest, TheChartIsToldInTheLanguageThatTheWindowWasMadeIn) {
     EXPECT_EQ(told,
               QStringList({QStringLiteral("Bar chart with 1 series and 2 categories, without values."),
                            QStringLiteral("Gráfico de barras com 1 série e 2 categorias, sem valores."),
-                           QStringLiteral("Gráfico de barras con 1 serie y 2 categorías, sin valores."),
+                           QStringLiteral("Gráfica de barras con 1 serie y 2 categorías, sin valores."),
                            QStringLiteral("Grafico a barre con 1 serie e 2 categorie, senza valori.")}));
 }

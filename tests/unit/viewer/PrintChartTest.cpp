@@ -88,6 +88,40 @@ TEST_F(PrintChartTest, TheChartIsTheSameAndTheClipboardEmptyAfterwards) {
     EXPECT_FALSE(form.Modified());
 }
 
+TEST_F(PrintChartTest, AWideChartProposesAWidePage) {
+    QList<QPageLayout::Orientation> proposed;
+    desktop.settle = [&](QPrinter& settings) { proposed.append(settings.pageLayout().orientation()); };
+    form.ChartImage().resize(800, 400);
+    PrintChart(form.ChartImage());
+    form.ChartImage().resize(400, 800);
+    PrintChart(form.ChartImage());
+    EXPECT_EQ(proposed, QList<QPageLayout::Orientation>({QPageLayout::Landscape, QPageLayout::Portrait}));
+}
+
+TEST_F(PrintChartTest, TheDocumentBearsTheChartsTitle) {
+    form.ChartImage().Model().Title.Text = QStringLiteral("Sales by year");
+    PrintChart(form.ChartImage());
+    QByteArray title("/Title ");
+    EXPECT_TRUE(BytesOf(desktop.printerFile).contains(title));
+    // Titles of documents are UTF-16 there.
+    QByteArray letters;
+    for (const char letter : QByteArray("Sales by year")) letters += QByteArray(1, '\0') + letter;
+    EXPECT_TRUE(BytesOf(desktop.printerFile).contains(letters));
+}
+
+TEST_F(PrintChartTest, ThePageIsSeenBeforeItIsPrinted) {
+    form.ChartImage().resize(800, 400);
+    const Chart before = form.ChartImage().Model();
+    QPageLayout::Orientation orientation = QPageLayout::Portrait;
+    desktop.settle = [&](QPrinter& settings) { orientation = settings.pageLayout().orientation(); };
+    form.findChild<QAction*>(QStringLiteral("optPreview"))->trigger();
+    EXPECT_EQ(desktop.previews, QStringList("Print Preview"));
+    EXPECT_TRUE(HasPage());
+    EXPECT_EQ(orientation, QPageLayout::Landscape);
+    EXPECT_EQ(desktop.printDialogs, 0);
+    EXPECT_EQ(form.ChartImage().Model(), before);
+}
+
 TEST_F(PrintChartTest, ACancelledDialogPrintsNothingAndChangesNothing) {
     desktop.chosenPrinter.reset();
     const Chart before = form.ChartImage().Model();

@@ -79,6 +79,22 @@ TEST_F(SnapshotTest, WithoutAFileNameItAsksAndTellsTheNameThatWasUsed) {
     EXPECT_TRUE(QFile::exists(chosen));
 }
 
+TEST_F(SnapshotTest, ANameIsProposedFromTheTitleAndEveryFormOffered) {
+    const auto proposed = [this](const QString& title) {
+        form.ChartImage().Model().Title.Text = title;
+        QString name;
+        SaveChartSnapshot(form, form.ChartImage(), name);
+        return desktop.pickers.back().name;
+    };
+    EXPECT_EQ(proposed(QStringLiteral("Vendas de Março")), QStringLiteral("Vendas de Março"));
+    EXPECT_EQ(proposed(QStringLiteral(" North/South:\n\"2024\" ")), "North South 2024");
+    EXPECT_EQ(proposed(QStringLiteral("...")), "");
+    EXPECT_EQ(proposed(QString()), "");
+    EXPECT_EQ(proposed(QString(500, u'x')).size(), 80);
+    EXPECT_EQ(desktop.pickers.back().forms, QStringList({"bmp", "png", "svg", "pdf", "emf"}));
+    EXPECT_FALSE(desktop.pickers.back().formCaption.isEmpty());
+}
+
 TEST_F(SnapshotTest, AfterwardsTheClipboardIsEmptyAndTheStatusTellsSo) {
     QString name = InFolder("chart.png");
     SaveChartSnapshot(form, form.ChartImage(), name);
