@@ -53,8 +53,13 @@ enum class Hint {
     DoubleClick,
     RightClick,
     CtrlDrag,
+    MovePart, ///< title, footnote or legend
+    MoveByAPoint,
+    OwnPlace,
+    Dragging,
+    CtrlArrowKeys,
 };
 
-inline constexpr std::size_t HintCount = static_cast<std::size_t>(Hint::CtrlDrag) + 1;
+inline constexpr std::size_t HintCount = static_cast<std::size_t>(Hint::CtrlArrowKeys) + 1;
 
 } // namespace QmChart6

@@ -39,6 +39,9 @@ QList<CardRow> Keys() {
         {LocalHint(Hint::DoubleClick), Hint::EditPart},
         {LocalHint(Hint::RightClick), Hint::PartMenu},
         {LocalHint(Hint::CtrlDrag), Hint::TurnView},
+        {LocalHint(Hint::Dragging), Hint::MovePart},
+        {LocalHint(Hint::CtrlArrowKeys), Hint::MoveByAPoint},
+        {QStringLiteral("Home"), Hint::OwnPlace},
     };
 }
 

@@ -186,6 +186,11 @@ constexpr HintRows Hints = [] {
         {DoubleClick, u"Double-click"},
         {RightClick, u"Right-click"},
         {CtrlDrag, u"Ctrl+drag"},
+        {MovePart, u"Move the title, the footnote or the legend"},
+        {MoveByAPoint, u"Move it by a point"},
+        {OwnPlace, u"Back to its own place"},
+        {Dragging, u"Drag"},
+        {CtrlArrowKeys, u"Ctrl+arrow keys"},
     }};
 }();
 // clang-format on

@@ -186,6 +186,11 @@ constexpr HintRows Hints = [] {
         {DoubleClick, u"Doppio clic"},
         {RightClick, u"Clic con il tasto destro"},
         {CtrlDrag, u"Ctrl+trascinamento"},
+        {MovePart, u"Spostare il titolo, la nota a piè di pagina o la legenda"},
+        {MoveByAPoint, u"Spostarlo di un punto"},
+        {OwnPlace, u"Di nuovo al suo posto"},
+        {Dragging, u"Trascinamento"},
+        {CtrlArrowKeys, u"Ctrl+frecce"},
     }};
 }();
 // clang-format on

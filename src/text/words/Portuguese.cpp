@@ -186,6 +186,11 @@ constexpr HintRows Hints = [] {
         {DoubleClick, u"Clique duplo"},
         {RightClick, u"Clique com o botão direito"},
         {CtrlDrag, u"Ctrl+arrastar"},
+        {MovePart, u"Mover o título, a nota de rodapé ou a legenda"},
+        {MoveByAPoint, u"Movê-lo em um ponto"},
+        {OwnPlace, u"De volta ao seu lugar"},
+        {Dragging, u"Arrastar"},
+        {CtrlArrowKeys, u"Ctrl+setas"},
     }};
 }();
 // clang-format on

@@ -186,6 +186,11 @@ constexpr HintRows Hints = [] {
         {DoubleClick, u"Doble clic"},
         {RightClick, u"Clic con el botón derecho"},
         {CtrlDrag, u"Ctrl+arrastrar"},
+        {MovePart, u"Mover el título, la nota al pie o la leyenda"},
+        {MoveByAPoint, u"Moverlo un punto"},
+        {OwnPlace, u"De vuelta a su lugar"},
+        {Dragging, u"Arrastrar"},
+        {CtrlArrowKeys, u"Ctrl+flechas"},
     }};
 }();
 // clang-format on
