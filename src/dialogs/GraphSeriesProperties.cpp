@@ -103,13 +103,13 @@ QWidget* GraphSeriesProperties::MakeLabels() {
         chkComponent_[bit] = NewBox(page, Names[bit], Keys[bit]);
         grid->addWidget(chkComponent_[bit], static_cast<int>(bit) + 2, 0, 1, 2);
     }
-    On(cbLabels_, &QComboBox::activated, [this] { ShowSomething(); });
+    On(cbLabels_, &QComboBox::activated, [this] { placeChosen_ = true; });
     return page;
 }
 
-/// Whoever chooses a place for labels that show nothing wants to see them.
+/// Whoever chooses a place for labels, and not what they show, wants to see their values.
 void GraphSeriesProperties::ShowSomething() {
-    const bool shown = QmLabels() != static_cast<std::int16_t>(LabelLocation::None);
+    const bool shown = placeChosen_ && QmLabels() != static_cast<std::int16_t>(LabelLocation::None);
     const bool nothing = std::none_of(chkComponent_.begin(), chkComponent_.end(),
                                       [](const QCheckBox* box) { return box->isChecked(); });
     if (shown && nothing) chkComponent_.front()->setChecked(true);
@@ -161,11 +161,15 @@ void GraphSeriesProperties::Execute(const SeriesTarget& QmSeries, ChartType QMCh
     chartType_ = QMChartType;
     is3D_ = Is3D(QMChartType);
     Fill(Resolved(QmSeries), Label);
-    RunLoop([&] { WriteBack(Resolved(QmSeries), Label); });
+    RunLoop([&] {
+        ShowSomething();
+        WriteBack(Resolved(QmSeries), Label);
+    });
 }
 
 void GraphSeriesProperties::Fill(const Series& series, const QString& label) {
     const DataPoint& points = series.DataPoints.Item(DataPoints::All);
+    placeChosen_ = false;
     txtName_->setText(label);
     FillTypes();
     cbLabels_->clear();

@@ -81,6 +81,7 @@ private:
     QCheckBox* chkStdDev_ = nullptr;
     QCheckBox* chkMean_ = nullptr;
     QCheckBox* chkReg_ = nullptr;
+    bool placeChosen_ = false; ///< of the labels, by hand
 };
 
 } // namespace QmChart6

@@ -71,7 +71,7 @@ void GraphTypes::Connect() {
     });
     On(form_.btnBackColor, &QPushButton::clicked,
        [this] { form_.pbBackColor->Pick(form_.btnBackColor->accessibleName()); });
-    On(form_.cbLabels, &QComboBox::activated, [this] { ShowSomething(); });
+    On(form_.cbLabels, &QComboBox::activated, [this] { placeChosen_ = true; });
     for (const GraphTypesRow& row : settings_) {
         const auto follow = [this, &row] { Follow(row); };
         if (auto* check = qobject_cast<QCheckBox*>(row.box)) On(check, &QCheckBox::toggled, follow);
@@ -80,9 +80,9 @@ void GraphTypes::Connect() {
     }
 }
 
-/// Whoever chooses a place for labels that show nothing wants to see them.
+/// Whoever chooses a place for labels, and not what they show, wants to see their values.
 void GraphTypes::ShowSomething() {
-    const bool shown = QmLabels() != static_cast<std::int16_t>(LabelLocation::None);
+    const bool shown = placeChosen_ && QmLabels() != static_cast<std::int16_t>(LabelLocation::None);
     const bool nothing = std::all_of(form_.chkComponent.begin(), form_.chkComponent.end(),
                                      [](const QCheckBox* box) { return box->checkState() == Qt::Unchecked; });
     if (shown && nothing) form_.chkComponent.front()->setCheckState(Qt::Checked);
@@ -98,6 +98,7 @@ void GraphTypes::Execute(Viewer& viewer) {
     viewer.Show(look);
     Fill(look);
     RunLoop([&] {
+        ShowSomething();
         LookState written = viewer.Look();
         Write(written);
         viewer.Show(written);
@@ -107,6 +108,7 @@ void GraphTypes::Execute(Viewer& viewer) {
 /// Lets no handler answer to the settings: the sample is like that already, and a box that another one's
 /// handler clears would not show what the chart has.
 void GraphTypes::Fill(const LookState& look) {
+    placeChosen_ = false;
     sample_ = look;
     sample_.chart = SampleOf(look.chart);
     for (const GraphTypesRow& row : settings_) ShowValue(*row.box, row.read(look));

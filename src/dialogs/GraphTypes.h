@@ -63,6 +63,7 @@ private:
     LookState sample_;
     /// The kind whose locations cbLabels offers.
     ChartType labelsOf_ = ChartType::Bar2D;
+    bool placeChosen_ = false; ///< of the labels, by hand
 };
 
 } // namespace QmChart6

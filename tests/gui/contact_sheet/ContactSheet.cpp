@@ -22,6 +22,7 @@
 #include "support/TestStore.h"
 #include "support/TestViewer.h"
 #include "text/Languages.h"
+#include "text/LocalHint.h"
 #include "text/LocalText.h"
 #include "viewer/GraphForm.h"
 #include "viewer/ViewerMenu.h"
@@ -182,7 +183,7 @@ void ShowText() {
 
 void ShowFontPicker() {
     const FontPickerTexts texts{LocalText(TextKey::Font), LocalText(TextKey::Color), LocalText(TextKey::Ok),
-                                LocalText(TextKey::Cancel)};
+                                LocalText(TextKey::Cancel), LocalHint(Hint::FontNotInstalled)};
     CurrentDesktop().PickFont(
         nullptr, {.family = QStringLiteral("Arial"), .size = 9, .colour = QColor(20, 60, 140)}, texts);
 }

@@ -101,6 +101,15 @@ TEST_F(GraphSeriesPropertiesTest, LabelsThatAreGivenAPlaceShowTheirValues) {
     Edit({chooseNext});
     EXPECT_EQ(Points().DataPointLabel.LocationType, LabelLocation::AbovePoint);
     EXPECT_EQ(Points().DataPointLabel.Component, LabelShowsValue);
+    // Who says what labels show is taken at their word.
+    Points().DataPointLabel.Component = 0;
+    Edit({[&](QDialog& form) {
+        The<QTabWidget>(form, "tabSeries").setCurrentIndex(1);
+        QTest::keyClick(&List(form, "cbLabels"), Qt::Key_Down);
+        Click(form, "chkComponent0");
+        Ok(form);
+    }});
+    EXPECT_EQ(Points().DataPointLabel.Component, LabelShowsValue);
     Points().DataPointLabel.Component = LabelShowsPercent;
     Edit({chooseNext});
     EXPECT_EQ(Points().DataPointLabel.Component, LabelShowsPercent);
