@@ -28,11 +28,12 @@ int CommonComponents(const SeriesCollection& series) {
 
 void StyleAddedSeries(Chart& chart, int number, int last, int components) {
     DataPoint& added = AllPoints(chart, number);
-    const DataPointLabel& model = AllPoints(chart, last).DataPointLabel;
     const Colour colour = SeriesDefaultColor(number);
     added.Brush.FillColor.Set(colour.Red, colour.Green, colour.Blue);
     DataPointLabel& label = added.DataPointLabel;
     label.Component = components;
+    // Only from here on is there need of a series that was there before.
+    const DataPointLabel& model = AllPoints(chart, last).DataPointLabel;
     label.LineStyle = model.LineStyle;
     label.LocationType = model.LocationType;
     label.PercentFormat = QStringLiteral("0.0%");

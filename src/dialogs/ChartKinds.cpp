@@ -53,6 +53,14 @@ int IndexOfLabelLocation(ChartType type, LabelLocation location) {
     return found == offered.end() ? 0 : static_cast<int>(found - offered.begin());
 }
 
+int IndexOfLabelNumber(ChartType type, int number) {
+    // The lists leave numbers out: that of pies all from 1 to 4, that of points 4 to 6.
+    const bool pie = KindOf(type).form == ChartForm::Pies;
+    const int index = number == 0 ? 0 : pie ? number - 4 : number >= 5 ? number - 3 : number;
+    const bool isThere = index >= 0 && index < static_cast<int>(KindOf(type).labels.offered.size());
+    return isThere ? index : IndexOfLabelLocation(type, ToLabelLocation(number));
+}
+
 QStringList LabelLineTexts() {
     return {LocalText(TextKey::NoLabelLine), LocalText(TextKey::StraightLabelLine),
             LocalText(TextKey::BentLabelLine)};

@@ -25,6 +25,10 @@ QStringList LabelLocationTexts(ChartType type);
 /// takes its place does.
 int IndexOfLabelLocation(ChartType type, LabelLocation location);
 
+/// Where the location of that number stands in that list, as its number says: one that charts of the type do
+/// not have stands where the numbers lead, if that is in the list, otherwise where what takes its place does.
+int IndexOfLabelNumber(ChartType type, int number);
+
 /// The label line styles by their number, in the process' language.
 QStringList LabelLineTexts();
 

@@ -235,7 +235,7 @@ std::int16_t GraphSeriesProperties::QmLabels() const {
 }
 
 void GraphSeriesProperties::SetQmLabels(std::int16_t code) {
-    cbLabels_->setCurrentIndex(IndexOfLabelLocation(chartType_, ToLabelLocation(code)));
+    cbLabels_->setCurrentIndex(IndexOfLabelNumber(chartType_, static_cast<int>(ToLabelLocation(code))));
 }
 
 int GraphSeriesProperties::QmStyle() const {

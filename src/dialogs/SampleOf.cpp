@@ -8,7 +8,8 @@ namespace QmChart6 {
 
 namespace {
 
-constexpr int MostSampleRows = 6;
+/// More would make every choice wait.
+constexpr int MostSampleCells = 250'000;
 
 /// A label that leaves room for the chart in a small picture.
 QString Shortened(const QString& label) {
@@ -26,7 +27,8 @@ double SampleValue(int row, int column) {
 Chart SampleOf(const Chart& chart) {
     Chart sample = chart;
     SetLegendVisible(sample, chart.ShowLegend ? True : False); // from here on a smaller grid changes nothing
-    sample.SetGridSize(std::min(chart.RowCount(), MostSampleRows), chart.ColumnCount());
+    const int mostRows = std::max(1, MostSampleCells / std::max(1, chart.ColumnCount()));
+    sample.SetGridSize(std::min(chart.RowCount(), mostRows), chart.ColumnCount());
     for (int column = 1; column <= sample.ColumnCount(); ++column) {
         sample.DataGrid.SetColumnLabel(column, Shortened(chart.DataGrid.ColumnLabel(column)));
         for (int row = 1; row <= sample.RowCount(); ++row)

@@ -5,8 +5,10 @@
 #include "viewer/BarIcon.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QToolButton>
 
 /// A static library's resources are only there once they are asked for, from outside any namespace.
@@ -69,6 +71,22 @@ void ViewerToolBar::AddButton(const QString& key, TextKey textKey, bool check) {
     QWidget* button = widgetForAction(action);
     button->setObjectName(key);
     button->setAccessibleName(text);
+    button->installEventFilter(this);
+}
+
+/// A disabled button swallows clicks; a right one is for the menu all the same, and so for whoever shows it.
+bool ViewerToolBar::eventFilter(QObject* watched, QEvent* event) {
+    const auto* button = qobject_cast<const QWidget*>(watched);
+    if (event->type() == QEvent::MouseButtonRelease && button != nullptr && !button->isEnabled()) {
+        const auto* release = static_cast<const QMouseEvent*>(event);
+        if (release->button() == Qt::RightButton) {
+            QMouseEvent passed(QEvent::MouseButtonRelease, button->mapTo(this, release->position()),
+                               release->globalPosition(), release->button(), release->buttons(),
+                               release->modifiers());
+            QCoreApplication::sendEvent(this, &passed);
+        }
+    }
+    return QToolBar::eventFilter(watched, event);
 }
 
 void ViewerToolBar::changeEvent(QEvent* event) {

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] bool IsPressed(BarButton button) const { return Button(button)->isChecked(); }
     void Press(BarButton button, bool pressed) { Button(button)->setChecked(pressed); }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// The person clicked a button, which is pressed or released by now.
     void ButtonClicked(QmChart6::BarButton button);

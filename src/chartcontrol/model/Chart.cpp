@@ -24,6 +24,8 @@ void Chart::SetGridSize(int rows, int columns) {
     DataGrid.SetSize(rows, columns);
     Row = Column = 1;
     FollowGrid();
+    // Exchanging rows and columns is no other data.
+    if (LegendFollowsData && !Plot.DataSeriesInRow) ShowLegend = ColumnCount() >= 2;
 }
 
 void Chart::SetDataSeriesInRow(bool inRows) {
@@ -33,7 +35,6 @@ void Chart::SetDataSeriesInRow(bool inRows) {
 
 void Chart::FollowGrid() {
     Plot.SeriesCollection.Resize(Plot.DataSeriesInRow ? RowCount() : ColumnCount(), chartType_);
-    if (LegendFollowsData) ShowLegend = Plot.SeriesCollection.Count() >= 2;
 }
 
 int Chart::CategoryCount() const {

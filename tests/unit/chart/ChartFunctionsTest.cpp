@@ -174,6 +174,24 @@ TEST(Flip, FromNoSeriesRaisesAndKeepsWhatWasWritten) {
     Chart chart = ChartOf(3, 0);
     EXPECT_RAISES(9, SetSeriesInRows(chart, True));
     EXPECT_TRUE(chart.Plot.DataSeriesInRow);
+    // The first new series got its colour and components; there was none to take the rest from.
+    const DataPoint& first = chart.Plot.SeriesCollection(1).DataPoints.Item(DataPoints::All);
+    EXPECT_EQ(first.Brush.FillColor, SeriesDefaultColor(1));
+    EXPECT_EQ(first.DataPointLabel.Component, 0);
+    EXPECT_NE(chart.Plot.SeriesCollection(2).DataPoints.Item(DataPoints::All).Brush.FillColor,
+              SeriesDefaultColor(2));
+}
+
+TEST(Flip, LeavesTheLegendAsItIs) {
+    Chart chart = ChartOf(3, 1);
+    ASSERT_FALSE(chart.ShowLegend);
+    SetSeriesInRows(chart, True);
+    EXPECT_EQ(chart.Plot.SeriesCollection.Count(), 3);
+    EXPECT_FALSE(chart.ShowLegend);
+    chart = ChartOf(1, 3);
+    ASSERT_TRUE(chart.ShowLegend);
+    SetSeriesInRows(chart, True);
+    EXPECT_TRUE(chart.ShowLegend);
 }
 
 TEST(PieLabelPosition, IsPassedThroughUnchanged) {

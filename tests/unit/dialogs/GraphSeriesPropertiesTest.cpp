@@ -247,6 +247,26 @@ TEST_F(GraphSeriesPropertiesTest, EveryLocationOfAKindIsReadAndWrittenBack) {
     }
 }
 
+TEST_F(GraphSeriesPropertiesTest, ALocationThatAKindLacksSelectsByItsNumber) {
+    struct Case {
+        ChartType type;
+        int code;
+        int index;
+    };
+    for (const Case& one :
+         {Case{ChartType::Bar2D, 5, 2}, Case{ChartType::Bar2D, 6, 3}, Case{ChartType::Bar2D, 7, 4},
+          Case{ChartType::XY2D, 4, 4}, Case{ChartType::XY2D, 5, 2}, Case{ChartType::XY2D, 6, 3},
+          Case{ChartType::Pie2D, 4, 0}}) {
+        chart.SetChartType(one.type);
+        Points().DataPointLabel.LocationType = ToLabelLocation(one.code);
+        Edit({[&](QDialog& form) {
+            EXPECT_EQ(List(form, "cbLabels").currentIndex(), one.index)
+                << static_cast<int>(one.type) << ' ' << one.code;
+            form.reject();
+        }});
+    }
+}
+
 TEST_F(GraphSeriesPropertiesTest, UntickingAllStatisticsBoxesWritesNoLines) {
     Edited().StatLine.Flag = 31;
     Edit({[](QDialog& form) {

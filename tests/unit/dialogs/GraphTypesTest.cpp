@@ -1,4 +1,5 @@
 #include "dialogs/GraphTypes.h"
+#include "dialogs/SampleOf.h"
 
 #include "DialogsTest.h"
 #include "chart/ChartFunctions.h"
@@ -284,10 +285,10 @@ TEST_F(GraphTypesTest, EveryOptionIsShownOnTheSampleAtOnceAndNotOnTheChart) {
     EXPECT_EQ(Model(), before);
 }
 
-TEST_F(GraphTypesTest, TheSampleHasAllColumnsAndSomeRows) {
+TEST_F(GraphTypesTest, TheSampleHasAllColumnsAndRows) {
     Edit({[](QDialog& form) {
         EXPECT_EQ(Sample(form).ColumnCount(), 3);
-        EXPECT_EQ(Sample(form).RowCount(), 6);
+        EXPECT_EQ(Sample(form).RowCount(), 12);
     }});
     Give(2, 5);
     Edit({[](QDialog& form) {
@@ -295,6 +296,15 @@ TEST_F(GraphTypesTest, TheSampleHasAllColumnsAndSomeRows) {
         EXPECT_EQ(Sample(form).RowCount(), 2);
     }});
     EXPECT_EQ(desktop.shown, 2);
+}
+
+TEST_F(GraphTypesTest, ASampleOfAVastTableHasAsManyRowsAsMakeAQuarterOfAMillionCells) {
+    Chart vast;
+    vast.SetGridSize(30'000, 20);
+    EXPECT_EQ(SampleOf(vast).RowCount(), 12'500);
+    EXPECT_EQ(SampleOf(vast).ColumnCount(), 20);
+    vast.SetGridSize(12'000, 20);
+    EXPECT_EQ(SampleOf(vast).RowCount(), 12'000);
 }
 
 TEST_F(GraphTypesTest, ClearingTheStackClearsAndDisablesTheHundredPercent) {

@@ -10,6 +10,7 @@
 #include "support/ScriptedDesktop.h"
 #include "support/TestStore.h"
 #include "text/LocalText.h"
+#include "viewer/ViewerMenu.h"
 #include "viewer/ViewerStatusBar.h"
 #include "viewer/ViewerToolBar.h"
 
@@ -171,6 +172,32 @@ TEST_F(ControlBarTest, APieOfOneColumnIsInRowsAndBarsAreInColumnsAgain) {
     EXPECT_FALSE(IsEnabled(BarButton::Flip));
     EXPECT_FALSE(Model().Plot.DataSeriesInRow);
     EXPECT_EQ(Model().Plot.SeriesCollection.Count(), 1);
+}
+
+TEST_F(ControlBarTest, APieOfOneColumnShowsTheLegendThatItsButtonSays) {
+    Open(4, 1);
+    Choose(QStringLiteral("Pie"));
+    EXPECT_FALSE(Model().ShowLegend);
+    EXPECT_FALSE(IsPressed(BarButton::Legend));
+    Click(BarButton::Legend);
+    EXPECT_TRUE(Model().ShowLegend);
+    Choose(QStringLiteral("Bar"));
+    EXPECT_TRUE(Model().ShowLegend);
+    EXPECT_TRUE(IsPressed(BarButton::Legend));
+}
+
+TEST_F(ControlBarTest, ARightClickOnAnyButtonShowsTheMenuAlsoWhereItIsDisabled) {
+    Open(4, 1);
+    auto& menu = *form->findChild<ViewerMenu*>();
+    for (const BarButton button :
+         {BarButton::Flip, BarButton::FullStack, BarButton::Legend, BarButton::Print}) {
+        const QWidget* widget = Bar().widgetForAction(Bar().Button(button));
+        const QPoint place = widget->mapTo(&*form, widget->rect().center());
+        QTest::mouseClick(form->windowHandle(), Qt::RightButton, {}, place);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return menu.isVisible(); }, 500)) << static_cast<int>(button);
+        menu.close();
+    }
+    EXPECT_FALSE(menu.optGenericProperties->isVisible());
 }
 
 TEST_F(ControlBarTest, NobodyFlipsOneColumnByHand) {
