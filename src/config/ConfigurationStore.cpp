@@ -7,6 +7,7 @@
 #include "config/LookOverride.h"
 #include "config/StoredLook.h"
 #include "config/Viewer.h"
+#include "desktop/BusyCursor.h"
 #include "desktop/ShowErrors.h"
 #include "text/LocalText.h"
 #include "text/Remarks.h"
@@ -67,6 +68,7 @@ void Capture(Viewer& viewer, LookWriter& writer) {
 /// that box with a database open, so the failure is handed over. Gives the number of values beyond the stored
 /// fields that the store has no place for.
 int Save(Viewer& viewer, std::optional<RuntimeError>& notBound) {
+    const BusyCursor busy;
     Database database(ConfigurationFileName(), ConfigurationSchema());
     const QString name = viewer.QmConfig();
     StoredLook look(database, name);
@@ -91,6 +93,7 @@ QString SavedText(int valuesNotKept) {
 
 /// False where there is no such look. Nothing runs events meanwhile: others wait for what is read.
 bool Load(Viewer& viewer, const QString& name, bool loadTitles) {
+    const BusyCursor busy;
     Database database(ConfigurationFileName(), ConfigurationSchema());
     StoredLook look(database, name);
     const Database::Reading reading(database);

@@ -5,6 +5,7 @@
 #include "chartcontrol/paint/PaintScene.h"
 #include "chartcontrol/paint/QtTextMeasurer.h"
 #include "chartcontrol/widget/ChartControl.h"
+#include "desktop/BusyCursor.h"
 #include "desktop/CurrentDesktop.h"
 #include "qmchart6/RuntimeError.h"
 #include "text/LocalHint.h"
@@ -38,6 +39,7 @@ bool Failed(const QPrinter& printer) {
 }
 
 void PrintPageOf(const ChartControl& chart, QPrinter& printer) {
+    const BusyCursor busy;
     PrintPage(chart.Model(), {chart.width() * PointsPerPixel, chart.height() * PointsPerPixel}, printer);
 }
 

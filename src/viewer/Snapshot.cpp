@@ -3,6 +3,7 @@
 #include "chartcontrol/paint/PictureFormat.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
+#include "desktop/BusyCursor.h"
 #include "desktop/CurrentDesktop.h"
 #include "text/LocalHint.h"
 #include "text/LocalText.h"
@@ -60,7 +61,10 @@ void SaveChartSnapshot(Viewer& viewer, ChartControl& chart, QString& FileName,
     }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     const SnapshotSize taken = size.value_or(SnapshotSize{chart.width(), chart.height()});
-    SavePicture({chart.Model(), taken.width, taken.height, taken.pixelsPerInch}, FileName);
+    {
+        const BusyCursor busy;
+        SavePicture({chart.Model(), taken.width, taken.height, taken.pixelsPerInch}, FileName);
+    }
     directory.Restore();
     CurrentDesktop().ClearClipboard();
     viewer.SetStatus(LocalText(TextKey::SnapshotSaved));
