@@ -28,6 +28,7 @@ namespace {
 
 constexpr std::size_t ZAxis = 3;
 constexpr double MarkerSize = 10; // points
+constexpr int LeastSample = 120;  // logical pixels
 
 /// Opening the dialog gives every series markers of that size.
 void SizeMarkers(Chart& chart) {
@@ -48,6 +49,14 @@ GraphTypes::GraphTypes(QWidget* owner)
     Body().addLayout(row);
     Connect();
     Finish();
+    FitTheScreen();
+}
+
+/// On a small screen the sample gives way: the settings cannot.
+void GraphTypes::FitTheScreen() {
+    const QSize beyond = (sizeHint() - RoomOnScreen()).expandedTo({0, 0});
+    form_.SampleChart->setMinimumSize(
+        (form_.SampleChart->minimumSize() - beyond).expandedTo({LeastSample, LeastSample}));
 }
 
 GraphTypes::~GraphTypes() = default;
@@ -55,6 +64,11 @@ GraphTypes::~GraphTypes() = default;
 void GraphTypes::Connect() {
     On(form_.RB2d, &QRadioButton::toggled, [this] { ChooseDimension(); });
     On(form_.LChTypes, &QListWidget::currentRowChanged, [this] { ChooseKind(); });
+    // A click beside the kinds would leave the chosen one unmarked.
+    On(form_.LChTypes, &QListWidget::itemSelectionChanged, [this] {
+        QListWidgetItem* chosen = form_.LChTypes->currentItem();
+        if (chosen != nullptr && form_.LChTypes->selectedItems().isEmpty()) chosen->setSelected(true);
+    });
     On(form_.btnBackColor, &QPushButton::clicked,
        [this] { form_.pbBackColor->Pick(form_.btnBackColor->accessibleName()); });
     On(form_.cbLabels, &QComboBox::activated, [this] { ShowSomething(); });

@@ -39,6 +39,7 @@ public:
 
 private:
     void Connect();
+    void FitTheScreen();
     void Fill(const LookState& look);
     void Write(LookState& look) const;
 

@@ -112,8 +112,9 @@ QWidget* GraphTypesControls::MakeTypes(QWidget* page) {
             width = std::max(width, LChTypes->fontMetrics().horizontalAdvance(ChartKindText(kind)));
     constexpr int Beside = 24;
     constexpr int BetweenLines = 4;
-    LChTypes->setMinimumSize(width + Beside, MostKinds * (LChTypes->fontMetrics().height() + BetweenLines) +
-                                                 2 * LChTypes->frameWidth());
+    LChTypes->setMinimumHeight(MostKinds * (LChTypes->fontMetrics().height() + BetweenLines) +
+                               2 * LChTypes->frameWidth());
+    LChTypes->setFixedWidth(width + Beside);
     auto* column = new QVBoxLayout(frame);
     column->addWidget(RB2d);
     column->addWidget(RB3d);
@@ -192,7 +193,8 @@ QWidget* GraphTypesControls::MakeDesign() {
     pbBackColor = new ColourBox(page);
     Describe(*pbBackColor, "pbBackColor", LocalText(TextKey::BackgroundColor));
     pbBackColor->OpensBy(*btnBackColor);
-    AddRow(*grid, btnBackColor, pbBackColor);
+    grid->addWidget(btnBackColor, grid->rowCount(), 0, Qt::AlignLeft);
+    grid->addWidget(pbBackColor, grid->rowCount() - 1, 1, Qt::AlignLeft | Qt::AlignVCenter);
     cb3DPerspective =
         NewList(page, "cb3DPerspective", {TextKey::Perspective, TextKey::Oblique, TextKey::Orthogonal});
     AddRow(*grid, NewLabel(page, "lblProjection", LocalText(TextKey::Projection3D), *cb3DPerspective),

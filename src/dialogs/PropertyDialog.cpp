@@ -10,6 +10,7 @@
 #include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
@@ -17,6 +18,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <array>
 
 namespace QmChart6 {
 
@@ -35,6 +37,29 @@ QPushButton* AddButton(QDialogButtonBox& box, const char* name, TextKey textKey,
     button->setAccessibleName(text);
     box.addButton(button, role);
     return button;
+}
+
+/// Where a window stands that belongs to another: in its middle, or beside, above or below it where its
+/// middle would hide much of it; all on the screen.
+QPoint PlaceBy(const QRect& owner, const QRect& room, QSize frame) {
+    const auto onScreen = [&](QPoint place) {
+        return QPoint(std::max(room.left(), std::min(place.x(), room.right() + 1 - frame.width())),
+                      std::max(room.top(), std::min(place.y(), room.bottom() + 1 - frame.height())));
+    };
+    const QPoint middle = owner.center() - QPoint(frame.width() / 2, frame.height() / 2);
+    const std::array places{onScreen({owner.right() + 1, middle.y()}),
+                            onScreen({owner.left() - frame.width(), middle.y()}),
+                            onScreen({middle.x(), owner.bottom() + 1}),
+                            onScreen({middle.x(), owner.top() - frame.height()}), onScreen(middle)};
+    const auto hidden = [&](QPoint place) {
+        const QRect both = QRect(place, frame).intersected(owner);
+        return both.isEmpty() ? 0 : both.width() * both.height();
+    };
+    const QPoint best = *std::min_element(places.begin(), places.end(), [&](QPoint left, QPoint right) {
+        return hidden(left) < hidden(right);
+    });
+    constexpr double Much = 1.0 / 3;
+    return hidden(places.back()) > Much * owner.width() * owner.height() ? best : places.back();
 }
 
 } // namespace
@@ -140,6 +165,7 @@ bool PropertyDialog::TakesKey(QObject* watched, QEvent* event) {
     if (control == nullptr || control->window() != this || QApplication::activePopupWidget() != nullptr)
         return false;
     const auto* key = static_cast<const QKeyEvent*>(event);
+    if (TurnPage(*key)) return true;
     if ((key->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
     switch (key->key()) {
     case Qt::Key_Return:
@@ -154,12 +180,38 @@ bool PropertyDialog::TakesKey(QObject* watched, QEvent* event) {
     }
 }
 
+bool PropertyDialog::TurnPage(const QKeyEvent& key) {
+    if ((key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != Qt::ControlModifier) return false;
+    const bool back = key.key() == Qt::Key_Backtab || (key.modifiers() & Qt::ShiftModifier) != 0;
+    auto* tabs = findChild<QTabWidget*>();
+    if (tabs == nullptr || (key.key() != Qt::Key_Tab && key.key() != Qt::Key_Backtab)) return false;
+    tabs->setCurrentIndex((tabs->currentIndex() + (back ? tabs->count() - 1 : 1)) % tabs->count());
+    return true;
+}
+
+/// The first control of the page has the focus, not the tab above it; of options the chosen one.
+void PropertyDialog::FocusOnPage() {
+    const auto* tabs = findChild<QTabWidget*>();
+    if (tabs == nullptr) return;
+    QWidget* page = tabs->currentWidget();
+    for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+        const auto* option = qobject_cast<const QRadioButton*>(next);
+        const bool isChosen = option == nullptr || option->isChecked();
+        if (!isChosen || !page->isAncestorOf(next) || !next->isEnabled() ||
+            (next->focusPolicy() & Qt::TabFocus) == 0)
+            continue;
+        next->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+}
+
 void PropertyDialog::showEvent(QShowEvent* event) {
     qApp->installEventFilter(this);
     if (!shownBefore_) {
         shownBefore_ = true;
-        PlaceOverOwner();
+        PlaceByOwner();
         OrderButtonsAsSeen();
+        FocusOnPage();
         if (firstText_ != nullptr && firstText_->isEnabled()) {
             firstText_->selectAll();
             firstText_->setFocus(Qt::OtherFocusReason);
@@ -173,17 +225,18 @@ void PropertyDialog::hideEvent(QHideEvent* event) {
     QDialog::hideEvent(event);
 }
 
-/// In the middle of the owner's window, but all on the screen.
-void PropertyDialog::PlaceOverOwner() {
+QSize PropertyDialog::RoomOnScreen() const {
+    const QWidget* by = owner_ != nullptr ? owner_->window() : this;
+    return by->screen()->availableSize() -
+           QSize(PixelsOfTwips(NominalFrameWidth), PixelsOfTwips(NominalFrameHeight));
+}
+
+void PropertyDialog::PlaceByOwner() {
     if (owner_ == nullptr || !owner_->window()->isVisible()) return;
-    const QWidget* over = owner_->window();
-    if (windowHandle() != nullptr) windowHandle()->setTransientParent(over->windowHandle());
-    const QRect room = over->screen()->availableGeometry();
-    QRect place(QPoint(),
-                size() + QSize(PixelsOfTwips(NominalFrameWidth), PixelsOfTwips(NominalFrameHeight)));
-    place.moveCenter(over->frameGeometry().center());
-    move(std::max(room.left(), std::min(place.left(), room.right() - place.width())),
-         std::max(room.top(), std::min(place.top(), room.bottom() - place.height())));
+    const QWidget* by = owner_->window();
+    if (windowHandle() != nullptr) windowHandle()->setTransientParent(by->windowHandle());
+    const QSize frame = size() + QSize(PixelsOfTwips(NominalFrameWidth), PixelsOfTwips(NominalFrameHeight));
+    move(PlaceBy(by->frameGeometry(), by->screen()->availableGeometry(), frame));
 }
 
 /// Desktops differ in the order of a dialog's buttons; Tab goes through them as they stand.

@@ -9,6 +9,7 @@
 #include <utility>
 
 class QDialogButtonBox;
+class QKeyEvent;
 class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
@@ -17,7 +18,8 @@ namespace QmChart6 {
 
 /// A modal dialog that edits a copy of some settings and writes them back on OK and on Apply.
 ///
-/// Enter acts as OK and Escape as Cancel wherever the focus is, but while a list hangs open. The dialog may
+/// Enter acts as OK, Escape as Cancel and Ctrl+Tab turns the pages wherever the focus is, but while a list
+/// hangs open. The dialog may
 /// outlive its owner: when the owner's window is hidden or goes away, the dialog ends as cancelled, and so
 /// does any that it opened.
 class PropertyDialog : public QDialog {
@@ -59,6 +61,9 @@ protected:
         connect(sender, signal, this, [this, handler = std::move(handler)] { ShowErrors(this, handler); });
     }
 
+    /// The size that the dialog may have within its frame on its owner's screen, in logical pixels.
+    [[nodiscard]] QSize RoomOnScreen() const;
+
     /// Shows the dialog, again and again while Apply is pressed. `writeBack` runs after each OK and Apply;
     /// what it raises ends the loop.
     void RunLoop(const std::function<void()>& writeBack);
@@ -71,7 +76,9 @@ private:
     void AddButtons(Buttons buttons);
     void Apply();
     void OwnerWentAway();
-    void PlaceOverOwner();
+    void PlaceByOwner();
+    void FocusOnPage();
+    [[nodiscard]] bool TurnPage(const QKeyEvent& key);
     void OrderButtonsAsSeen();
     [[nodiscard]] bool TakesKey(QObject* watched, QEvent* event);
 

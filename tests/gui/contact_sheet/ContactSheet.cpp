@@ -1,7 +1,10 @@
-// Grabs every dialog, each of its pages, in four languages into one picture a dialog: what a person looks
-// through after a change. Usage: contact_sheet FOLDER light|dark. QT_SCALE_FACTOR sets the scale.
+// Grabs the viewer, every dialog, each of its pages, and the print window, in four languages into one picture
+// each: what a person looks through after a change. On a screen with a desktop they are as wide as people see
+// them; without one some are narrower. Usage: contact_sheet FOLDER light|dark. QT_SCALE_FACTOR sets the
+// scale.
 
 #include "chart/DefaultLook.h"
+#include "chartcontrol/widget/ChartControl.h"
 #include "config/ConfigurationFolder.h"
 #include "config/ConfigurationSchema.h"
 #include "config/ConfigurationStore.h"
@@ -9,6 +12,7 @@
 #include "desktop/CurrentDesktop.h"
 #include "desktop/FontPicker.h"
 #include "desktop/QtDesktop.h"
+#include "desktop/QtTexts.h"
 #include "dialogs/GraphConfigSave.h"
 #include "dialogs/GraphConfiguration.h"
 #include "dialogs/GraphSeriesProperties.h"
@@ -19,11 +23,17 @@
 #include "support/TestViewer.h"
 #include "text/Languages.h"
 #include "text/LocalText.h"
+#include "viewer/GraphForm.h"
+#include "viewer/ViewerMenu.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QPainter>
+#include <QPrinter>
 #include <QStyleFactory>
 #include <QTabWidget>
+#include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdio>
@@ -39,6 +49,16 @@ constexpr int Gap = 16;
 
 using Row = QList<QPixmap>;
 
+void WaitFor(const QWidget& window) {
+    constexpr int Patience = 5000; // milliseconds
+    QElapsedTimer waited;
+    waited.start();
+    while (waited.elapsed() < Patience &&
+           !(window.windowHandle() != nullptr && window.windowHandle()->isExposed()))
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+    QApplication::processEvents();
+}
+
 /// A desktop that looks at each dialog and lets it go.
 class GrabbingDesktop : public QtDesktop {
 public:
@@ -46,7 +66,7 @@ public:
 
     void RunModal(QDialog& dialog) override {
         dialog.show();
-        QApplication::processEvents();
+        WaitFor(dialog);
         if (auto* tabs = dialog.findChild<QTabWidget*>()) {
             for (int tab = 0; tab < tabs->count(); ++tab) {
                 tabs->setCurrentIndex(tab);
@@ -66,6 +86,23 @@ public:
         return std::nullopt;
     }
 };
+
+/// Grabs the print dialog, which runs by itself, and lets it go.
+Row PrintDialog() {
+    Row row;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || !dialog->isVisible()) return;
+        look.stop();
+        row.append(dialog->grab());
+        dialog->reject();
+    });
+    look.start(50);
+    QPrinter settings(QPrinter::HighResolution);
+    QtDesktop().PickPrinter(nullptr, settings);
+    return row;
+}
 
 QPixmap Sheet(const QList<Row>& rows) {
     QSize size(Gap, Gap);
@@ -174,6 +211,37 @@ void ShowGraphConfigSave() {
     WithStoredLooks([](TestViewer& viewer) { GraphConfigSave(nullptr).Execute(viewer); });
 }
 
+/// What a dialog's own desktop does not see is grabbed here.
+void ShowViewer(Row& row) {
+    GraphForm form;
+    form.SetGraphId(QStringLiteral("SALES"));
+    form.SetQmConfig(QStringLiteral("Board"));
+    form.ChartImage().Model() = SampleChart();
+    form.show();
+    WaitFor(form);
+    form.RefreshControlBar();
+    form.ChartImage().SelectPart(static_cast<int>(PartCode::Title), 0, 0, 0, 0);
+    QApplication::processEvents();
+    row.append(form.grab());
+    auto& menu = *form.findChild<ViewerMenu*>();
+    menu.ShowFor(LocalText(TextKey::ChartTitleProperties), form.mapToGlobal(QPoint(100, 100)));
+    WaitFor(menu);
+    row.append(menu.grab());
+    menu.close();
+}
+
+bool MakeWindows(const QString& file, const std::function<void(Row&)>& show) {
+    QList<Row> rows;
+    for (const LanguageRow& language : Languages()) {
+        SetLanguageCode(static_cast<std::int16_t>(language.number));
+        SetQtTextsLanguage(QLatin1String(language.locale));
+        Row row;
+        show(row);
+        rows.append(row);
+    }
+    return Sheet(rows).save(file);
+}
+
 bool Make(const QString& file, const std::function<void()>& show) {
     QList<Row> rows;
     for (const LanguageRow& language : Languages()) {
@@ -207,5 +275,8 @@ int main(int argc, char** argv) {
         {"GraphConfigSave", ShowGraphConfigSave}, {"FontPicker", ShowFontPicker}};
     for (const auto& [name, show] : dialogs)
         saved = Make(folder + QLatin1String(name) + QStringLiteral(".png"), show) && saved;
+    saved = MakeWindows(folder + QStringLiteral("GraphForm.png"), ShowViewer) && saved;
+    saved = MakeWindows(folder + QStringLiteral("PrintDialog.png"), [](Row& row) { row = PrintDialog(); }) &&
+            saved;
     return saved ? 0 : 1;
 }

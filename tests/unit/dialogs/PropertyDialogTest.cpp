@@ -220,9 +220,9 @@ TEST_F(PropertyDialogTest, WritesNothingWhenTheOwnerGoesAwayRightAfterOk) {
     EXPECT_EQ(viewer.Model().Title.Text, "Title");
 }
 
-TEST_F(PropertyDialogTest, StandsOverItsOwner) {
+TEST_F(PropertyDialogTest, StandsOverAnOwnerOfWhichItHidesLittle) {
     QWidget owner;
-    owner.setGeometry(300, 200, 400, 300);
+    owner.setGeometry(40, 100, 700, 600);
     owner.show();
     QApplication::processEvents();
     desktop.deals = {[&](QDialog& form) {
