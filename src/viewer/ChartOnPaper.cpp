@@ -33,6 +33,11 @@ void Grow(CoordinateRect& rect, double factor) {
     }
 }
 
+void Grow(Location& location, double factor) {
+    Grow(location.Rect, factor);
+    location.Within = {location.Within.X * factor, location.Within.Y * factor};
+}
+
 void GrowLabels(Series& series, double factor, int pointCount) {
     Grow(series.DataPoints.Item(DataPoints::All).DataPointLabel.VtFont, factor);
     if (!series.DataPoints.HasOwn()) return;
@@ -71,9 +76,9 @@ Chart ChartOnPaper(Chart chart, double factor) {
     for (Series& series : chart.Plot.SeriesCollection) GrowLabels(series, factor, chart.CategoryCount());
 
     // What stands at an edge finds it; a place of one's own grows with the page.
-    Grow(chart.Title.Location.Rect, factor);
-    Grow(chart.Legend.Location.Rect, factor);
-    Grow(chart.Footnote.Location.Rect, factor);
+    Grow(chart.Title.Location, factor);
+    Grow(chart.Legend.Location, factor);
+    Grow(chart.Footnote.Location, factor);
     Grow(chart.Plot.LocationRect, factor);
     return chart;
 }

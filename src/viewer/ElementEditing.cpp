@@ -1,6 +1,5 @@
 #include "viewer/ElementEditing.h"
 
-#include "chartcontrol/paint/QtTextMeasurer.h"
 #include "chartcontrol/widget/ChartControl.h"
 #include "config/Viewer.h"
 #include "dialogs/GraphSeriesProperties.h"
@@ -184,7 +183,7 @@ void ElementEditing::KeepTitleInPlace(GraphTextProperties& dialog) {
     const std::optional<CoordinateRect> rect = StandingRect(before, control.CurrentScene());
     if (!rect) return;
     QObject::connect(&dialog, &GraphTextProperties::Written, [&control, before, rect] {
-        PlaceTitleAround(control.Model().Title, *rect, before, control.CurrentScene().size, QtTextMeasurer());
+        PlaceTitleAround(control.Model().Title, *rect, before, control.CurrentScene().size);
     });
 }
 

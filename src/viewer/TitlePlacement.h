@@ -2,7 +2,6 @@
 
 #include "chartcontrol/model/Texts.h"
 #include "chartcontrol/scene/Scene.h"
-#include "chartcontrol/scene/TextMeasurer.h"
 
 #include <optional>
 
@@ -12,11 +11,10 @@ namespace QmChart6 {
 /// text in the scene. Nothing where the scene shows none.
 std::optional<CoordinateRect> StandingRect(const Title& title, const Scene& scene);
 
-/// Places the title by hand, its centre where the rectangle `before` has its own, in the room that its text
-/// takes now. It may reach beyond the chart: where it was is what counts. `unchanged` is the title as it was.
-/// Where that was placed by hand and its text takes the same room, it keeps its rectangle; without a text it
-/// keeps its extents, exchanged where it was turned.
+/// Places the title by hand, its centre where the rectangle `before` has its own, in a chart of that size. It
+/// keeps the rectangle's extents, exchanged where it was turned between horizontal and vertical; `unchanged`
+/// is the title as it was. What its text takes beyond them is the matter of layout.
 void PlaceTitleAround(Title& title, const CoordinateRect& before, const Title& unchanged,
-                      const Size& chartSize, const TextMeasurer& measurer);
+                      const Size& chartSize);
 
 } // namespace QmChart6

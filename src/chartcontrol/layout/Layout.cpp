@@ -12,6 +12,7 @@
 #include "chartcontrol/model/ChartKinds.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -61,6 +62,22 @@ constexpr Size LeastPlot{24, 16};
 /// So is less than this part of the picture.
 constexpr double LeastShare = 0.4;
 
+/// What was placed by hand may stand over the plot, and is on top there.
+void BringToFront(Scene& scene, PartCode code) {
+    const auto isOfIt = [code](const Shape& shape) { return shape.part.code == code; };
+    std::vector<Shape> front;
+    std::copy_if(scene.shapes.begin(), scene.shapes.end(), std::back_inserter(front), isOfIt);
+    std::erase_if(scene.shapes, isOfIt);
+    for (Shape& shape : front) scene.shapes.push_back(std::move(shape));
+}
+
+void BringWhatWasPlacedToFront(Scene& scene, const Chart& chart) {
+    const auto isPlaced = [](const auto& part) { return part.Location.LocationType == LocationType::Custom; };
+    if (isPlaced(chart.Legend)) BringToFront(scene, PartCode::Legend);
+    if (isPlaced(chart.Footnote)) BringToFront(scene, PartCode::Footnote);
+    if (isPlaced(chart.Title)) BringToFront(scene, PartCode::Title);
+}
+
 /// Nothing where what stands round the plot would leave too little of it.
 std::optional<LaidOutChart> LayOutWith(const Chart& chart, const LayoutRequest& request,
                                        const TextMeasurer& measurer, Surroundings around) {
@@ -90,6 +107,7 @@ std::optional<LaidOutChart> LayOutWith(const Chart& chart, const LayoutRequest& 
         return laidOut;
     }
     laidOut.places = LayOutPlot(context, box);
+    BringWhatWasPlacedToFront(laidOut.scene, chart);
     return laidOut;
 }
 

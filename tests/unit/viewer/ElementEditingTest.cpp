@@ -269,15 +269,17 @@ TEST_F(ElementEditingTest, RenamingASeriesInRowsRenamesItsRow) {
     EXPECT_EQ(Model().Row, 3);
 }
 
-TEST_F(ElementEditingTest, TheTitleStaysCentredWhereItWasHoweverItIsTurned) {
+TEST_F(ElementEditingTest, TheTitleStaysCentredWhereItWasHoweverItIsTurnedAndWithinTheChart) {
     // From the place that layout gave it, and then from the one that it was given by the first edit.
-    for (const int orientation : {0, 2, 3, 1, 0}) {
+    const auto drawn = [this] {
         Title anywhere = Model().Title;
         anywhere.Location.LocationType = LocationType::Top;
-        const Box before = [&] {
-            const CoordinateRect rect = StandingRect(anywhere, Control().CurrentScene()).value();
-            return Box{rect.Min.X, rect.Min.Y, rect.Max.X, rect.Max.Y};
-        }();
+        const CoordinateRect rect = StandingRect(anywhere, Control().CurrentScene()).value();
+        return Box{rect.Min.X, rect.Min.Y, rect.Max.X, rect.Max.Y};
+    };
+    const Point origin = drawn().Center();
+    const Size size = Control().CurrentScene().size;
+    for (const int orientation : {0, 2, 3, 1, 0}) {
         desktop.fonts = {
             {.family = QStringLiteral("Arial"), .size = 11.0 + orientation, .colour = Qt::black}};
         Person<GraphTextProperties> person([&](GraphTextProperties& dialog) {
@@ -288,10 +290,40 @@ TEST_F(ElementEditingTest, TheTitleStaysCentredWhereItWasHoweverItIsTurned) {
         DoubleClick(*form, Place(PartCode::Title));
         ASSERT_TRUE(person.WasAsked());
         EXPECT_EQ(static_cast<int>(Model().Title.TextLayout.Orientation), orientation);
-        EXPECT_EQ(Model().Title.Location.LocationType, LocationType::Custom);
-        const CoordinateRect after = StandingRect(anywhere, Control().CurrentScene()).value();
-        EXPECT_NEAR((after.Min.X + after.Max.X) / 2, before.Center().x, 1) << orientation;
-        EXPECT_NEAR((after.Min.Y + after.Max.Y) / 2, before.Center().y, 1) << orientation;
+        const Location& location = Model().Title.Location;
+        EXPECT_EQ(location.LocationType, LocationType::Custom);
+        EXPECT_NEAR((location.Rect.Min.X + location.Rect.Max.X) / 2, origin.x, 0.01) << orientation;
+        EXPECT_NEAR((location.Rect.Min.Y + location.Rect.Max.Y) / 2, origin.y, 0.01) << orientation;
+        const Box after = drawn();
+        EXPECT_NEAR(after.Center().x, origin.x, 1) << orientation;
+        if (orientation == 0) {
+            EXPECT_NEAR(after.Center().y, origin.y, 1);
+        }
+        EXPECT_GE(after.top, -0.01) << orientation;
+        EXPECT_LE(after.bottom, size.height + 0.01) << orientation;
+    }
+}
+
+TEST_F(ElementEditingTest, AnEditedTitleIsNeverCutWhateverTheHostCallsItLaterAndHoweverWideTheWindowIs) {
+    Person<GraphTextProperties> person([](GraphTextProperties& dialog) { ClickIn(dialog, "btnOK"); });
+    DoubleClick(*form, Place(PartCode::Title));
+    ASSERT_TRUE(person.WasAsked());
+    Model().Title.Text = QStringLiteral("Turnover of all the regions since the year of foundation");
+    for (const QSize window : {QSize(900, 500), QSize(300, 400), QSize(1400, 700)}) {
+        form->resize(window);
+        QApplication::processEvents();
+        Control().Refresh();
+        QString text;
+        Box box = Box::Nothing();
+        const Scene& scene = Control().CurrentScene();
+        for (const Shape& shape : scene.shapes) {
+            if (shape.part.code != PartCode::Title) continue;
+            text += std::get<TextLine>(shape.geometry).text + u' ';
+            box.Include(shape.bounds);
+        }
+        EXPECT_EQ(text.trimmed(), Model().Title.Text) << window.width();
+        EXPECT_NEAR(box.Center().x, scene.size.width / 2, 3) << window.width();
+        EXPECT_LE(box.right, scene.size.width) << window.width();
     }
 }
 

@@ -46,4 +46,10 @@ Box CutOff(Box& free, Side side, double depth, double gap) {
     return cut;
 }
 
+Box MovedInto(const Box& room, const Box& box) {
+    const double left = std::max(room.left, std::min(box.left, room.right - box.Width()));
+    const double top = std::max(room.top, std::min(box.top, room.bottom - box.Height()));
+    return {left, top, left + box.Width(), top + box.Height()};
+}
+
 } // namespace QmChart6

@@ -14,4 +14,7 @@ Side SideOf(LocationType location);
 /// off.
 Box CutOff(Box& free, Side side, double depth, double gap);
 
+/// The box moved so that it lies within the room; at the room's left and upper edges where it is larger.
+Box MovedInto(const Box& room, const Box& box);
+
 } // namespace QmChart6

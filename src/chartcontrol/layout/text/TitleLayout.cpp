@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/text/BackdropLayout.h"
 #include "chartcontrol/layout/text/Edges.h"
 #include "chartcontrol/layout/text/TextBlock.h"
+#include "chartcontrol/model/Places.h"
 
 #include <algorithm>
 #include <array>
@@ -91,14 +92,54 @@ Side SideOfTitle(const Title& title) {
     return SideOf(location);
 }
 
+/// Where a text of that extent stands along one side of a rectangle: in its middle where it is longer.
+double Start(double from, double to, double extent, bool atFrom, bool atTo) {
+    if (extent <= to - from && atFrom) return from;
+    if (extent <= to - from && atTo) return to - extent;
+    return (from + to - extent) / 2;
+}
+
+/// Where the whole text stands that was placed by hand: as its rectangle says, and no part of it outside the
+/// chart.
+Box PlaceOfText(const Title& title, const Size& extent, const Box& asked, const Size& whole) {
+    const HorizontalAlignment across = title.TextLayout.HorzAlignment;
+    const VerticalAlignment down = title.TextLayout.VertAlignment;
+    const double left = Start(asked.left, asked.right, extent.width, across == HorizontalAlignment::Left,
+                              across == HorizontalAlignment::Right);
+    const double top = Start(asked.top, asked.bottom, extent.height, down == VerticalAlignment::Top,
+                             down == VerticalAlignment::Bottom);
+    return MovedInto({0, 0, whole.width, whole.height},
+                     {left, top, left + extent.width, top + extent.height});
+}
+
+/// A text placed by hand wraps in the chart's width, or height where it is turned, and is all there.
+void LayOutByHand(const LayoutContext& context, const Title& title, PartCode code, Box& free) {
+    const Size& whole = context.request.size;
+    const Box asked = BoxOf(RectIn(title.Location, {whole.width, whole.height}));
+    const bool upright = IsUpright(title);
+    const double leading = context.measurer.Measure(QStringLiteral("x"), title.VtFont).Height();
+    const int lines = static_cast<int>((upright ? whole.width : whole.height) / std::max(1.0, leading));
+    const TextBlock block =
+        BreakText(title.Text, title.VtFont, title.TextLayout.Orientation,
+                  {upright ? whole.height : whole.width, std::max(1, lines)}, context.measurer);
+    if (block.IsEmpty()) {
+        LayOutBackdrop(context.builder, {code}, title.Backdrop, asked);
+        return;
+    }
+    const Box text = PlaceOfText(title, block.Extent(), asked, whole);
+    Box box = MovedInto({0, 0, whole.width, whole.height}, asked);
+    box.Include(text);
+    LayOutBackdrop(context.builder, {code}, title.Backdrop, box);
+    PlaceText(context.builder, {code}, block, text, title.TextLayout.HorzAlignment,
+              title.TextLayout.VertAlignment);
+    KeepOff(free, box, GapShare * title.VtFont.Size);
+}
+
 } // namespace
 
 void LayOutTitle(const LayoutContext& context, const Title& title, PartCode code, Box& free) {
     if (title.Location.LocationType == LocationType::Custom) {
-        const Box box = BoxOf(title.Location.Rect);
-        const TextBlock block = Break(context, title, box, 1);
-        Place(context, title, code, block, box);
-        if (!block.IsEmpty()) KeepOff(free, box, GapShare * title.VtFont.Size);
+        LayOutByHand(context, title, code, free);
         return;
     }
     const Side side = SideOfTitle(title);
