@@ -184,6 +184,7 @@ void GraphForm::SetWindowState(int state) {
     if (state < 0 || state > 2)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue,
                            QStringLiteral("a window state is from 0 to 2, not %1").arg(state));
+    restoredSize_->Asked();
     const Qt::WindowStates others =
         windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);
     setWindowState(others | (state == 1   ? Qt::WindowMinimized

@@ -1,5 +1,6 @@
 #include "viewer/LookChanges.h"
 
+#include "chartcontrol/widget/HandMove.h"
 #include "config/Viewer.h"
 #include "viewer/ShownLook.h"
 
@@ -36,6 +37,13 @@ void LookChanges::Turned(const View3d& before) {
     unturned.look.chart.Plot.View3d = before;
     shown_.modified = true;
     history_.Add(unturned, Now());
+}
+
+void LookChanges::Moved(int part, const Location& before) {
+    LookMoment unmoved = Now();
+    *MovableLocation(unmoved.look.chart, part) = before;
+    shown_.modified = true;
+    history_.Add(unmoved, Now());
 }
 
 void LookChanges::Restart() {

@@ -25,6 +25,8 @@ public:
     void DropStep();
     /// A chart was turned by hand, from where it stood before.
     void Turned(const View3d& before);
+    /// Title, footnote or legend was moved by hand, from where it stood before.
+    void Moved(int part, const Location& before);
     /// The host took the chart over: nothing from before can be taken back.
     void Restart();
     /// The look was kept, or is that of a kept one.

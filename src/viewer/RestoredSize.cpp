@@ -12,9 +12,9 @@ namespace QmChart6 {
 
 namespace {
 
-// What a frame round a maximized window takes of the screen at most, in logical pixels.
+// What a frame round a maximized window, and a panel, take of the screen at most, in logical pixels.
 constexpr int FrameWidth = 40;
-constexpr int FrameHeight = 80;
+constexpr int FrameHeight = 120;
 /// For so long after a window was maximized a desktop may still tell that it is not. Milliseconds.
 constexpr int Doubt = 500;
 
@@ -65,11 +65,16 @@ void RestoredSize::FollowSize() {
 void RestoredSize::FollowState(bool wasMaximized) {
     if (IsMaximized() == wasMaximized) return;
     if (wasMaximized) {
+        if (std::exchange(again_, false) && maximized_.elapsed() < Doubt) {
+            QTimer::singleShot(
+                0, this, [this] { window_->setWindowState(window_->windowState() | Qt::WindowMaximized); });
+            return;
+        }
         restoring_ = FillsTheScreen(window_->size());
         GrantWishSoon(0);
         return;
     }
-    restoring_ = false;
+    again_ = std::exchange(restoring_, false);
     maximized_.start();
     // The larger size was told first, as if it were one of a window that is not maximized.
     if (FillsTheScreen(last_) && beforeLast_.isValid() && !FillsTheScreen(beforeLast_)) last_ = beforeLast_;

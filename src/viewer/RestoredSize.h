@@ -22,6 +22,9 @@ public:
     /// Gives the window another such size: at once, or when it is restored.
     void Set(QSize size);
 
+    /// The program itself asks for another state from here on.
+    void Asked() { again_ = false; }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -37,6 +40,8 @@ private:
     QSize beforeLast_;
     /// The window was restored, and still is as large as before.
     bool restoring_ = false;
+    /// The window was maximized again before it was restored; a desktop may take that for no wish at all.
+    bool again_ = false;
     std::optional<QSize> wished_;
     QElapsedTimer maximized_;
 };

@@ -98,6 +98,8 @@ void ViewerCommands::ConnectChart() {
     connect(chart, &ChartControl::PartActivated, this, [this] { Do([this] { parts_.editing.Activate(); }); });
     connect(chart, &ChartControl::ViewTurned, this,
             [this](const View3d& before) { parts_.changes.Turned(before); });
+    connect(chart, &ChartControl::PartMoved, this,
+            [this](int part, const Location& before) { parts_.changes.Moved(part, before); });
 }
 
 void ViewerCommands::ConnectKeys() {

@@ -59,6 +59,7 @@ void ChartControl::paintEvent(QPaintEvent* event) {
     painter.setClipRegion(event->region());
     painter.drawImage(QPoint(0, 0), CurrentPicture());
     PaintSelection(painter);
+    PaintDrag(painter);
 }
 
 /// The scene in the screen's own pixels: what only uncovers or selects parts of the chart paints no shape

@@ -3,6 +3,7 @@
 #include "chartcontrol/layout/Layout.h"
 #include "chartcontrol/model/ChartVocabulary.h"
 #include "chartcontrol/widget/ChartPart.h"
+#include "chartcontrol/widget/HandMove.h"
 
 #include <QImage>
 #include <QPoint>
@@ -17,8 +18,10 @@ namespace QmChart6 {
 ///
 /// A left click selects the part under the pointer, a right click too before it asks for a context menu. By
 /// keyboard, Tab walks the parts, the arrows walk a series' points and the series, Home and End go to its
-/// ends, Enter activates, the menu key asks for the menu, Escape selects nothing. Dragging with Ctrl and the
-/// left button turns a 3D chart. The selection is an overlay on the screen: no picture and no copy shows it.
+/// ends, Enter activates, the menu key asks for the menu, Escape selects nothing. Title, footnote and legend
+/// are moved by dragging, which Escape takes back, or point by point with Ctrl and the arrows; Home puts them
+/// back where layout has them. Dragging with Ctrl and the left button turns a 3D chart. The selection is an
+/// overlay on the screen: no picture and no copy shows it.
 class ChartControl : public QWidget {
     Q_OBJECT
 
@@ -66,6 +69,8 @@ Q_SIGNALS:
     void ContextMenuWanted(const QPoint& place);
     /// A 3D chart was turned by hand and let go; from where it stood before.
     void ViewTurned(const QmChart6::View3d& before);
+    /// Title, footnote or legend was moved by hand; from where it stood before.
+    void PartMoved(int part, const QmChart6::Location& before);
 
 protected:
     bool event(QEvent* event) override;
@@ -85,6 +90,16 @@ private:
     void Activate();
     [[nodiscard]] ChartPart PartAtPixel(const QPointF& place);
     [[nodiscard]] bool MoveSelection(int key);
+    void StartDrag(const QPointF& place);
+    void Drag(const QPointF& place);
+    void EndDrag(bool keep);
+    /// Moves the selected part as the key says, where it is one that moves.
+    [[nodiscard]] bool MovePart(int key, Qt::KeyboardModifiers modifiers);
+    void PlacePart(const HandPlace& place);
+    void SetPartLocation(const Location& location);
+    /// The box of the selected part, where it is one that moves.
+    [[nodiscard]] std::optional<Box> MovableBox();
+    void PaintDrag(QPainter& painter);
     /// Whether somebody takes the wish for a menu.
     bool WantContextMenu(const QPoint& place);
     /// The place of the selected part that a menu is shown at.
@@ -109,6 +124,14 @@ private:
     std::optional<QPointF> turnedFrom_;
     /// How the chart stood when the turning began.
     View3d viewBefore_;
+
+    struct Dragged {
+        QPointF from;
+        Box box;
+        /// Nothing until the pointer has gone far enough.
+        std::optional<HandPlace> place;
+    };
+    std::optional<Dragged> dragged_;
 };
 
 } // namespace QmChart6

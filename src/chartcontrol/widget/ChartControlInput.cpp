@@ -54,9 +54,14 @@ void ChartControl::mousePressEvent(QMouseEvent* event) {
         return;
     }
     Select(PartAtPixel(event->position()));
+    StartDrag(event->position());
 }
 
 void ChartControl::mouseMoveEvent(QMouseEvent* event) {
+    if (dragged_) {
+        Drag(event->position());
+        return;
+    }
     if (!turnedFrom_) {
         event->ignore();
         return;
@@ -69,6 +74,7 @@ void ChartControl::mouseMoveEvent(QMouseEvent* event) {
 
 void ChartControl::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
+        EndDrag(true);
         if (!turnedFrom_) return;
         turnedFrom_.reset();
         unsetCursor();
@@ -114,8 +120,10 @@ void ChartControl::keyPressEvent(QKeyEvent* event) {
     const bool isMenu =
         key == Qt::Key_Menu || (key == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
     if (isMenu && WantContextMenu(PlaceOfSelection())) return;
+    if (dragged_ && key == Qt::Key_Escape) return EndDrag(false);
     if (!isMenu && !selected_.IsNone()) {
         if (key == Qt::Key_Escape) return Select({});
+        if (MovePart(key, event->modifiers())) return;
         if (key == Qt::Key_Return || key == Qt::Key_Enter) return Activate();
         if (MoveSelection(key)) return;
     }

@@ -6,6 +6,7 @@
 #include "chartcontrol/layout/text/BackdropLayout.h"
 #include "chartcontrol/layout/text/Edges.h"
 #include "chartcontrol/layout/text/TextBlock.h"
+#include "chartcontrol/model/Places.h"
 
 #include <QSet>
 
@@ -305,12 +306,39 @@ Side SideThatFits(const LayoutContext& context, Side asked, const Box& free) {
     return names < least ? Side::Bottom : asked;
 }
 
+/// A legend that was moved keeps its middle, and whether it is rather high or wide; its names have the room
+/// that they need.
+void LayOutMovedLegend(const LayoutContext& context) {
+    const Legend& legend = context.chart.Legend;
+    const Size& size = context.request.size;
+    const Box whole{0, 0, size.width, size.height};
+    const CoordinateRect rect = RectIn(legend.Location, {size.width, size.height});
+    const Point center{(rect.Min.X + rect.Max.X) / 2, (rect.Min.Y + rect.Max.Y) / 2};
+    const CoordinateRect& chosen = legend.Location.Rect;
+    const bool wide = chosen.Max.X - chosen.Min.X > 2 * (chosen.Max.Y - chosen.Min.Y);
+    const LegendGrid grid = wide ? GridPlanner(context, RoomAt(Side::Bottom, whole), false).AboveOrBelow()
+                                 : GridPlanner(context, RoomAt(Side::Right, whole), true).Beside();
+    if (grid.TellsLittle()) {
+        context.builder.Warn(QStringLiteral("the chart is too small for a legend"));
+        return;
+    }
+    const Size extent = grid.Extent();
+    const Box box = MovedInto(whole, {center.x - extent.width / 2, center.y - extent.height / 2,
+                                      center.x + extent.width / 2, center.y + extent.height / 2});
+    LayOutBackdrop(context.builder, {PartCode::Legend}, legend.Backdrop, box);
+    PlaceGrid(context, grid, box);
+}
+
 } // namespace
 
 void LayOutLegend(const LayoutContext& context, Box& free) {
     const Legend& legend = context.chart.Legend;
     if (context.chart.Plot.SeriesCollection.Count() == 0) return;
     const LocationType location = legend.Location.LocationType;
+    if (location == LocationType::Custom && legend.Location.Within != Coordinate{}) {
+        LayOutMovedLegend(context);
+        return;
+    }
     if (location == LocationType::Custom) {
         const CoordinateRect& rect = legend.Location.Rect;
         const Box box{rect.Min.X, rect.Min.Y, std::max(rect.Min.X, rect.Max.X),
