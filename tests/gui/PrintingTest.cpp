@@ -77,6 +77,8 @@ TEST_F(PrintingTest, ThePrintDialogPrintsIntoAFileAndTheChartStaysAsItIs) {
 }
 
 TEST_F(PrintingTest, ACancelledPrintDialogChangesNothing) {
+    if (QGuiApplication::platformName() == QLatin1String("wayland"))
+        GTEST_SKIP() << "there, only a window that a person just used may fill the clipboard";
     const Chart before = form.ChartImage().Model();
     Person<QPrintDialog> person([](QPrintDialog& dialog) { dialog.reject(); });
     ClickPrint();

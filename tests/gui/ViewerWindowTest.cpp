@@ -118,6 +118,8 @@ TEST_F(ViewerWindowTest, TheMenuHidesAndShowsTheControlBar) {
 }
 
 TEST_F(ViewerWindowTest, TheClipboardEntryLeavesThePictureOnTheClipboard) {
+    if (QGuiApplication::platformName() == QLatin1String("wayland"))
+        GTEST_SKIP() << "there, only a window that a person just used may fill the clipboard";
     desktop.ClearClipboard();
     ShowMenu();
     Choose("optCopy");

@@ -45,7 +45,7 @@ protected:
     /// The window fills its screen, but for the frame round it.
     [[nodiscard]] bool FillsTheScreen() const {
         const QSize room = viewer->screen()->availableSize();
-        return room.width() - viewer->width() < 20 && room.height() - viewer->height() < 60;
+        return room.width() - viewer->width() < 20 && room.height() - viewer->height() < 100;
     }
     void Maximize() {
         viewer->SetWindowState(2);

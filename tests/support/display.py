@@ -1,8 +1,8 @@
-"""A screen of the test's own with a window manager, and a command run on it.
+"""A screen of the test's own with a window manager, or a Wayland desktop, and a command run on it.
 
-    display.py [--size 1280x900] [--scale 2] MANAGER COMMAND...
+    display.py [--size 1280x900] [--scale 2] openbox|xfwm4|weston COMMAND...
 
-Needs Xvfb, x11-utils and the manager.
+Needs Xvfb, x11-utils and the manager; weston needs neither of them, but Qt's Wayland platform.
 """
 import argparse
 import os
@@ -42,9 +42,16 @@ class Display:
         try:
             until(lambda: b"window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True,
                                                          check=False).stdout, "the window manager")
+            self.wait_for_a_window()
         except AssertionError:
             self.close()
             raise
+
+    def wait_for_a_window(self):
+        """Until the manager puts a window on the screen: some tell of themselves long before they do."""
+        with subprocess.Popen(["xev", "-event", "structure"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as probe:
+            until(lambda: b"MapNotify" in probe.stdout.readline(), "a window")
+            probe.terminate()
 
     def close(self):
         os.killpg(self.manager.pid, signal.SIGTERM)
@@ -53,9 +60,31 @@ class Display:
         self.server.wait(PATIENCE)
 
 
+class WaylandDesktop:
+    """A desktop without a screen and without devices. WAYLAND_DISPLAY names it while it is there."""
+
+    def __init__(self, size="1280x900"):
+        width, height = size.split("x")
+        name = "qmchart6-test"
+        self.server = subprocess.Popen(["weston", "--backend=headless-backend.so", "--socket=" + name, "--width=" + width,
+                                        "--height=" + height, "--idle-time=0", "--no-config"],
+                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        try:
+            until(lambda: os.path.exists(os.path.join(os.environ["XDG_RUNTIME_DIR"], name)), "the Wayland desktop")
+        except AssertionError:
+            self.close()
+            raise
+        # Without devices there is no input method either, and Qt's own for Wayland does not look whether there is one.
+        os.environ.update(WAYLAND_DISPLAY=name, QT_QPA_PLATFORM="wayland", QT_IM_MODULE="compose")
+
+    def close(self):
+        self.server.terminate()
+        self.server.wait(PATIENCE)
+
+
 def main():
     parser = argparse.ArgumentParser()
-    parser.add_argument("manager", choices=sorted(MANAGERS))
+    parser.add_argument("manager", choices=[*sorted(MANAGERS), "weston"])
     parser.add_argument("--size", default="1280x900")
     parser.add_argument("--scale", default="1")
     parser.add_argument("command", nargs=argparse.REMAINDER)
@@ -63,7 +92,7 @@ def main():
     with tempfile.TemporaryDirectory() as runtime:
         os.environ.update(XDG_RUNTIME_DIR=runtime, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR=wanted.scale)
         os.environ.pop("WAYLAND_DISPLAY", None)
-        display = Display(wanted.manager, wanted.size)
+        display = WaylandDesktop(wanted.size) if wanted.manager == "weston" else Display(wanted.manager, wanted.size)
         try:
             return subprocess.run(wanted.command, check=False).returncode
         finally:
