@@ -113,7 +113,7 @@ TEST(Titles, APlacedOneThatBecomesLongerWrapsInTheChartsWidthRoundItsMiddle) {
 }
 
 TEST(Titles, APlacedOneStandsAtTheSameSharesOfEveryChart) {
-    for (const Size size : {Size{200, 150}, Size{720, 300}, Size{120, 500}}) {
+    for (const Size size : {Size{200, 150}, Size{720, 300}, Size{160, 500}}) {
         const Scene scene = LaidOut(WithPlacedTitle("Turnover", {{80, 130}, {100, 140}}), size);
         const Box box = BoxOfTitle(scene);
         EXPECT_NEAR(box.Center().x, size.width / 4, 1) << size.width;
