@@ -42,16 +42,9 @@ class Display:
         try:
             until(lambda: b"window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True,
                                                          check=False).stdout, "the window manager")
-            self.wait_for_a_window()
         except AssertionError:
             self.close()
             raise
-
-    def wait_for_a_window(self):
-        """Until the manager puts a window on the screen: some tell of themselves long before they do."""
-        with subprocess.Popen(["xev", "-event", "structure"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as probe:
-            until(lambda: b"MapNotify" in probe.stdout.readline(), "a window")
-            probe.terminate()
 
     def close(self):
         os.killpg(self.manager.pid, signal.SIGTERM)
