@@ -44,7 +44,8 @@ public:
     [[nodiscard]] int WindowState() const;
     void SetWindowState(int state);
 
-    // In twips, of the whole window while it is not maximized; a maximized one takes them when it is restored.
+    // In twips, of the whole window while it is not maximized; a maximized one takes them when it is
+    // restored.
     [[nodiscard]] int Height() const;
     void SetHeight(int twips);
     [[nodiscard]] int Width() const;

@@ -101,7 +101,7 @@ Row PrintDialog() {
     });
     look.start(50);
     QPrinter settings(QPrinter::HighResolution);
-    QtDesktop().PickPrinter(nullptr, settings);
+    static_cast<void>(QtDesktop().PickPrinter(nullptr, settings)); // nothing: it is let go
     return row;
 }
 
