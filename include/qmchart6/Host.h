@@ -2,10 +2,29 @@
 
 #include "qmchart6/Export.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace QmChart6 {
+
+// For hosts that want to know what is open.
+
+/// The graph ids of the open charts, trimmed and in upper case, in the order of their viewers.
+QMCHART6_EXPORT QStringList OpenGraphIds();
+
+/// Called with the graph id after a viewer was closed, by whomever, those that QmPrintGraph and
+/// QmSaveGraph close among them; {} calls nobody. It must not throw.
+QMCHART6_EXPORT void SetClosedHandler(std::function<void(const QString& graphId)> handler);
+
+/// A picture of an open chart as bytes: `format` is "png", "bmp", "svg", "pdf" or "emf", `width` and `height`
+/// are pixels of which 96 make an inch, 0 by 0 those of the viewer, and `ratio`, from 1 to 9, is how many
+/// device pixels a pixel of a "png" or "bmp" has on each side. Raises 326 (no chart of that id is open), 5
+/// (another format) and 380 (sides that are neither 0 by 0 nor 1 to 16,384, another ratio).
+QMCHART6_EXPORT QByteArray GraphPicture(const QString& graphId, const QString& format, int width = 0,
+                                        int height = 0, int ratio = 1);
 
 // For hosts that run no event loop of their own.
 

@@ -99,8 +99,11 @@ ViewerPointer CreateViewer(const QString& graphId) {
     viewer->SetGraphId(Normalized(graphId));
     const GraphForm& form = *viewer;
     QObject::connect(&form, &GraphForm::Closed, &form, [&form] {
+        const QString id = form.GraphId();
         const int place = PlaceOf(form);
         if (place <= Viewers().UpperBound()) Viewers().Release(place);
+        // What the host is told through may be put away by itself meanwhile.
+        if (const auto handler = Process().closedHandler) handler(id);
     });
     WhenApplicationEnds(ForgetAll);
     return viewer;

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -26,11 +27,12 @@ struct ProcessState {
     bool formatsFollowData = false;                               ///< as the host asked
     std::map<QString, std::shared_ptr<const Look>> lookOverrides; ///< by graph id
     std::optional<QSize> sizeOfNewCharts;                         ///< pixels; nothing leaves it to looks
-    int pixelsPerInch = 96;                          ///< of them, and of pictures that the host saves
-    QString hostPrinter;                             ///< set by the host; "" for none
-    QString chosenPrinter;                           ///< by a person; "" until then
-    std::vector<std::shared_ptr<GraphForm>> viewers; ///< an empty place for each that was closed
-    Desktop* desktop = nullptr;                      ///< in place of the real one, where there is one
+    int pixelsPerInch = 96;                            ///< of them, and of pictures that the host saves
+    QString hostPrinter;                               ///< set by the host; "" for none
+    QString chosenPrinter;                             ///< by a person; "" until then
+    std::vector<std::shared_ptr<GraphForm>> viewers;   ///< an empty place for each that was closed
+    std::function<void(const QString&)> closedHandler; ///< the host's; takes a graph id
+    Desktop* desktop = nullptr;                        ///< in place of the real one, where there is one
 };
 
 /// This process' state. It is never destroyed: Qt may be gone before a process' own objects are.
