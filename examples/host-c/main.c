@@ -5,11 +5,11 @@
 /* A whole host in C: hands over a table and shows it or, where there is no display, saves its picture. */
 int main(void) {
     const double cells[] = {3, 4.5, 2, 5, 6.25, 4};
-    const char *const years[] = {"2025", "2026"};
-    const char *const regions[] = {"North", "South", "West"};
+    const char* const years[] = {"2025", "2026"};
+    const char* const regions[] = {"North", "South", "West"};
     const qmchart6_table table = {sizeof table, cells, 2, 3, 3, 1, years, regions};
     const qmchart6_titles titles = {sizeof titles, "Sales", "Year", "Region", "Units"};
-    qmchart6_charts *charts = qmchart6_new();
+    qmchart6_charts* charts = qmchart6_new();
     int32_t display = 0;
     int32_t error = qmchart6_has_display(charts, &display);
     if (error == QMCHART6_OK && display) {

@@ -117,6 +117,16 @@ int32_t qmchart6_save_graph(qmchart6_charts* charts, const char* graph_id, const
     });
 }
 
+int32_t qmchart6_mk_gr(qmchart6_charts* charts, const char* graph_id, const char* config_id,
+                       const qmchart6_table* table, const qmchart6_titles* titles) {
+    return Caught(charts, [&] {
+        const HostTable given(table);
+        const HostTitles named(titles);
+        QMChartArray().QmMkGr(TextOf(graph_id), TextOf(config_id), given.rows, given.columns, given.values,
+                              given.rowLabels, given.columnLabels, named.chart, named.value, named.row);
+    });
+}
+
 int32_t qmchart6_picture(qmchart6_charts* charts, const char* graph_id, const char* format,
                          const qmchart6_picture_size* size, uint8_t** bytes, size_t* count) {
     return Caught(charts, [&] {

@@ -1,6 +1,5 @@
 """Tables as people have them, and the commands of the front page as they stand there."""
 import pathlib
-import re
 import shlex
 import shutil
 import sqlite3

@@ -204,9 +204,9 @@ class QMChartArray:
         RowTitle: str,
     ) -> None:
         """A shortcut to QmMakeGraph with Spanish texts and the default look; ConfigId is not used."""
-        self.QmMakeGraph(
-            GraphId, Rows, Columns, Data, RowLabels, ColumnLabels, ChartTitle, RowTitle, "", ValueTitle, Language.SPANISH
-        )
+        table = table_of(Data, Rows, Columns, RowLabels, ColumnLabels)
+        titles = _titles(ChartTitle, RowTitle, "", ValueTitle)
+        call("mk_gr", utf8(GraphId), utf8(ConfigId), byref(table), byref(titles))
 
 
 class Chart:

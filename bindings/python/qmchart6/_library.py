@@ -38,6 +38,7 @@ _CALLS = {
     "kill_graph": [c_char_p],
     "print_graph": [c_char_p, POINTER(Table), POINTER(Titles), c_int32],
     "save_graph": [c_char_p, POINTER(Table), POINTER(Titles), c_int32, c_char_p, POINTER(c_void_p)],
+    "mk_gr": [c_char_p, c_char_p, POINTER(Table), POINTER(Titles)],
     "picture": [c_char_p, c_char_p, POINTER(PictureSize), POINTER(POINTER(c_uint8)), POINTER(c_size_t)],
     "open_graphs": [POINTER(POINTER(c_char))],
     "on_closed": [Closed, c_void_p],
