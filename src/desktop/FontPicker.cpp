@@ -24,12 +24,25 @@ QString DrawnFamily(const QString& family) {
     return families.contains(drawn) ? drawn : family;
 }
 
+/// What the list of styles calls a font; "" where it has nothing of its weight and slant.
+QString StyleOf(const QFont& font) {
+    constexpr int AnySize = 12; // points
+    const QString family = font.family();
+    for (const QString& style : QFontDatabase::styles(family)) {
+        const QFont styled = QFontDatabase::font(family, style, AnySize);
+        if (styled.weight() == font.weight() && styled.italic() == font.italic()) return style;
+    }
+    return {};
+}
+
 /// As it is drawn, so that the styles there are can be chosen from.
 QFont FontOf(const FontChoice& choice) {
     QFont font(DrawnFamily(choice.family));
     font.setPointSizeF(choice.size);
     font.setBold(choice.bold);
     font.setItalic(choice.italic);
+    // By its weight alone the dialog looks for a translated name, which the list does not have.
+    font.setStyleName(StyleOf(font));
     font.setStrikeOut(choice.strikethrough);
     font.setUnderline(choice.underline);
     return font;

@@ -82,6 +82,7 @@ public:
 
     std::optional<FontChoice> PickFont(QWidget* owner, const FontChoice& start,
                                        const FontPickerTexts& texts) override {
+        const QtTexts qtTexts;
         FontPicker picker(*this, start, texts, owner);
         RunModal(picker);
         return std::nullopt;
@@ -247,6 +248,7 @@ bool Make(const QString& file, const std::function<void()>& show) {
     QList<Row> rows;
     for (const LanguageRow& language : Languages()) {
         SetLanguageCode(static_cast<std::int16_t>(language.number));
+        SetQtTextsLanguage(QLatin1String(language.locale));
         GrabbingDesktop desktop;
         const ScopedDesktop scope(desktop);
         show();

@@ -5,6 +5,7 @@
 #include "desktop/FontPicker.h"
 #include "desktop/HeadlessDesktop.h"
 #include "desktop/QtDesktop.h"
+#include "desktop/QtTexts.h"
 #include "dialogs/GraphSeriesProperties.h"
 #include "dialogs/GraphTextProperties.h"
 #include "dialogs/GraphTypes.h"
@@ -364,6 +365,25 @@ TEST(FontPicker, ShowsWhatIsDrawnForAFontThatIsNotInstalledWithItsStyles) {
     choose(true, true);
     choose(false, true);
     choose(true, false);
+}
+
+TEST(FontPicker, ShowsTheStyleOfTheFontInEveryLanguage) {
+    const QString family = QFontInfo(QFont(QStringLiteral("Liberation Sans"))).family();
+    for (const char* locale : {"", "pt_BR", "es", "it"}) {
+        SetQtTextsLanguage(QLatin1String(locale));
+        const QtTexts texts;
+        for (const bool bold : {false, true}) {
+            for (const bool italic : {false, true}) {
+                const FontChoice start{.family = family, .size = 12, .bold = bold, .italic = italic};
+                ScriptedDesktop desktop;
+                const FontPicker picker(desktop, start, {}, nullptr);
+                const QFont shown = picker.findChild<QFontDialog*>()->currentFont();
+                EXPECT_EQ(shown.bold(), bold) << locale;
+                EXPECT_EQ(shown.italic(), italic) << locale;
+            }
+        }
+    }
+    SetQtTextsLanguage({});
 }
 
 TEST(FontPicker, GivesTheColourAndTheEffectsThatWereChosen) {
