@@ -14,6 +14,8 @@ configure_package_config_file(cmake/QmChart6Config.cmake.in "${PROJECT_BINARY_DI
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/QmChart6ConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/QmChart6Config.cmake" "${PROJECT_BINARY_DIR}/QmChart6ConfigVersion.cmake"
   DESTINATION "${package}" COMPONENT Development)
+# It says where it is itself, so that what was installed may be moved.
+file(RELATIVE_PATH up_to_prefix "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 configure_file(cmake/qmchart6.pc.in "${PROJECT_BINARY_DIR}/qmchart6.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/qmchart6.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT Development)
 

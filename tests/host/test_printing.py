@@ -94,7 +94,7 @@ class Pages(Printing):
 
     def test_nobody_is_asked_on_a_display(self):
         reader, writer = os.pipe()
-        display = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-nolisten", "tcp"], pass_fds=[writer],
+        display = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-noreset", "-nolisten", "tcp"], pass_fds=[writer],
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.addCleanup(display.wait, test_qmchart.LIMIT)
         self.addCleanup(display.terminate)

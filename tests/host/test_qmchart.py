@@ -181,7 +181,7 @@ class OnADisplay(Host):
     def setUp(self):
         super().setUp()
         reader, writer = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"], writer)
+        self.start(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1024x24", "-noreset", "-nolisten", "tcp"], writer)
         os.close(writer)
         with os.fdopen(reader) as told:
             self.environment["DISPLAY"] = ":" + told.readline().strip()

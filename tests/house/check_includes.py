@@ -13,6 +13,7 @@ import tempfile
 # The public headers belong to the floors that make them: the vocabulary to the ground, the faces to the top.
 PUBLIC = {"Array.h": "base", "Export.h": "base", "Language.h": "base", "RuntimeError.h": "base", "Variant.h": "base"}
 FACES = "automation"
+C_FACE = "qmchart6.h"
 HOST = "apps/qmchart"
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
 
@@ -31,7 +32,9 @@ class Floors:
 
     def of(self, path):
         """The floor of a file named relative to src/, include/ or apps/."""
-        if path.startswith("qmchart6/"):
+        if path == C_FACE:
+            path = "cface/"
+        elif path.startswith("qmchart6/"):
             path = PUBLIC.get(path.removeprefix("qmchart6/"), FACES) + "/"
         elif path.startswith("qmchart/"):
             return HOST

@@ -32,7 +32,8 @@ class Display:
 
     def __init__(self, manager="openbox", size="1280x900"):
         reading, writing = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp"],
+        # Without a reset it does not begin anew, and lose who just comes, when a first program has come and gone.
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-noreset", "-nolisten", "tcp"],
                                        pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as numbers:

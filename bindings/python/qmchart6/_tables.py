@@ -44,7 +44,7 @@ def _of_interface(data: Any) -> Values | None:
     told = data.__array_interface__
     shape = told["shape"]
     strides = told.get("strides")
-    fits = told["typestr"] in ("=f8", "<f8" if _is_little() else ">f8") and told.get("mask") is None
+    fits = told["typestr"] in ("=f8", "<f8" if _is_little() else ">f8") and not hasattr(data, "mask")
     if len(shape) == 1:
         shape, strides = (shape[0], 1), ((strides or (_DOUBLE,))[0], _DOUBLE)
     if not fits or len(shape) != 2 or not isinstance(told.get("data"), tuple):
