@@ -1,7 +1,8 @@
 #include "support/SampleKit.h"
 
-#include <QDateTime>
+#include <QDate>
 #include <QLocale>
+#include <QTime>
 
 #include <cmath>
 
@@ -41,9 +42,8 @@ Chart DaysIn(QLocale::Language language, int count, const QString& format) {
 
 Chart Hours() {
     return Over(72, ChartType::Line2D, [](int i) {
-        return QDateTime(QDate(2024, 2, 28), QTime(0, 0), Qt::UTC)
-            .addSecs(3600 * i)
-            .toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+        return QDate(2024, 2, 28).addDays(i / 24).toString(Qt::ISODate) +
+               QTime(i % 24, 0).toString(QStringLiteral(" HH:mm"));
     });
 }
 
